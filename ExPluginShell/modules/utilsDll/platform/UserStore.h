@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QSettings>
+
+#include <memory>
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+/// The company-wide native store of the current user, which holds the user identifier of all products: the
+/// registry branch of the company on Windows, the organisation's own settings file elsewhere. The caller owns
+/// the result.
+std::unique_ptr<QSettings> companyStore();
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE

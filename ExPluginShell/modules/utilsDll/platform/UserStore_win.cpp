@@ -1,0 +1,15 @@
+#include "platform/UserStore.h"
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+std::unique_ptr<QSettings> companyStore()
+{
+    return std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\Software\\Tolvan\\"),
+                                       QSettings::NativeFormat);
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE

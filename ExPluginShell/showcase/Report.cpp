@@ -1,0 +1,47 @@
+#include "Report.h"
+
+#include <QTextStream>
+
+namespace
+{
+
+constexpr int nameWidth = 38;
+
+void print(const QString& text)
+{
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    out << text << '\n';
+}
+
+} // namespace
+
+void Report::heading(const QString& title)
+{
+    print(QStringLiteral("\n%1\n%2").arg(title, QString(title.size(), QLatin1Char('-'))));
+}
+
+void Report::row(const QString& name, const QString& value)
+{
+    line(QStringLiteral("    "), name, value);
+}
+
+void Report::check(const QString& name, const QString& value, bool ok)
+{
+    ++(ok ? m_passed : m_failed);
+    line(ok ? QStringLiteral("ok  ") : QStringLiteral("FAIL"), name, value);
+}
+
+bool Report::finish()
+{
+    print(QStringLiteral("\n%1 steps did what they should, %2 did not.").arg(m_passed).arg(m_failed));
+    return m_failed == 0 && m_passed > 0;
+}
+
+void Report::line(const QString& mark, const QString& name, const QString& value)
+{
+    print(QStringLiteral("  %1 %2 %3")
+              .arg(mark, name.leftJustified(nameWidth), value)
+              .trimmed()
+              .prepend(QStringLiteral("  ")));
+}

@@ -1,0 +1,11 @@
+#include "Sections.h"
+
+QVector<Section> sections()
+{
+    return {
+        {"Logging", &showLogging},
+        {"Storage locations", &showStorage},
+        {"Settings", &showSettings},
+        {"Application state and process", &showState},
+    };
+}

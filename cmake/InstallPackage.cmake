@@ -1,0 +1,33 @@
+# Installs the CMake package: find_package(UtilsDllTrelioFrame) gives Tolvan::UtilsDllTrelioFrame.
+include(CMakePackageConfigHelpers)
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/UtilsDllTrelioFrame")
+
+install(TARGETS UtilsDllTrelioFrame EXPORT UtilsDllTrelioFrameTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+foreach(header IN LISTS UTILSDLL_PUBLIC_HEADERS)
+    get_filename_component(folder "${header}" DIRECTORY)
+    install(FILES "ExPluginShell/modules/utilsDll/${header}"
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/utilsDll/${folder}")
+endforeach()
+install(EXPORT UtilsDllTrelioFrameTargets NAMESPACE Tolvan:: DESTINATION ${package_dir})
+
+configure_package_config_file(
+    "${CMAKE_CURRENT_LIST_DIR}/UtilsDllTrelioFrameConfig.cmake.in"
+    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
+    INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(
+    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
+    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
+    DESTINATION ${package_dir})
+if(TARGET LoggerDllTrelioFrame)
+    # Looked for beside the library first, so it is installed there on every platform.
+    install(TARGETS LoggerDllTrelioFrame
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()

@@ -1,0 +1,20 @@
+# Compiler settings of every target of this project, on one interface target; nothing is set globally.
+add_library(project_options INTERFACE)
+target_compile_features(project_options INTERFACE cxx_std_17)
+target_compile_options(project_options INTERFACE
+    -Wall -Wextra -Wshadow -Wold-style-cast -Wundef -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${UTILSDLL_WERROR}>:-Werror>)
+target_compile_definitions(project_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING
+    QT_DEPRECATED_WARNINGS_SINCE=0x050000)
+
+# A unique symbol pins a shared library in memory for good; the libraries here have to unload.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
+    target_compile_options(project_options INTERFACE -fno-gnu-unique)
+endif()
+
+if(UTILSDLL_SANITIZE)
+    target_compile_options(project_options INTERFACE
+        -fsanitize=${UTILSDLL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(project_options INTERFACE -fsanitize=${UTILSDLL_SANITIZE})
+endif()

@@ -1,0 +1,83 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that a group of work needs: build, test, windows, bench, lint, fuzz. Silent and fast when
+# nothing is missing.
+set -euo pipefail
+
+usage() {
+    cat <<'TEXT'
+Usage: tools/install-deps.sh GROUP...
+  build    compile the library and the showcase, and run it
+  test     run the tests
+  windows  cross-build for 64-bit Windows and run the result under Wine
+  bench    build and run the benchmark programs with their peers
+  lint     check the format and build with Clang
+  fuzz     build and run the fuzz targets
+TEXT
+}
+
+packages_of() {
+    case $1 in
+    build)
+        echo g++ cmake ninja-build ccache python3
+        echo qtbase5-dev qtbase5-private-dev libqt5svg5-dev libspdlog-dev
+        ;;
+    test)
+        echo libqt5svg5
+        ;;
+    windows)
+        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xz-utils
+        ;;
+    bench)
+        echo libbenchmark-dev
+        ;;
+    lint | fuzz)
+        echo clang clang-format libclang-rt-14-dev
+        ;;
+    *)
+        usage >&2
+        echo "install-deps: there is no group '$1'" >&2
+        exit 2
+        ;;
+    esac
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+case ${1:-} in
+-h | --help | '')
+    usage
+    exit 0
+    ;;
+esac
+
+missing=()
+for group in "$@"; do
+    for package in $(packages_of "$group"); do
+        is_installed "$package" || missing+=("$package")
+    done
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    exit 0
+fi
+
+echo "Installing ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "install-deps: these Debian packages are missing, and neither root nor sudo is here: ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+apt_get() {
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=600 -q "$@" >>"$log" 2>&1
+}
+if ! apt_get update || ! apt_get install -y --no-install-recommends "${missing[@]}"; then
+    tail -n 15 "$log" >&2
+    echo "install-deps: could not install these Debian packages (no network, or no rights?): ${missing[*]}" >&2
+    exit 1
+fi
