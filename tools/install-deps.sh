@@ -31,7 +31,7 @@ packages_of() {
         echo libbenchmark-dev
         ;;
     lint | fuzz)
-        echo clang clang-format libclang-rt-14-dev
+        echo clang clang-format libclang-rt-14-dev shellcheck
         ;;
     *)
         usage >&2

@@ -40,8 +40,6 @@ bool Report::finish()
 
 void Report::line(const QString& mark, const QString& name, const QString& value)
 {
-    print(QStringLiteral("  %1 %2 %3")
-              .arg(mark, name.leftJustified(nameWidth), value)
-              .trimmed()
-              .prepend(QStringLiteral("  ")));
+    const QString row = mark + QLatin1Char(' ') + name.leftJustified(nameWidth) + QLatin1Char(' ') + value;
+    print(QStringLiteral("  ") + row);
 }

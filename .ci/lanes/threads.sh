@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# The tests that use threads, under ThreadSanitizer.
+set -euo pipefail
+source tools/setup.sh
+install_packages build test
+build dev-tsan
+ctest --preset dev-tsan

@@ -1,0 +1,36 @@
+# shellcheck shell=bash
+# What run.sh, test.sh and the lanes of .ci/run share. Sourced from the top folder of the tree.
+
+# install_packages GROUP...: makes sure that the packages of these groups are there.
+install_packages() {
+    if ! command -v apt-get >/dev/null; then
+        echo "setup: this is not a Debian system; install the packages that tools/install-deps.sh names for: $*" >&2
+        return 0
+    fi
+    echo "== Checking the packages: $*"
+    tools/install-deps.sh "$@"
+}
+
+# build PRESET [CMAKE OPTION...]: configures and builds one preset; what the compiler says goes to the terminal only
+# when something is wrong.
+build() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    echo "== Configuring ($preset)"
+    if ! cmake --preset "$preset" "$@" >"$log" 2>&1; then
+        tail -n 40 "$log" >&2
+        echo "setup: configuring '$preset' failed; the last lines are above" >&2
+        rm -f "$log"
+        return 1
+    fi
+    echo "== Building ($preset)"
+    if ! cmake --build --preset "$preset" >"$log" 2>&1; then
+        grep -E 'error|FAILED|undefined|warning' "$log" | head -n 40 >&2
+        tail -n 20 "$log" >&2
+        echo "setup: building '$preset' failed; the last lines are above" >&2
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+}
