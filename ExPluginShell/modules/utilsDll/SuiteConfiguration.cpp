@@ -111,13 +111,14 @@ QString CSettings::getSettingFromConfigFile(const QString& path, const QString& 
                                             const QString& defaultValue)
 {
     QFile file(path);
-    if (!file.exists()) {
+    // Opened before it is looked for: a file that is being replaced may seem not to exist for a moment.
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        if (file.exists()) {
+            throw failure("Fail to open the Ostra Collection configuration file: ", path);
+        }
         UTILSDLL_LOG(LogLevel::Warning, "TOLVAN_NAMESPACE::CSettings::getSettingFromConfigFile")
             << "Ostra Collection configuration file was not found: " << path;
         return defaultValue;
-    }
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        throw failure("Fail to open the Ostra Collection configuration file: ", path);
     }
     const QString xml = QString::fromUtf8(file.readAll());
     file.close();
@@ -153,16 +154,16 @@ QDomElement CSettings::searchKeyInXML(QDomDocument& document, const QString& gro
 void CSettings::writeSettingToConfigFile(const QString& path, const QString& group, const QString& key,
                                          const QString& value, const QString& type)
 {
+    const char* const openFailure = "Fail to open Ostra Collection configuration file: ";
     QFile file(path);
-    if (!file.exists()) {
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly)) {
+        if (file.exists()) {
+            throw failure(openFailure, path);
+        }
         if (!replaceFile(path, createOstraCollectionXMLWithGivenSetting(group, key, value, type))) {
             throw failure("Fail to create Ostra Collection configuration file : ", path);
         }
         return;
-    }
-    const char* const openFailure = "Fail to open Ostra Collection configuration file: ";
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Text)) {
-        throw failure(openFailure, path);
     }
     QString xml = QString::fromUtf8(file.readAll());
     file.close();

@@ -1,0 +1,225 @@
+#include "TestMain.h"
+
+#include <utilsDll/ApplicationState.h>
+#include <utilsDll/ProcessInformation.h>
+#include <utilsDll/Settings.h>
+#include <utilsDll/StorageLocation.h>
+#include <utilsDll/TemporarySettings.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <functional>
+#include <memory>
+
+using namespace TOLVAN_NAMESPACE;
+using Setter = std::function<void()>;
+using Getter = std::function<QVariant()>;
+Q_DECLARE_METATYPE(Setter)
+Q_DECLARE_METATYPE(Getter)
+
+namespace
+{
+
+QString text(const char* latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+} // namespace
+
+/// Every value in normal and in temporary mode, checked in the store itself.
+class ApplicationStateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void init();
+    void cleanup();
+    void storedForms_data();
+    void storedForms();
+    void switches_data();
+    void switches();
+    void crashCounters();
+    void userIdentifier();
+    void deliberateAsymmetries();
+    void pluginFolder();
+    void process();
+
+private:
+    std::unique_ptr<QSettings> store() const
+    {
+        return m_temporary
+                   ? std::make_unique<QSettings>(m_temporary->tempSettingsPath(), QSettings::IniFormat)
+                   : std::make_unique<QSettings>(text("Tolvan"), text("Trelio Frame"));
+    }
+    std::unique_ptr<CTemporarySettings> m_temporary;
+};
+
+void ApplicationStateTest::initTestCase_data()
+{
+    QTest::addColumn<bool>("temporary");
+    QTest::newRow("native store") << false;
+    QTest::newRow("temporary file") << true;
+}
+
+void ApplicationStateTest::init()
+{
+    IsolatedProfile::clearStores();
+    QFETCH_GLOBAL(bool, temporary);
+    if (temporary) {
+        m_temporary = std::make_unique<CTemporarySettings>(nullptr);
+        CSettings::setTemporarySettings(*m_temporary);
+    }
+}
+
+void ApplicationStateTest::cleanup()
+{
+    CSettings::resetTemporarySettings();
+    m_temporary.reset();
+}
+
+void ApplicationStateTest::storedForms_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<Getter>("get");
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<Setter>("set");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QVariant>("after");
+    const auto row = [](const char* key, const Getter& get, const QVariant& before, const Setter& set,
+                        const char* stored, const QVariant& after) {
+        QTest::addRow("%s=%s", key, stored) << text(key) << get << before << set << text(stored) << after;
+    };
+    row("app_launched", &isFirstLaunch, true, &setNotFirstLaunch, "1", false);
+    row(
+        "app_launchMode", &getLastLaunchMode, text(""), [] { setLastLaunchMode(text("Plug-in")); }, "Plug-in",
+        text("Plug-in"));
+    row(
+        "loggerLevel", &getLogLevel, text("D"), [] { setLogLevel(text("W")); }, "W", text("W"));
+    row(
+        "loggerEnabled", &isLoggerEnabled, true, [] { setLoggerEnabled(false); }, "0", false);
+    row(
+        "loggerEnabled", &isLoggerEnabled, true, [] { setLoggerEnabled(true); }, "1", true);
+    row(
+        "TolvanSentCrashReport", &crashReportSendingAllowed, true, [] { allowCrashReportSending(false); },
+        "0", false);
+    row(
+        "TolvanSentCrashReport", &crashReportSendingAllowed, true, [] { allowCrashReportSending(true); }, "1",
+        true);
+    row(
+        "resellerId", &getResellerID, text("Tolvan"), [] { setResellerID(text("Shop")); }, "Shop",
+        text("Tolvan"));
+}
+
+void ApplicationStateTest::storedForms()
+{
+    QFETCH(QString, key);
+    QFETCH(Getter, get);
+    QFETCH(Setter, set);
+    QTEST(get(), "before");
+    QVERIFY(!store()->contains(key)); // reading stores nothing
+    set();
+    QTEST(store()->value(key).toString(), "stored");
+    QTEST(get(), "after");
+}
+
+void ApplicationStateTest::switches_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("text 0") << QVariant(text("0")) << false;
+    QTest::newRow("number 0") << QVariant(0) << false;
+    QTest::newRow("empty text") << QVariant(text("")) << true;
+    QTest::newRow("text 00") << QVariant(text("00")) << true;
+    QTest::newRow("boolean false") << QVariant(false) << true;
+    QTest::newRow("word") << QVariant(text("no")) << true;
+}
+
+void ApplicationStateTest::switches()
+{
+    QFETCH(QVariant, stored);
+    for (const char* const key : {"loggerEnabled", "TolvanSentCrashReport", "UseActionSave"}) {
+        CSettings().setValue(text(key), stored);
+    }
+    QTEST(isLoggerEnabled(), "expected");
+    QTEST(crashReportSendingAllowed(), "expected");
+    QTEST(useActionSave(), "expected");
+}
+
+void ApplicationStateTest::crashCounters()
+{
+    QCOMPARE(crashCounterForPlugin(text("X")), 0);
+    setLastLaunchMode(text("X"));
+    incrementCrashCounter();
+    incrementCrashCounter();
+    setLastLaunchMode(text("Y"));
+    incrementCrashCounter();
+    QCOMPARE(crashCounterForPlugin(text("X")), 2);
+    QCOMPARE(store()->value(text("crashCounter_Y")).toInt(), 1);
+    crashCounterReset(text("X"));
+    QCOMPARE(crashCounterForPlugin(text("X")), 0);
+    QVERIFY(!store()->contains(text("crashCounter_X")) && store()->contains(text("crashCounter_Y")));
+}
+
+void ApplicationStateTest::userIdentifier()
+{
+#ifdef Q_OS_WIN
+    QSettings company(text("HKEY_CURRENT_USER\\Software\\Tolvan\\"), QSettings::NativeFormat);
+#else
+    QSettings company(text("Tolvan"));
+#endif
+    const QString id = getUserID();
+    QVERIFY(QRegularExpression(text("^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")).match(id).hasMatch());
+    company.sync();
+    QCOMPARE(company.value(text("UserID")).toString(), id);
+    QCOMPARE(getUserID(), id);
+    company.setValue(text("UserID"), text("given"));
+    company.sync();
+    QCOMPARE(getUserID(), text("given"));
+    QVERIFY(!m_temporary || !store()->contains(text("UserID")));
+}
+
+void ApplicationStateTest::deliberateAsymmetries()
+{
+    QVERIFY(useActionSave()); // nothing stored
+    const QString global = CStorageLocation::getOstraGlobalConfigFileLocation();
+    QVERIFY(QDir().mkpath(QFileInfo(global).path()));
+    setStatisticSent(false);
+    QVERIFY(isStatisticSent());
+    const auto stored = [] {
+        return CSettings::getSettingFromOstraGlobalConfigFile(text("Instrumentation"), text("AllowSending"),
+                                                              QString());
+    };
+    QCOMPARE(stored(), text("0"));
+    setStatisticSent(true);
+    QCOMPARE(stored(), text("1"));
+    QVERIFY(QFile::remove(global));
+}
+
+void ApplicationStateTest::pluginFolder()
+{
+    QFETCH_GLOBAL(bool, temporary);
+    const QString program = QCoreApplication::applicationDirPath();
+    if (!temporary) { // the first answer is kept for the life of the process
+        QCOMPARE(getQtPluginsDir(true), QString());
+    }
+    QCOMPARE(getQtPluginsDir(false), program);
+    QCOMPARE(getQtPluginsDir(true), program);
+}
+
+void ApplicationStateTest::process()
+{
+    const QString name = UtilsDll::currentProcessName();
+    QCOMPARE(name, QFileInfo(QCoreApplication::applicationFilePath()).fileName());
+    for (const QString& unknown : {QString(), text("no such process.exe")}) {
+        const auto version = UtilsDll::binaryFileVersionByProcessName(unknown);
+        QCOMPARE(version.major + version.minor + version.build + version.revision, 0U);
+        QVERIFY(version.text.isEmpty());
+    }
+}
+
+TOLVAN_CORE_TEST_MAIN(ApplicationStateTest)
+#include "tst_applicationstate.moc"

@@ -1,0 +1,176 @@
+#include "TestMain.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace
+{
+
+QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+#ifdef Q_OS_WIN
+const QString programSuffix = QStringLiteral(".exe");
+const QByteArray lineEnd = "\r\n";
+#else
+const QString programSuffix;
+const QByteArray lineEnd = "\n";
+#endif
+
+const QString loggerFile = QStringLiteral("LoggerDllTrelioFrame.dll");
+const QByteArray missing =
+    "***ERROR*** logger dll could not be loaded from  LoggerDllTrelioFrame.dll" + lineEnd;
+
+} // namespace
+
+/// Every outcome of the start-up, each in a process of its own with a program folder of its own.
+class LoggerStartupTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void outcomes_data();
+    void outcomes();
+    void startUpLines();
+    void levelLetter_data();
+    void levelLetter();
+
+private:
+    struct Outcome {
+        QByteArray out, err, loggerCalls, logFolder;
+        QList<QByteArray> result;
+    };
+    Outcome start(const QString& library, const QString& mode);
+
+    QSettings m_settings{QStringLiteral("Tolvan"), QStringLiteral("Trelio Frame")};
+};
+
+void LoggerStartupTest::init()
+{
+    IsolatedProfile::clearStores();
+    m_settings.sync();
+}
+
+LoggerStartupTest::Outcome LoggerStartupTest::start(const QString& library, const QString& mode)
+{
+    const QTemporaryDir folder;
+    const QDir build(QCoreApplication::applicationDirPath());
+    const QDir program(folder.path());
+    const QString executable = program.filePath(text("logger_startup_child") + programSuffix);
+    Outcome outcome;
+    if (!QFile::copy(build.filePath(QFileInfo(executable).fileName()), executable) ||
+        (!library.isEmpty() && !QFile::copy(build.filePath(library), program.filePath(loggerFile)))) {
+        return outcome;
+    }
+    QProcess process;
+    process.setWorkingDirectory(folder.path());
+    process.start(executable, {mode, text("my log")});
+    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit &&
+        process.exitCode() == 0) {
+        outcome.result = contentOf(program.filePath(text("result.txt"))).split(' ');
+        outcome.logFolder = outcome.result.mid(3).join(' ');
+    }
+    outcome.out = process.readAllStandardOutput();
+    outcome.err = process.readAllStandardError();
+    outcome.loggerCalls = contentOf(program.filePath(text("logger.txt")));
+    return outcome;
+}
+
+void LoggerStartupTest::outcomes_data()
+{
+    QTest::addColumn<QString>("enabled");
+    QTest::addColumn<QString>("library");
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QByteArray>("logger");
+    QTest::addColumn<QByteArray>("err");
+    const QString good = text("fake_logger.dll");
+    QTest::newRow("switched off, host logger") << "0" << good << "host" << QByteArray("null") << QByteArray();
+    QTest::newRow("switched off") << "0" << good << "none" << QByteArray("null") << QByteArray();
+    QTest::newRow("host logger") << "1" << good << "host" << QByteArray("host") << QByteArray();
+    QTest::newRow("library missing") << "1" << QString() << "none" << QByteArray("null") << missing + missing;
+    QTest::newRow("library without export")
+        << "1" << text("fake_logger_no_export.dll") << "none" << QByteArray("null") << missing + missing;
+    QTest::newRow("library without logger")
+        << "1" << text("fake_logger_null.dll") << "none" << QByteArray("null") << missing + missing;
+}
+
+void LoggerStartupTest::outcomes()
+{
+    QFETCH(QString, enabled);
+    QFETCH(QString, library);
+    QFETCH(QString, mode);
+    QFETCH(QByteArray, logger);
+    QFETCH(QByteArray, err);
+    m_settings.setValue(text("loggerEnabled"), enabled);
+    m_settings.sync();
+    const Outcome outcome = start(library, mode);
+    QCOMPARE(outcome.result.mid(0, 3),
+             QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
+    QCOMPARE(outcome.out, QByteArray());
+    QCOMPARE(outcome.err, err);
+    QCOMPARE(outcome.loggerCalls, QByteArray());
+}
+
+void LoggerStartupTest::startUpLines()
+{
+    const Outcome outcome = start(text("fake_logger.dll"), text("none"));
+    QCOMPARE(outcome.result.mid(0, 3), QList<QByteArray>({"library", "library", "0"}));
+    QCOMPARE(outcome.err, QByteArray());
+    QCOMPARE(outcome.out, "Initializing logger in " + outcome.logFolder + " / my log" + lineEnd);
+    QVERIFY(QDir(QString::fromUtf8(outcome.logFolder)).exists());
+
+    const QList<QByteArray> lines = outcome.loggerCalls.split('\n'); // one set, for two calls
+    QCOMPARE(lines.size(), 7);
+    QCOMPARE(lines.at(0), "init " + outcome.logFolder + "|my log|68");
+    const QByteArray prefix = " TOLVAN_NAMESPACE::initLogger: ";
+    const QString timeLine = QString::fromUtf8(lines.at(1));
+    const QString timePrefix = QString::fromUtf8("D" + prefix + "Current time (UTC): ");
+    QVERIFY2(timeLine.startsWith(timePrefix) && timeLine.endsWith(QLatin1Char('Z')), qPrintable(timeLine));
+    const auto time = QDateTime::fromString(timeLine.mid(timePrefix.size()), Qt::ISODate);
+    QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTimeUtc())) < 60);
+    QCOMPARE(lines.at(2), "D" + prefix + "Trelio Frame Version: 5.0.5.1");
+    const QRegularExpression uid(text("^D TOLVAN_NAMESPACE::initLogger: UID: [0-9a-f-]{36}$"));
+    QVERIFY(uid.match(QString::fromUtf8(lines.at(3))).hasMatch());
+    QCOMPARE(lines.at(4), "D" + prefix + "CE version: 10.0.12.220711210");
+    QCOMPARE(lines.at(5), "I" + prefix + "Starting QZ application for branch 'HEAD', hash '377e5e6a6'");
+    QCOMPARE(lines.at(6), QByteArray());
+}
+
+void LoggerStartupTest::levelLetter_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<int>("letter");
+    QTest::newRow("one letter") << "E" << int('E');
+    QTest::newRow("a word") << "Warning" << int('W');
+    QTest::newRow("empty") << "" << 0;
+    QTest::newRow("Latin-1") << QStringLiteral("é") << 0xE9;
+    QTest::newRow("outside Latin-1") << QStringLiteral("日") << 0;
+}
+
+void LoggerStartupTest::levelLetter()
+{
+    QFETCH(QString, stored);
+    QFETCH(int, letter);
+    m_settings.setValue(text("loggerLevel"), stored);
+    m_settings.sync();
+    const Outcome outcome = start(text("fake_logger.dll"), text("none"));
+    QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letter) + "\n"),
+             outcome.loggerCalls);
+}
+
+TOLVAN_CORE_TEST_MAIN(LoggerStartupTest)
+#include "tst_loggerstartup.moc"

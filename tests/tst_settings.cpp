@@ -1,0 +1,281 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/Settings.h>
+#include <utilsDll/StorageLocation.h>
+#include <utilsDll/TemporarySettings.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+
+#include <memory>
+
+using TOLVAN_NAMESPACE::CSettings;
+
+namespace
+{
+
+QString text(const char* latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+/// The store behind the facade, seen through a plain QSettings: the native one or the temporary file.
+std::unique_ptr<QSettings> store(bool temporary, const CTemporarySettings& settings)
+{
+    return temporary ? std::make_unique<QSettings>(settings.tempSettingsPath(), QSettings::IniFormat)
+                     : std::make_unique<QSettings>(text("Tolvan"), text("Trelio Frame"));
+}
+
+/// Ends the mode as old callers do: with a reference to nothing.
+#if defined(__GNUC__)
+__attribute__((no_sanitize("undefined"), noinline))
+#endif
+void
+setTemporarySettingsToNull(CTemporarySettings* nothing)
+{
+    CSettings::setTemporarySettings(*nothing);
+}
+
+} // namespace
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void operationsReachTheStore_data();
+    void operationsReachTheStore();
+    void groupsInTemporaryMode();
+    void groupSurvivesSwitchOfMode();
+    void persistentOnlyIgnoresTemporaryMode();
+    void modeFollowsTheObject();
+    void modeEndsWithNull_data();
+    void modeEndsWithNull();
+    void familyLanguage_data();
+    void familyLanguage();
+    void preferencesFile();
+
+private:
+    std::unique_ptr<CTemporarySettings> m_temporary;
+};
+
+void SettingsTest::init()
+{
+    IsolatedProfile::clearStores();
+    m_temporary = std::make_unique<CTemporarySettings>(nullptr);
+    installedLogger().take();
+}
+
+void SettingsTest::cleanup()
+{
+    CSettings::resetTemporarySettings();
+}
+
+void SettingsTest::operationsReachTheStore_data()
+{
+    QTest::addColumn<bool>("temporary");
+    QTest::newRow("native store") << false;
+    QTest::newRow("temporary file") << true;
+}
+
+void SettingsTest::operationsReachTheStore()
+{
+    QFETCH(bool, temporary);
+    if (temporary) {
+        CSettings::setTemporarySettings(*m_temporary);
+    }
+    CSettings settings;
+    QCOMPARE(settings.usingTemporarySettings(), temporary);
+    settings.setValue(text("k"), 7);
+    settings.setValue(QStringLiteral("ключ 日本"), QStringLiteral("значение"));
+    settings.beginWriteArray(text("list"), 2);
+    settings.setArrayIndex(1);
+    settings.setValue(text("entry"), text("second"));
+    settings.endArray();
+    settings.sync();
+    {
+        const auto plain = store(temporary, *m_temporary);
+        QCOMPARE(plain->value(text("k")).toInt(), 7);
+        QCOMPARE(plain->value(QStringLiteral("ключ 日本")).toString(), QStringLiteral("значение"));
+        QCOMPARE(plain->value(text("list/size")).toInt(), 2);
+        QCOMPARE(plain->value(text("list/2/entry")).toString(), text("second"));
+    }
+    QCOMPARE(settings.value(text("k"), 0).toInt(), 7);
+    QCOMPARE(settings.value(text("absent"), 5).toInt(), 5);
+    QVERIFY(settings.contains(text("k")) && !settings.contains(text("absent")));
+    QCOMPARE(settings.beginReadArray(text("list")), 2);
+    settings.setArrayIndex(1);
+    QCOMPARE(settings.value(text("entry")).toString(), text("second"));
+    settings.endArray();
+    settings.remove(text("k"));
+    settings.sync();
+    QVERIFY(!store(temporary, *m_temporary)->contains(text("k")));
+    // Nothing leaks into the other store.
+    QVERIFY(!store(!temporary, *m_temporary)->contains(text("list/size")));
+}
+
+void SettingsTest::groupsInTemporaryMode()
+{
+    CSettings::setTemporarySettings(*m_temporary);
+    CSettings settings;
+    CSettings other;
+    settings.beginGroup(text("A"));
+    QCOMPARE(settings.group(), text("A"));
+    QCOMPARE(settings.localKey(text("k")), text("A/k"));
+    settings.setValue(text("k"), 1);
+    QCOMPARE(store(true, *m_temporary)->value(text("A/k")).toInt(), 1); // on disk at once
+    QVERIFY(!settings.value(text("k")).isValid()); // read without the prefix, as documented
+    QVERIFY(settings.contains(text("k")) && !settings.contains(text("A/k")));
+    QVERIFY(other.group().isEmpty());
+    QCOMPARE(other.value(text("A/k")).toInt(), 1);
+    settings.beginGroup(text("B")); // replaces, does not nest
+    QCOMPARE(settings.group(), text("B"));
+    settings.beginGroup(text("A"));
+    settings.remove(text("k"));
+    QVERIFY(!store(true, *m_temporary)->contains(text("A/k")));
+    settings.endGroup();
+    QVERIFY(settings.group().isEmpty());
+    QCOMPARE(settings.localKey(text("k")), text("k"));
+}
+
+void SettingsTest::groupSurvivesSwitchOfMode()
+{
+    CSettings::setTemporarySettings(*m_temporary);
+    CSettings settings;
+    settings.beginGroup(text("A"));
+    CSettings::resetTemporarySettings();
+    QVERIFY(settings.group().isEmpty()); // the native store's own group
+    settings.setValue(text("A/k"), 3);
+    QCOMPARE(settings.value(text("k")).toInt(), 3); // the prefix is applied to reading alone
+    QVERIFY(!settings.contains(text("k")));
+    settings.endGroup(); // of the native store: the prefix stays
+    QCOMPARE(settings.localKey(text("k")), text("A/k"));
+}
+
+void SettingsTest::persistentOnlyIgnoresTemporaryMode()
+{
+    CSettings::setTemporarySettings(*m_temporary);
+    CSettings settings(nullptr, true);
+    QVERIFY(!settings.usingTemporarySettings());
+    settings.setValue(text("k"), 1);
+    settings.sync();
+    QVERIFY(store(false, *m_temporary)->contains(text("k")));
+    QVERIFY(!store(true, *m_temporary)->contains(text("k")));
+}
+
+void SettingsTest::modeFollowsTheObject()
+{
+    CSettings before;
+    CSettings::setTemporarySettings(*m_temporary);
+    const QString path = m_temporary->tempSettingsPath();
+    QCOMPARE(installedLogger().take(),
+             QStringList(text("D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are now "
+                              "stored in file: ") +
+                         path));
+    CSettings after;
+    after.setValue(text("k"), text("temporary"));
+    CTemporarySettings another(nullptr); // not handed over: changes nothing
+    QVERIFY(before.usingTemporarySettings() && after.usingTemporarySettings());
+    m_temporary.reset();
+    QVERIFY(!before.usingTemporarySettings() && !after.usingTemporarySettings());
+    // Only the instance made after the switch is connected.
+    QCOMPARE(installedLogger().take(),
+             QStringList({text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Temporary "
+                               "settings file is to be destoyed: ") +
+                              path,
+                          text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Persistent "
+                               "settings will be used")}));
+    QVERIFY(!after.contains(text("k")));
+    after.setValue(text("k"), text("persistent"));
+    QCOMPARE(after.value(text("k")).toString(), text("persistent"));
+}
+
+void SettingsTest::modeEndsWithNull_data()
+{
+    QTest::addColumn<bool>("reference");
+    QTest::newRow("reset") << false;
+    QTest::newRow("reference to nothing") << true;
+}
+
+void SettingsTest::modeEndsWithNull()
+{
+    QFETCH(bool, reference);
+    CSettings::setTemporarySettings(*m_temporary);
+    installedLogger().take();
+    reference ? setTemporarySettingsToNull(nullptr) : CSettings::resetTemporarySettings();
+    QVERIFY(!CSettings().usingTemporarySettings());
+    QCOMPARE(
+        installedLogger().take(),
+        QStringList(text(
+            "D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are now stored in system")));
+}
+
+void SettingsTest::familyLanguage_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("expected");
+    QTest::addColumn<QString>("reported");
+    for (const int code : {0, 2, 5, 12, 13}) {
+        QTest::addRow("supported %d", code) << QVariant(code) << QVariant(code) << QString();
+    }
+    QTest::newRow("nothing stored") << QVariant() << QVariant(2) << QString();
+    QTest::newRow("unknown") << QVariant(7) << QVariant(2) << text("7");
+    QTest::newRow("negative") << QVariant(-1) << QVariant(2) << text("-1");
+    QTest::newRow("number as text") << QVariant(text("12")) << QVariant(text("12")) << QString();
+}
+
+void SettingsTest::familyLanguage()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, expected);
+    QFETCH(QString, reported);
+    CSettings::setTemporarySettings(*m_temporary); // plays no part here
+    installedLogger().take();
+    if (stored.isValid()) {
+        QSettings(text("Tolvan"), text("Ostra Collection")).setValue(text("currentLanguage"), stored);
+    }
+    QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toInt(), expected.toInt());
+    const QStringList lines = installedLogger().take();
+    QCOMPARE(lines.size(), reported.isEmpty() ? 0 : 1);
+    if (!lines.isEmpty()) {
+        QCOMPARE(
+            lines.first(),
+            text("I TOLVAN_NAMESPACE::CSettings::getLanguageFromOstraConfiguration: OSTRA Collection uses "
+                 "the language with code %1 that is not supported by Trelio Frame. English is used instead.")
+                .arg(reported));
+    }
+    CSettings::writeLanguageToOstraConfiguration(13);
+    QCOMPARE(QSettings(text("Tolvan"), text("Ostra Collection")).value(text("currentLanguage")).toInt(), 13);
+}
+
+void SettingsTest::preferencesFile()
+{
+    const QTemporaryDir folder;
+    QVERIFY_EXCEPTION_THROWN(CSettings::getStringFromPreferencesFile(text("k"), text("d")),
+                             std::runtime_error);
+    const QString path = QDir(folder.path()).filePath(QStringLiteral("Präferenzen.ini"));
+    {
+        QSettings file(path, QSettings::IniFormat);
+        file.setValue(text("k"), text("v"));
+        file.setValue(text("empty"), QString());
+    }
+    TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(path);
+    CSettings::setTemporarySettings(*m_temporary);
+    QCOMPARE(CSettings::getStringFromPreferencesFile(text("k"), text("d")), text("v"));
+    QCOMPARE(CSettings::getStringFromPreferencesFile(text("empty"), text("d")), text("d"));
+    QCOMPARE(CSettings::getStringFromPreferencesFile(text("absent"), text("d")), text("d"));
+    TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(QString());
+    try {
+        CSettings::getStringFromPreferencesFile(text("k"), text("d"));
+        QFAIL("an empty path has to throw");
+    } catch (const std::runtime_error& error) {
+        QCOMPARE(error.what(), "Preferences file path not set");
+    }
+}
+
+TOLVAN_CORE_TEST_MAIN(SettingsTest)
+#include "tst_settings.moc"

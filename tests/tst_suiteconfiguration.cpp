@@ -1,0 +1,321 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/Settings.h>
+#include <utilsDll/StorageLocation.h>
+
+#include <QDir>
+#include <QDomDocument>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+
+using TOLVAN_NAMESPACE::CSettings;
+using TOLVAN_NAMESPACE::CStorageLocation;
+
+namespace
+{
+
+QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+const QString userPrefix = QStringLiteral("TOLVAN_NAMESPACE::CSettings::%1SettingToOstraUserConfigFile: ");
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("(unreadable)");
+}
+
+} // namespace
+
+class SuiteConfigurationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void freshFileText();
+    void bothFilesAreKeptApart();
+    void reading_data();
+    void reading();
+    void writing_data();
+    void writing();
+    void failures_data();
+    void failures();
+    void hostileDocuments_data();
+    void hostileDocuments();
+    void largeDocument();
+    void readersSeeWholeFiles();
+    void killedWriterLeavesWholeFile();
+
+private:
+    QString m_path = CStorageLocation::getOstraUserConfigFileLocation();
+    void setContent(const QByteArray& xml);
+    static QString read(const char* key = "K", const char* group = "G")
+    {
+        return CSettings::getSettingFromOstraUserConfigFile(text(group), text(key), text("default"));
+    }
+    static bool write(const char* key, const char* value, const char* group = "G")
+    {
+        return CSettings::writeSettingToOstraUserConfigFile(text(group), text(key), text(value), text("T"));
+    }
+};
+
+void SuiteConfigurationTest::init()
+{
+    QDir(QFileInfo(m_path).path()).removeRecursively();
+    QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
+    installedLogger().take();
+}
+
+void SuiteConfigurationTest::setContent(const QByteArray& xml)
+{
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(xml), qint64(xml.size()));
+}
+
+void SuiteConfigurationTest::freshFileText()
+{
+    QVERIFY(write("K", "V"));
+    QByteArray content = contentOf(m_path);
+    // The order of the attributes inside key is not significant.
+    QVERIFY2(content.contains("value=\"V\"") && content.contains("type=\"T\"") &&
+                 content.contains(" name=\"K\""),
+             content);
+    content.replace(" value=\"V\"", "").replace(" type=\"T\"", "").replace(" name=\"K\"", "");
+    QCOMPARE(content, QByteArray("<configuration>\n    <group name=\"G\">\n        <key/>\n    </group>\n"
+                                 "</configuration>\n"));
+    QVERIFY(installedLogger().take().isEmpty());
+}
+
+void SuiteConfigurationTest::bothFilesAreKeptApart()
+{
+    const QString global = CStorageLocation::getOstraGlobalConfigFileLocation();
+    QVERIFY(QDir().mkpath(QFileInfo(global).path()));
+    QFile::remove(global);
+    QVERIFY(write("K", "user"));
+    QVERIFY(CSettings::writeSettingToOstraGlobalConfigFile(text("G"), text("K"), text("global"), text("T")));
+    QCOMPARE(read(), text("user"));
+    QCOMPARE(CSettings::getSettingFromOstraGlobalConfigFile(text("G"), text("K"), QString()), text("global"));
+    QVERIFY(QFile::remove(global));
+    QCOMPARE(CSettings::getSettingFromOstraGlobalConfigFile(text("G"), text("K"), text("d")), text("d"));
+    QVERIFY(!QFile::exists(global)); // reading never creates
+}
+
+void SuiteConfigurationTest::reading_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("value");
+    const auto row = [](const char* name, const char* body, const char* value) {
+        QTest::newRow(name) << QByteArray("<configuration>") + body + "</configuration>" << text(value);
+    };
+    row("first match wins", "<group name='G'><key name='K' value='1'/><key name='K' value='2'/></group>",
+        "1");
+    row("search goes on in groups of the same name",
+        "<group name='G'><key name='X' value='1'/></group><group name='G'><key name='K' value='2'/></group>",
+        "2");
+    row("tag of the key plays no part", "<group name='G'><anything name='K' value='1'/></group>", "1");
+    row("tag of the group does", "<groups name='G'><key name='K' value='1'/></groups>", "default");
+    row("only direct children", "<x><group name='G'><key name='K' value='1'/></group></x>", "default");
+    row("names are case-sensitive", "<group name='g'><key name='K' value='1'/></group>", "default");
+    row("no value means English", "<group name='G'><key name='K'/></group>", "en");
+    row("an empty value is a value", "<group name='G'><key name='K' value=''/></group>", "");
+    row("comments and foreign elements",
+        "<!-- <group> --><f/><group name='G'><!-- c --><key name='K' value='1'/></group>", "1");
+    row("entities", "<group name='G'><key name='K' value='&lt;&amp;&#228;'/></group>", "<&ä");
+    QTest::newRow("byte order mark and declaration")
+        << QByteArray("\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?><configuration><group name='G'>"
+                      "<key name='K' value='\xE6\x97\xA5'/></group></configuration>")
+        << text("日");
+}
+
+void SuiteConfigurationTest::reading()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, value);
+    setContent(xml);
+    QCOMPARE(read(), value);
+    QVERIFY(installedLogger().take().isEmpty());
+    QCOMPARE(contentOf(m_path), xml);
+}
+
+void SuiteConfigurationTest::writing_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<int>("groups");
+    QTest::addColumn<int>("keys");
+    QTest::newRow("known key") << QByteArray(
+                                      "<c><group name='G'><key name='K' type='old' value='1'/></group></c>")
+                               << QByteArray("K") << 1 << 1;
+    QTest::newRow("key without a value")
+        << QByteArray("<c><group name='G'><key name='K' type='old'/></group></c>") << QByteArray("K") << 1
+        << 1;
+    QTest::newRow("second key makes a second group")
+        << QByteArray("<c><group name='G'><key name='K' type='old' value='1'/></group></c>")
+        << QByteArray("K2") << 2 << 2;
+    QTest::newRow("non-ASCII names") << QByteArray("<c/>") << QByteArray("schlüssel 日本 <&\"'>") << 1 << 1;
+    QTest::newRow("comments and foreign elements stay")
+        << QByteArray("<c><!-- note --><foreign a='b'>text</foreign></c>") << QByteArray("K") << 1 << 1;
+}
+
+void SuiteConfigurationTest::writing()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, key);
+    QFETCH(int, groups);
+    QFETCH(int, keys);
+    setContent(before);
+    QVERIFY(write(key.constData(), "ä\"<new>"));
+    QCOMPARE(read(key.constData()), text("ä\"<new>"));
+    QDomDocument document;
+    QVERIFY(document.setContent(contentOf(m_path)));
+    QCOMPARE(document.elementsByTagName(text("group")).count(), groups);
+    QCOMPARE(document.elementsByTagName(text("key")).count(), keys);
+    QVERIFY(!before.contains("old") || contentOf(m_path).contains("\"old\"")); // the type is left as it was
+    QVERIFY(!before.contains("note") || contentOf(m_path).contains("<!-- note -->"));
+    QVERIFY(!before.contains("foreign") || contentOf(m_path).contains("<foreign a=\"b\">text</foreign>"));
+}
+
+void SuiteConfigurationTest::failures_data()
+{
+    QTest::addColumn<QByteArray>("situation");
+    QTest::addColumn<QString>("readLine");
+    QTest::addColumn<QString>("writeLine");
+    const QString readPrefix = text("E TOLVAN_NAMESPACE::CSettings::getSettingFromOstraUserConfigFile: ");
+    const QString writePrefix = text("E TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile: ");
+    const QString malformed = text("The stream is not a valid XML:\n");
+    const QString missing = text("W TOLVAN_NAMESPACE::CSettings::getSettingFromConfigFile: Ostra Collection "
+                                 "configuration file was not found: ");
+    QTest::newRow("no folder") << QByteArray("no folder") << missing + m_path
+                               << writePrefix +
+                                      text("Fail to create Ostra Collection configuration file : ") + m_path;
+    QTest::newRow("a folder in the way")
+        << QByteArray("folder")
+        << readPrefix + text("Fail to open the Ostra Collection configuration file: ") + m_path
+        << writePrefix + text("Fail to open Ostra Collection configuration file: ") + m_path;
+    QTest::newRow("empty file") << QByteArray() << readPrefix + malformed << writePrefix + malformed;
+    QTest::newRow("not XML") << QByteArray("<a><b></a>") << readPrefix + malformed + text("<a><b></a>")
+                             << writePrefix + malformed + text("<a><b></a>");
+}
+
+void SuiteConfigurationTest::failures()
+{
+    QFETCH(QByteArray, situation);
+    QFETCH(QString, readLine);
+    QFETCH(QString, writeLine);
+    if (situation == "no folder") {
+        QVERIFY(QDir(QFileInfo(m_path).path()).removeRecursively());
+    } else if (situation == "folder") {
+        QVERIFY(QDir().mkpath(m_path));
+    } else {
+        setContent(situation);
+    }
+    QCOMPARE(read(), text("default"));
+    QCOMPARE(installedLogger().take(), QStringList(readLine));
+    QVERIFY(!write("K", "V"));
+    QCOMPARE(installedLogger().take(), QStringList(writeLine));
+    if (situation != "no folder" && situation != "folder") {
+        QCOMPARE(contentOf(m_path), situation);
+    }
+}
+
+void SuiteConfigurationTest::hostileDocuments_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    const int deep = 200000;
+    QTest::newRow("deep") << QByteArray("<a>").repeated(deep) + QByteArray("</a>").repeated(deep);
+    QTest::newRow("deep behind closing tags in comments")
+        << QByteArray("<a><!--</a>-->").repeated(deep) + QByteArray("</a>").repeated(deep);
+    QTest::newRow("deep behind quoted slashes")
+        << QByteArray("<a b='/>'>").repeated(deep) + QByteArray("</a>").repeated(deep);
+    QTest::newRow("deep behind character data")
+        << QByteArray("<a><![CDATA[</a>]]>").repeated(deep) + QByteArray("</a>").repeated(deep);
+    QTest::newRow("entity bomb") << QByteArray(
+        "<!DOCTYPE c [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;'><!ENTITY d "
+        "'&b;&b;&b;&b;&b;&b;&b;&b;'>"
+        "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;'><!ENTITY f '&e;&e;&e;&e;&e;&e;&e;&e;'>]><c>&f;</c>");
+    QTest::newRow("cut off in a comment") << QByteArray("<c><!-- ");
+    QTest::newRow("cut off in a tag") << QByteArray("<c a='");
+    QTest::newRow("only an opening bracket") << QByteArray("<");
+}
+
+void SuiteConfigurationTest::hostileDocuments()
+{
+    QFETCH(QByteArray, xml);
+    setContent(xml);
+    QCOMPARE(read(), text("default"));
+    QVERIFY(!write("K", "V"));
+    QCOMPARE(contentOf(m_path), xml);
+}
+
+void SuiteConfigurationTest::largeDocument()
+{
+    QByteArray xml = "<configuration>\n";
+    int i = 0;
+    while (xml.size() < 10 * 1024 * 1024) {
+        const QByteArray n = QByteArray::number(i++);
+        xml +=
+            "    <group name=\"group" + n + "\"><key name=\"K\" type=\"int\" value=\"" + n + "\"/></group>\n";
+    }
+    setContent(xml + "</configuration>\n");
+    const QByteArray last = "group" + QByteArray::number(i - 1);
+    QCOMPARE(read("K", last.constData()), QString::number(i - 1));
+    QVERIFY(write("K", "new", last.constData()));
+    QCOMPARE(read("K", last.constData()), text("new"));
+}
+
+void SuiteConfigurationTest::readersSeeWholeFiles()
+{
+    QVERIFY(write("K", "0"));
+    const std::unique_ptr<QThread> writer(QThread::create([] {
+        for (int i = 1; i <= 200; ++i) {
+            write("K", QByteArray::number(i).constData());
+        }
+    }));
+    writer->start();
+    int previous = 0;
+    QStringList broken;
+    while (!writer->isFinished()) {
+        const QString value = read();
+        bool isNumber = false;
+        const int number = value.toInt(&isNumber);
+        if (!isNumber || number < previous) {
+            broken += value + QLatin1Char(' ') + installedLogger().take().join(QLatin1Char('|'));
+        }
+        previous = number;
+    }
+    QVERIFY(writer->wait(30000));
+    QVERIFY2(broken.isEmpty(), qPrintable(broken.join(QLatin1Char(10))));
+    QCOMPARE(read(), text("200"));
+}
+
+void SuiteConfigurationTest::killedWriterLeavesWholeFile()
+{
+    const QString writer = QCoreApplication::applicationDirPath() + text("/suite_writer");
+    int killed = 0;
+    for (int round = 0; round < 300; ++round) {
+        QProcess process;
+        process.start(writer, {m_path});
+        QVERIFY2(process.waitForStarted(), "the helper program suite_writer does not start");
+        QVERIFY(process.waitForReadyRead(10000)); // it is writing now, over and over
+        QThread::usleep(static_cast<unsigned long>(round * 37 % 3000));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        killed += process.exitStatus() == QProcess::CrashExit || process.exitCode() != 0;
+        QDomDocument document;
+        const QByteArray content = contentOf(m_path);
+        QVERIFY2(document.setContent(content), content.left(500));
+        QVERIFY(content.endsWith("</configuration>\n"));
+    }
+    QCOMPARE(killed, 300);
+}
+
+TOLVAN_CORE_TEST_MAIN(SuiteConfigurationTest)
+#include "tst_suiteconfiguration.moc"
