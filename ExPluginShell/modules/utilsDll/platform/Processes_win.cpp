@@ -1,7 +1,8 @@
 #include "platform/Processes.h"
 
-#include <psapi.h>
 #include <windows.h>
+
+#include <psapi.h> // needs the types of windows.h
 
 #include <memory>
 
