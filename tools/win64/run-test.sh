@@ -1,0 +1,183 @@
+#!/usr/bin/env bash
+# Runs one Windows test program under Wine, in a Wine prefix of its own and for a limited time.
+set -euo pipefail
+
+usage() {
+    cat <<'TEXT'
+Usage: run-test.sh --sdk FOLDER --build FOLDER [--dlls FOLDER]... [--timeout SECONDS] PROGRAM [ARGUMENT]...
+
+Runs PROGRAM as CTest does in the win64 build, prints what it wrote and ends with its exit code.
+  --sdk FOLDER       the unpacked Windows build of Qt (see find-sdk.sh)
+  --build FOLDER     the build folder; the Wine prefixes are kept in its folder "wine"
+  --dlls FOLDER      one more folder in which the program finds libraries (its own folder always counts)
+  --timeout SECONDS  time limit (default 240); exit code 124 when it is reached
+
+Every run starts with a fresh registry and fresh user folders; the system part of the prefix is shared.
+Qt Test programs write their results through a file, because the console may not reach a pipe. Programs with a
+QApplication get "-platform offscreen"; TOLVAN_TEST_PLATFORM=windows gives them real windows on a virtual screen.
+Exit code 125: the run could not be prepared. KEEP_WINE_PREFIX=1 leaves the prefix of the run for inspection.
+TEXT
+}
+
+die() {
+    echo "run-test: $*" >&2
+    exit 125
+}
+
+sdk=
+build=
+limit=240
+dlls=()
+while [ $# -gt 0 ]; do
+    case "$1" in
+    --sdk | --build | --dlls | --timeout)
+        [ $# -ge 2 ] || die "$1 needs a value"
+        case "$1" in
+        --sdk) sdk="$2" ;;
+        --build) build="$2" ;;
+        --dlls) dlls+=("$2") ;;
+        --timeout) limit="$2" ;;
+        esac
+        shift 2
+        ;;
+    --help | -h)
+        usage
+        exit 0
+        ;;
+    -*) die "unknown option '$1' (see --help)" ;;
+    *) break ;;
+    esac
+done
+[ -n "$sdk" ] && [ -n "$build" ] || die "--sdk and --build are needed (see --help)"
+[ $# -ge 1 ] || die "no program given"
+program="$(realpath "$1")" || die "'$1' does not exist"
+shift
+
+find_program() {
+    local candidate
+    for candidate in "$@"; do
+        if command -v "$candidate" >/dev/null; then
+            command -v "$candidate"
+            return
+        fi
+    done
+    die "Wine is missing ($1); run tools/install-deps.sh windows"
+}
+
+wine="$(find_program wine64 /usr/lib/wine/wine64)"
+wineserver="$(find_program wineserver /usr/lib/wine/wineserver64)"
+mkdir -p "$build/wine"
+prefixes="$(cd "$build/wine" && pwd)"
+template="$prefixes/template"
+
+# Menus, Mono and Gecko have no business in a test; nothing of the user's home is linked into the prefix.
+export WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=d"
+unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME
+
+stop_wine() {
+    WINEPREFIX="$1" "$wineserver" -k9 >/dev/null 2>&1 || [ $? -le 2 ]
+}
+
+# The prefix that all runs are copied from. It is renamed into place, so one that exists is complete.
+make_template() {
+    local part="$prefixes/template.part"
+    [ ! -d "$template" ] || return 0
+    rm -rf "$part"
+    mkdir -p "$part/home"
+    HOME="$part/home" WINEPREFIX="$part" timeout --kill-after=5 120 "$wine" wineboot -i >"$prefixes/wineboot.log" 2>&1 ||
+        { stop_wine "$part"; die "no Wine prefix could be made (log: $prefixes/wineboot.log)"; }
+    WINEPREFIX="$part" timeout 60 "$wineserver" -w || die "Wine did not finish its new prefix in time"
+    [ -f "$part/user.reg" ] || die "Wine left no registry in its new prefix"
+    unlink_home "$part/drive_c/users"
+    mv "$part" "$template"
+}
+
+# Wine links the user's folders into the home of the moment; the runs get real folders instead.
+unlink_home() {
+    local link
+    while IFS= read -r -d '' link; do
+        rm "$link"
+        mkdir "$link"
+    done < <(find "$1" -type l -print0)
+}
+
+make_run_prefix() {
+    local entry
+    run="$(mktemp -d "$prefixes/run-XXXXXX")"
+    mkdir -p "$run/home" "$run/drive_c"
+    cp -a "$template"/*.reg "$template/.update-timestamp" "$template/dosdevices" "$run/"
+    for entry in "$template/drive_c"/*; do
+        case "$(basename "$entry")" in
+        users | ProgramData) cp -a "$entry" "$run/drive_c/" ;;
+        *) ln -s "$entry" "$run/drive_c/" ;;
+        esac
+    done
+}
+
+clean_up() {
+    stop_wine "$run"
+    if [ -n "${KEEP_WINE_PREFIX:-}" ]; then
+        echo "run-test: the prefix is kept in $run" >&2
+    else
+        rm -rf "$run"
+    fi
+}
+
+windows_path() {
+    local path
+    path="$(realpath -m "$1")"
+    echo "Z:${path//\//\\}"
+}
+
+library_path() {
+    local folder path
+    path="$(windows_path "$(dirname "$program")")"
+    for folder in "${dlls[@]}" "$sdk/bin"; do
+        path+=";$(windows_path "$folder")"
+    done
+    echo "$path"
+}
+
+exec 9>"$prefixes/lock"
+flock -w 300 9 || die "another run has been making the Wine prefix for five minutes"
+(exec 9>&-; make_template)
+flock -u 9
+exec 9>&-
+
+make_run_prefix
+trap clean_up EXIT
+
+# What a program needs on its command line is read from its import table.
+imports="$(x86_64-w64-mingw32-objdump -p "$program")" || die "'$program' is no Windows program"
+arguments=("$@")
+screen=()
+results=
+if [[ "$imports" =~ _ZN(12QApplication|15QGuiApplication)C1 ]]; then
+    platform="${TOLVAN_TEST_PLATFORM:-offscreen}"
+    arguments+=(-platform "$platform")
+    [ "$platform" != windows ] || screen=(xvfb-run -a)
+fi
+if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
+    results="$run/results.txt"
+    arguments+=(-o "$(windows_path "$results"),txt")
+fi
+
+export HOME="$run/home" WINEPREFIX="$run"
+WINEPATH="$(library_path)"
+export WINEPATH
+code=0
+timeout --kill-after=5 "$limit" "${screen[@]}" "$wine" "$program" "${arguments[@]}" \
+    >"$run/stdout.txt" 2>"$run/stderr.txt" </dev/null || code=$?
+stop_wine "$run"
+
+cat "$run/stdout.txt"
+[ -z "$results" ] || [ ! -f "$results" ] || cat "$results"
+cat "$run/stderr.txt" >&2
+if [ "$code" -eq 124 ] || [ "$code" -eq 137 ]; then
+    echo "run-test: stopped after $limit seconds" >&2
+    code=124
+elif [ "$code" -eq 0 ] && [ -n "$results" ] && ! grep -q '^Totals: ' "$results"; then
+    echo "run-test: the test ended before it had its results" >&2
+    code=1
+fi
+exit "$code"
