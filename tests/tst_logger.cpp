@@ -1,0 +1,354 @@
+#include <utilsDll/ILoggerInterface.h>
+
+#include <QLibrary>
+#include <QtTest>
+
+#include <cstdlib>
+#include <thread>
+#include <vector>
+
+namespace
+{
+
+const char* const Text = "the text";
+
+QString loggerLibrary()
+{
+    return QDir(QCoreApplication::applicationDirPath())
+        .absoluteFilePath(QStringLiteral("LoggerDllTrelioFrame.dll"));
+}
+
+// Every object loads the library anew and unloads it again, which also closes the file.
+class CLoadedLogger
+{
+public:
+    CLoadedLogger()
+        : m_library(loggerLibrary())
+    {
+        using Instance = ILoggerInterface* (*)();
+        const auto instance = reinterpret_cast<Instance>(m_library.resolve("loggerInstance"));
+        if (instance == nullptr) {
+            qFatal("%s", qPrintable(m_library.errorString()));
+        }
+        m_logger = instance();
+    }
+    ~CLoadedLogger() { m_library.unload(); }
+    Q_DISABLE_COPY(CLoadedLogger)
+
+    ILoggerInterface* operator->() const { return m_logger; }
+    void init(const QString& folder, const QString& name = QStringLiteral("name"), char level = 'D') const
+    {
+        m_logger->init(folder.toStdString(), name.toStdString(), level);
+    }
+
+private:
+    QLibrary m_library;
+    ILoggerInterface* m_logger;
+};
+
+QByteArray fileText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().replace("\r\n", "\n") : QByteArray();
+}
+
+// The texts behind time, level and thread, one per line of the file.
+QList<QByteArray> loggedTexts(const QString& path)
+{
+    QList<QByteArray> texts = fileText(path).split('\n');
+    texts.removeLast();
+    for (QByteArray& line : texts) {
+        line.remove(0, line.indexOf("] ", line.indexOf("] ") + 2) + 2);
+    }
+    return texts;
+}
+
+// What a child process of this test does with a logger whose standard error is watched.
+int runChild(const QStringList& arguments)
+{
+    static ILoggerInterface* logger = nullptr;
+    std::atexit([] { logger->log('E', Text); });
+    static const CLoadedLogger* const loaded = new CLoadedLogger;
+    logger = loaded->operator->();
+    loaded->init(arguments.value(2), arguments.value(3));
+    logger->log('D', Text);
+    logger->log('E', Text);
+    return 0;
+}
+
+} // namespace
+
+class TestLogger : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temporary.reset(new QTemporaryDir);
+        m_folder = m_temporary->filePath(QStringLiteral("made/by the logger"));
+        m_file = m_folder + QStringLiteral("/name.log");
+    }
+
+    void lineCarriesTimeLevelAndThread()
+    {
+        const QDateTime before = QDateTime::currentDateTimeUtc();
+        {
+            CLoadedLogger logger;
+            logger.init(m_folder);
+            logger->log('W', Text);
+        }
+        const QRegularExpression format(
+            QStringLiteral(R"(\A(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z) \[W\] \[\d+\] the text\n\z)"));
+        const auto match = format.match(QString::fromUtf8(fileText(m_file)));
+        QVERIFY2(match.hasMatch(), fileText(m_file));
+        const auto time = QDateTime::fromString(match.captured(1), Qt::ISODateWithMs);
+        QVERIFY(time >= before.addMSecs(-1) && time <= QDateTime::currentDateTimeUtc());
+    }
+
+    void minimumLevel_data()
+    {
+        QTest::addColumn<char>("minimum");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("debug") << 'D' << QByteArray("DIWE?x");
+        QTest::newRow("information") << 'I' << QByteArray("IWE?x");
+        QTest::newRow("warning") << 'W' << QByteArray("WE?x");
+        QTest::newRow("error") << 'E' << QByteArray("E?x");
+        QTest::newRow("no letter") << '\0' << QByteArray("DIWE?x");
+        QTest::newRow("unknown letter") << 'X' << QByteArray("DIWE?x");
+        QTest::newRow("lower case is unknown") << 'e' << QByteArray("DIWE?x");
+    }
+    void minimumLevel()
+    {
+        QFETCH(char, minimum);
+        {
+            CLoadedLogger logger;
+            logger.init(m_folder, QStringLiteral("name"), minimum);
+            for (const char level : QByteArray("DIWE\nx")) {
+                logger->log(level, Text);
+            }
+        }
+        QByteArray levels;
+        for (const QByteArray& line : fileText(m_file).split('\n')) {
+            levels += line.mid(line.indexOf('[') + 1, line.isEmpty() ? 0 : 1);
+        }
+        QTEST(levels, "written");
+    }
+
+    void errorReachesTheFileAtOnce()
+    {
+        CLoadedLogger logger;
+        logger.init(m_folder);
+        logger->log('D', "before");
+        logger->log('E', "error");
+        QCOMPARE(loggedTexts(m_file), (QList<QByteArray>{"before", "error"}));
+    }
+
+    void textIsTakenAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("printf directives") << QByteArray("100% %s %n %*d %");
+        QTest::newRow("format braces") << QByteArray("{} {0:>99999} {{ }");
+        QTest::newRow("two lines") << QByteArray("one\ntwo\n");
+        QTest::newRow("UTF-8") << QByteArray("Größe 日本");
+        QTest::newRow("not UTF-8") << QByteArray("\xff\xfe\x80");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("long") << QByteArray(300000, 'l');
+    }
+    void textIsTakenAsItIs()
+    {
+        QFETCH(QByteArray, text);
+        {
+            CLoadedLogger logger;
+            logger.init(m_folder);
+            logger->log('I', text.constData());
+        }
+        const QByteArray written = fileText(m_file);
+        QCOMPARE(written.mid(written.indexOf("] ", written.indexOf("] ") + 2) + 2), text + '\n');
+    }
+
+    void filesAreBoundedInSizeAndNumber()
+    {
+        constexpr int Lines = 700;
+        const QByteArray filling(64 * 1024, 'f');
+        {
+            CLoadedLogger logger;
+            logger.init(m_folder);
+            for (int number = 0; number < Lines; ++number) {
+                logger->log('D', QByteArray(QByteArray::number(number) + ' ' + filling).constData());
+            }
+        }
+        QDir folder(m_folder);
+        const QStringList newestFirst{QStringLiteral("name.log"), QStringLiteral("name.1.log"),
+                                      QStringLiteral("name.2.log"), QStringLiteral("name.3.log"),
+                                      QStringLiteral("name.4.log")};
+        QCOMPARE(folder.entryList(QDir::Files).toSet(), newestFirst.toSet());
+        int expected = Lines;
+        for (const QString& name : newestFirst) {
+            QVERIFY(QFileInfo(folder.filePath(name)).size() <= 5 * 1024 * 1024);
+            const QList<QByteArray> texts = loggedTexts(folder.filePath(name));
+            for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
+                QCOMPARE(text->left(text->indexOf(' ')).toInt(), --expected);
+            }
+        }
+        QVERIFY2(expected < Lines - 300, "the older files kept too little");
+    }
+
+    void linesOfManyThreadsStayWhole()
+    {
+        constexpr int Threads = 8;
+        constexpr int Lines = 2000;
+        {
+            CLoadedLogger logger;
+            logger.init(m_folder);
+            std::vector<std::thread> threads;
+            for (int thread = 0; thread < Threads; ++thread) {
+                threads.emplace_back([&logger, thread] {
+                    for (int line = 0; line < Lines; ++line) {
+                        const auto text =
+                            QByteArray::number(thread) + ' ' + QByteArray::number(line) + " end";
+                        logger->log(line % 100 == 0 ? 'E' : 'D', text.constData());
+                    }
+                });
+            }
+            for (std::thread& thread : threads) {
+                thread.join();
+            }
+        }
+        QVector<int> next(Threads, 0);
+        for (const QByteArray& text : loggedTexts(m_file)) {
+            const QList<QByteArray> words = text.split(' ');
+            QVERIFY2(words.size() == 3 && words[2] == "end", text);
+            QCOMPARE(words[1].toInt(), next[words[0].toInt()]++);
+        }
+        QCOMPARE(next, QVector<int>(Threads, Lines));
+    }
+
+    // Each round goes on at the end of the file. The line before init would reach it if the library had only
+    // seemed to be unloaded and still knew its file.
+    void unloadingLeavesNothingBehind()
+    {
+        constexpr int Rounds = 100;
+        QList<QByteArray> expected;
+        for (int round = 0; round < Rounds; ++round) {
+            CLoadedLogger logger;
+            logger->log('E', "before init");
+            logger.init(m_folder);
+            expected += QByteArray::number(round);
+            logger->log('D', expected.last().constData());
+        }
+        QCOMPARE(loggedTexts(m_file), expected);
+    }
+
+    void secondInitMovesToAnotherFile()
+    {
+        const QString second = m_folder + QStringLiteral("/second");
+        {
+            CLoadedLogger logger;
+            logger->log('E', "before any file");
+            logger.init(m_folder, QStringLiteral("name"), 'W');
+            logger->log('W', "first");
+            logger.init(second, QStringLiteral("other"), 'D');
+            QCOMPARE(loggedTexts(m_file), QList<QByteArray>{"first"});
+            logger->log('D', "second");
+            logger->log('D', nullptr);
+        }
+        QCOMPARE(loggedTexts(second + QStringLiteral("/other.log")), QList<QByteArray>{"second"});
+    }
+
+    void pathsMayHaveAnyLetters()
+    {
+        const QString folder = m_folder + QString::fromUtf8("/Журнал/日本 ü");
+        const QString name = QString::fromUtf8("протокол é");
+        {
+            CLoadedLogger logger;
+            logger.init(folder, name);
+            logger->log('I', Text);
+        }
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList(name + QStringLiteral(".log")));
+        QCOMPARE(loggedTexts(folder + QLatin1Char('/') + name + QStringLiteral(".log")),
+                 QList<QByteArray>{Text});
+    }
+
+    void unusableTargetIsReportedOnce_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("reports");
+        const QString name = QStringLiteral("name");
+        QTest::newRow("usable") << QStringLiteral("%1/folder") << name << 0;
+        QTest::newRow("file in the way") << QStringLiteral("%1/file") << name << 1;
+        QTest::newRow("file above the folder") << QStringLiteral("%1/file/folder") << name << 1;
+        QTest::newRow("folder in place of the file") << QStringLiteral("%1") << QStringLiteral("taken") << 1;
+        QTest::newRow("no folder") << QString() << name << 1;
+        QTest::newRow("no name") << QStringLiteral("%1") << QString() << 1;
+        QTest::newRow("name leads up") << QStringLiteral("%1/x") << QStringLiteral("../name") << 1;
+        QTest::newRow("name leads up, backslash")
+            << QStringLiteral("%1/x") << QStringLiteral("..\\name") << 1;
+        QTest::newRow("name of a stream") << QStringLiteral("%1/x") << QStringLiteral("a:b") << 1;
+    }
+    void unusableTargetIsReportedOnce()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, name);
+        QFETCH(int, reports);
+        QFile file(m_temporary->filePath(QStringLiteral("file")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(QDir(m_temporary->path()).mkdir(QStringLiteral("taken.log")));
+
+        QProcess child;
+        folder.replace(QStringLiteral("%1"), m_temporary->path());
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), folder, name});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+        const QByteArray errors = child.readAllStandardError().replace("\r\n", "\n");
+        QCOMPARE(errors.count('\n'), reports);
+        QCOMPARE(errors.startsWith("***ERROR*** log file could not be written: " + folder.toUtf8() + '/' +
+                                   name.toUtf8() + ".log ("),
+                 reports == 1);
+        QCOMPARE(QDir(m_temporary->path()).entryList(QDir::Files), QStringList(QStringLiteral("file")));
+    }
+
+    void comesBackAfterAFailedMove()
+    {
+        // The oldest file can't be replaced, so moving the files on fails.
+        QDir folder(m_folder);
+        QVERIFY(folder.mkpath(QStringLiteral("name.4.log/obstacle")));
+        QFile older(folder.filePath(QStringLiteral("name.3.log")));
+        QVERIFY(older.open(QIODevice::WriteOnly));
+        older.close();
+
+        CLoadedLogger logger;
+        logger.init(m_folder);
+        const QByteArray filling(512 * 1024, 'f');
+        for (int line = 0; line < 12; ++line) {
+            logger->log('D', filling.constData());
+        }
+        const auto backAgain = [&] {
+            logger->log('E', "back");
+            return loggedTexts(m_file).contains("back");
+        };
+        QVERIFY(!backAgain());
+        QVERIFY(QDir(folder.filePath(QStringLiteral("name.4.log"))).removeRecursively());
+        QTRY_VERIFY_WITH_TIMEOUT(backAgain(), 15000);
+    }
+
+private:
+    QScopedPointer<QTemporaryDir> m_temporary;
+    QString m_folder;
+    QString m_file;
+};
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QStringLiteral("--child")) {
+        return runChild(arguments);
+    }
+    TestLogger test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_logger.moc"
