@@ -10,7 +10,7 @@ Runs PROGRAM as CTest does in the win64 build, prints what it wrote and ends wit
   --sdk FOLDER       the unpacked Windows build of Qt (see find-sdk.sh)
   --build FOLDER     the build folder; the Wine prefixes are kept in its folder "wine"
   --dlls FOLDER      one more folder in which the program finds libraries (its own folder always counts)
-  --timeout SECONDS  time limit (default 240); exit code 124 when it is reached
+  --timeout SECONDS  time limit (default TOLVAN_TEST_TIMEOUT, else 120); exit code 124 when it is reached
 
 Every run starts with a fresh registry and fresh user folders; the system part of the prefix is shared.
 Qt Test programs write their results through a file, because the console may not reach a pipe. Programs with a
@@ -26,7 +26,7 @@ die() {
 
 sdk=
 build=
-limit=240
+limit="${TOLVAN_TEST_TIMEOUT:-120}"
 dlls=()
 while [ $# -gt 0 ]; do
     case "$1" in
@@ -48,7 +48,9 @@ while [ $# -gt 0 ]; do
     *) break ;;
     esac
 done
-[ -n "$sdk" ] && [ -n "$build" ] || die "--sdk and --build are needed (see --help)"
+if [ -z "$sdk" ] || [ -z "$build" ]; then
+    die "--sdk and --build are needed (see --help)"
+fi
 [ $# -ge 1 ] || die "no program given"
 program="$(realpath "$1")" || die "'$1' does not exist"
 shift
@@ -114,6 +116,7 @@ make_run_prefix() {
     done
 }
 
+# shellcheck disable=SC2317  # called by the trap
 clean_up() {
     stop_wine "$run"
     if [ -n "${KEEP_WINE_PREFIX:-}" ]; then

@@ -1,0 +1,50 @@
+#include "TestMain.h"
+
+#include "platform/Modules.h"
+
+#include <QLibrary>
+
+using TOLVAN_NAMESPACE::Platform::loadedModulePath;
+
+// Loads the library as a host does that was not linked with it. The names are those of the compilers' common
+// C++ ABI.
+class TestLibraryLoad : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loadsWorksAndLeavesAHundredTimes()
+    {
+        const QString fileName = QStringLiteral(UTILSDLL_FILE_NAME);
+        const QDir folder(QCoreApplication::applicationDirPath());
+        for (int round = 0; round < 100; ++round) {
+            QVERIFY2(loadedModulePath(fileName).isEmpty(), "the library is in memory before it is loaded");
+            QLibrary library(folder.filePath(fileName));
+            QVERIFY2(library.load(), qPrintable(library.errorString()));
+            QCOMPARE(QFileInfo(loadedModulePath(fileName)), QFileInfo(folder.filePath(fileName)));
+
+            const auto appDataLocation = reinterpret_cast<QString (*)(const QString&)>(
+                library.resolve("_ZN16TOLVAN_NAMESPACE16CStorageLocation15appDataLocationERK7QString"));
+            QVERIFY2(appDataLocation, qPrintable(library.errorString()));
+            const QString location = appDataLocation(QStringLiteral("Trelio Frame"));
+            const QString end = QDir::toNativeSeparators(QStringLiteral("/Tolvan/Trelio Frame/"));
+            QVERIFY2(location.endsWith(end), qPrintable(location));
+
+            QVERIFY2(library.unload(), qPrintable(library.errorString()));
+        }
+        QVERIFY2(loadedModulePath(fileName).isEmpty(), "the library stays in memory");
+    }
+
+    void hidesWhatIsNotExported()
+    {
+        QLibrary library(
+            QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(UTILSDLL_FILE_NAME)));
+        QVERIFY2(library.load(), qPrintable(library.errorString()));
+        QVERIFY(!library.resolve("_ZN16TOLVAN_NAMESPACE8Platform16loadedModulePathERK7QString"));
+        QVERIFY(library.unload());
+    }
+};
+
+TOLVAN_CORE_TEST_MAIN(TestLibraryLoad)
+
+#include "tst_libraryload.moc"

@@ -1,0 +1,104 @@
+#include "TestMain.h"
+
+#include <utilsDll/ProcessInformation.h>
+
+#include <QProcess>
+
+#include <cstdio>
+
+using UtilsDll::BinaryVersion;
+
+namespace
+{
+
+QString textOf(const BinaryVersion& version)
+{
+    return QStringLiteral("%1 %2.%3.%4.%5")
+        .arg(version.text)
+        .arg(version.major)
+        .arg(version.minor)
+        .arg(version.build)
+        .arg(version.revision);
+}
+
+const QString unknown = QStringLiteral(" 0.0.0.0");
+
+// The test programs carry a version where the system's executables have version resources.
+QString ownVersion()
+{
+    const QString version = QStringLiteral(TEST_FILE_VERSION);
+    return version.isEmpty() ? unknown : QLatin1Char(' ') + version;
+}
+
+QString ownName()
+{
+    return QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+}
+
+QString versionOf(const QString& processName)
+{
+    return textOf(UtilsDll::binaryFileVersionByProcessName(processName));
+}
+
+} // namespace
+
+class TestProcessInformation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void currentProcessIsThisProgram() { QCOMPARE(UtilsDll::currentProcessName(), ownName()); }
+
+    void versionByName_data()
+    {
+        QTest::addColumn<QString>("processName");
+        QTest::addColumn<QString>("version");
+        QTest::newRow("itself") << ownName() << ownVersion();
+        QTest::newRow("itself in capitals") << ownName().toUpper() << ownVersion();
+        QTest::newRow("empty") << QString() << unknown;
+        QTest::newRow("runs nowhere") << QStringLiteral("runs nowhere.exe") << unknown;
+        QTest::newRow("part of a name") << ownName().left(ownName().size() - 5) << unknown;
+        QTest::newRow("full path") << QDir::toNativeSeparators(QCoreApplication::applicationFilePath())
+                                   << unknown;
+        QTest::newRow("longer than any name") << QString(5000, QLatin1Char('n')) << unknown;
+    }
+    void versionByName()
+    {
+        QFETCH(QString, processName);
+        QTEST(versionOf(processName), "version");
+    }
+
+    void versionOfAnotherProcessWhileItRuns()
+    {
+        // The program stays loaded when it was asked for its version, so the copy may outlive this run.
+        const QString name = QString::fromUtf8("tst Früh.exe");
+        const QString copy = QDir(QCoreApplication::applicationDirPath()).filePath(name);
+        QFile::remove(copy);
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), copy));
+        QCOMPARE(versionOf(name), unknown);
+
+        QProcess other;
+        other.start(copy, {QStringLiteral("--wait")});
+        QVERIFY(other.waitForReadyRead());
+        QCOMPARE(versionOf(name), ownVersion());
+        QCOMPARE(versionOf(name.toUpper()), ownVersion());
+
+        other.closeWriteChannel();
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(other.exitCode(), 0);
+        QTRY_COMPARE(versionOf(name), unknown);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    if (argc == 2 && qstrcmp(argv[1], "--wait") == 0) {
+        std::puts("ready");
+        std::fflush(stdout);
+        std::getchar();
+        return 0;
+    }
+    return TestMain::run<QCoreApplication, TestProcessInformation>(argc, argv);
+}
+
+#include "tst_processinformation.moc"
