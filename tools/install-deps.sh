@@ -22,7 +22,7 @@ packages_of() {
         echo qtbase5-dev qtbase5-private-dev libqt5svg5-dev libspdlog-dev
         ;;
     test)
-        echo libqt5svg5
+        echo libqt5svg5 xvfb openbox libxtst-dev
         ;;
     windows)
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xz-utils
