@@ -1,12 +1,19 @@
+#include "LiveLog.h"
 #include "Report.h"
+#include "Screenshots.h"
 #include "sections/Sections.h"
+#include "ShowcaseWindow.h"
 
 #include <utilsDll/Settings.h>
+#include <utilsDll/SharedUtils.h>
+#include <utilsDll/StorageLocation.h>
 #include <utilsDll/TemporarySettings.h>
 
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QCoreApplication>
+#include <QDir>
 
+#include <algorithm>
 #include <memory>
 
 namespace
@@ -22,11 +29,57 @@ int runConsole()
     return report.finish() ? 0 : 1;
 }
 
+/// A host with a log of its own starts it before it hands it in.
+void startLog()
+{
+    using namespace TOLVAN_NAMESPACE;
+    if (isLoggerEnabled()) {
+        LiveLog& log = LiveLog::instance();
+        log.init(CStorageLocation::loggerFilesPath().toStdString(), "showcase",
+                 getLogLevel().at(0).toLatin1());
+        initLoggerForUtilsDll(&log, QString());
+    }
+}
+
+int runWindow(const QString& screenshots)
+{
+    startLog();
+    const bool noDisplay = QGuiApplication::platformName() == QLatin1String("offscreen");
+    if (!screenshots.isEmpty() || noDisplay) {
+        const QString folder = QDir::temp().filePath(QStringLiteral("trelio-showcase"));
+        return writeScreenshots(screenshots.isEmpty() ? folder : screenshots) ? 0 : 1;
+    }
+    ShowcaseWindow window;
+    window.show();
+    return QApplication::exec();
+}
+
+/// Chooses the screenless platform for pictures and where there is no display, unless the caller chose one.
+void choosePlatform(bool forPictures)
+{
+    const bool windows = QSysInfo::kernelType() == QLatin1String("winnt");
+    const bool display =
+        windows || !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if ((forPictures || !display) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+/// The kind of application has to be known before the command line can be parsed in full.
+bool hasOption(int argc, char* argv[], const char* option)
+{
+    return std::any_of(argv, argv + argc,
+                       [=](const char* argument) { return QByteArray(argument).startsWith(option); });
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication application(argc, argv);
+    const bool inConsole = hasOption(argc, argv, "--console") || hasOption(argc, argv, "--help");
+    choosePlatform(hasOption(argc, argv, "--screenshots"));
+    const std::unique_ptr<QCoreApplication> application(inConsole ? new QCoreApplication(argc, argv)
+                                                                  : new QApplication(argc, argv));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("A host that uses UtilsDllTrelioFrame as the product does."));
@@ -35,13 +88,16 @@ int main(int argc, char* argv[])
                                      QStringLiteral("Walk the subsystems and print a report."));
     const QCommandLineOption temporary(QStringLiteral("temporary"),
                                        QStringLiteral("Keep settings in a temporary file for this run."));
-    parser.addOptions({console, temporary});
-    parser.process(application);
+    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
+                                         QStringLiteral("Write every page as a picture."),
+                                         QStringLiteral("folder"));
+    parser.addOptions({console, temporary, screenshots});
+    parser.process(*application);
 
     std::unique_ptr<CTemporarySettings> settings;
     if (parser.isSet(temporary)) {
         settings = std::make_unique<CTemporarySettings>(argv[0]);
         TOLVAN_NAMESPACE::CSettings::setTemporarySettings(*settings);
     }
-    return runConsole();
+    return inConsole ? runConsole() : runWindow(parser.value(screenshots));
 }

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <utilsDll/ILoggerInterface.h>
+
+#include <QMutex>
+#include <QObject>
+#include <QStringList>
+
+/// The host's own logger: keeps the last lines for the logging page and passes every line on to the product's
+/// logger library, where that is found. Thread-safe; lives as long as the process.
+class LiveLog : public QObject, public ILoggerInterface
+{
+    Q_OBJECT
+
+public:
+    /// The logger of this process.
+    static LiveLog& instance();
+
+    /// Starts the product's logger library in \a folder.
+    void init(const std::string& folder, const std::string& name, char level) override;
+    void log(char level, const char* text) override;
+
+    /// The last lines, oldest first, each "level text".
+    QStringList lines() const;
+
+Q_SIGNALS:
+    /// A line came in. Emitted in the thread that logged.
+    void lineAdded(const QString& line);
+
+private:
+    LiveLog() = default;
+
+    mutable QMutex m_mutex;
+    QStringList m_lines;
+    ILoggerInterface* m_file = nullptr;
+};

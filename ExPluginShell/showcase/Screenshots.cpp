@@ -1,0 +1,52 @@
+#include "Screenshots.h"
+
+#include "pages/Pages.h"
+#include "ShowcaseWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QTextStream>
+
+namespace
+{
+
+constexpr QSize windowSize(1080, 720);
+
+bool save(const QPixmap& picture, const QDir& folder, const QString& name)
+{
+    const QString path = folder.filePath(name + QStringLiteral(".png"));
+    if (!folder.mkpath(QStringLiteral(".")) || !picture.save(path)) {
+        QTextStream(stderr) << "showcase: cannot write " << path << '\n';
+        return false;
+    }
+    return true;
+}
+
+bool writePages(const QDir& folder)
+{
+    ShowcaseWindow window;
+    window.resize(windowSize);
+    window.show();
+    bool ok = true;
+    int number = 0;
+    for (const Page& page : pages()) {
+        window.showPage(number);
+        QApplication::processEvents();
+        const QString name =
+            QStringLiteral("%1-%2").arg(++number, 2, 10, QLatin1Char('0')).arg(QLatin1String(page.name));
+        ok = save(window.grab(), folder, name) && ok;
+    }
+    return ok;
+}
+
+} // namespace
+
+bool writeScreenshots(const QString& folder)
+{
+    const QDir root(folder);
+    const bool ok = writePages(root);
+    QTextStream(stdout) << "Pictures of the showcase: " << QDir::toNativeSeparators(root.absolutePath())
+                        << '\n';
+    return ok;
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+/// Writes every page as a picture below \a folder, which is made where it is missing, and prints where they
+/// are. Needs an application object with widgets, but no display.
+/// \return whether every picture could be written
+bool writeScreenshots(const QString& folder);

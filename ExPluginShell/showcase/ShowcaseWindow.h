@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QStackedWidget;
+class QVBoxLayout;
+
+/// The host's main window: the list of pages at the left, the chosen page at the right. Its geometry and the
+/// page are remembered in the settings.
+class ShowcaseWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ShowcaseWindow(QWidget* parent = nullptr);
+
+    /// Shows the page in row \a index of pages().
+    void showPage(int index);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QVBoxLayout* makeNavigation();
+    QVBoxLayout* makePageArea();
+    void addPages();
+    void step(int rows);
+    void retranslate();
+    void restore();
+
+    QListWidget* m_list = nullptr;
+    QLabel* m_heading = nullptr;
+    QLabel* m_summary = nullptr;
+    QStackedWidget* m_stack = nullptr;
+};

@@ -1,0 +1,81 @@
+#include "PageWidget.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+PageWidget::PageWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+{
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(12);
+}
+
+void PageWidget::translate(const char* source, std::function<void(const QString&)> apply)
+{
+    m_texts.push_back({source, std::move(apply)});
+    this->apply(m_texts.back());
+}
+
+void PageWidget::apply(const Text& text) const
+{
+    text.apply(QCoreApplication::translate(metaObject()->className(), text.source));
+}
+
+QLabel* PageWidget::addTitle(const char* source)
+{
+    auto* label = addText(source);
+    label->setObjectName(QStringLiteral("pageSubtitle"));
+    return label;
+}
+
+QLabel* PageWidget::addText(const char* source)
+{
+    auto* label = new QLabel(this);
+    label->setWordWrap(true);
+    translate(source, [label](const QString& text) { label->setText(text); });
+    m_column->addWidget(label);
+    return label;
+}
+
+QPushButton* PageWidget::makeButton(const char* source, std::function<void()> action)
+{
+    auto* button = new QPushButton(this);
+    button->setAutoDefault(false);
+    translate(source, [button](const QString& text) { button->setText(text); });
+    connect(button, &QPushButton::clicked, this, std::move(action));
+    return button;
+}
+
+QFormLayout* PageWidget::addForm()
+{
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(16);
+    form->setVerticalSpacing(8);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_column->addLayout(form);
+    return form;
+}
+
+void PageWidget::addRow(QFormLayout* form, const char* source, QWidget* field)
+{
+    auto* label = new QLabel(this);
+    label->setBuddy(field);
+    translate(source, [label](const QString& text) { label->setText(text); });
+    form->addRow(label, field);
+}
+
+void PageWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        for (const Text& text : m_texts) {
+            apply(text);
+        }
+        languageChanged();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,12 @@
+#include "Pages.h"
+
+#include <QtCore/qglobal.h>
+
+QVector<Page> pages()
+{
+    return {
+        {"logging", QT_TRANSLATE_NOOP("Pages", "Logging"),
+         QT_TRANSLATE_NOOP("Pages", "Every line goes through one bridge to the logger of the process."),
+         &makeLoggingPage},
+    };
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QVector>
+
+class QWidget;
+
+/// One page of the showcase window.
+struct Page {
+    const char* name;    ///< of its picture, and how settings know it: lower case, no blanks
+    const char* title;   ///< its entry in the list and its heading; English, of the context "Pages"
+    const char* summary; ///< the sentence below the heading; English, of the context "Pages"
+    /// Makes the page, which the parent owns. The window shows heading and summary itself, so a page begins
+    /// with its content, without margins. A page renews its own texts (see PageWidget) and needs neither a
+    /// display nor a network to be built; slow work starts when the user asks for it.
+    QWidget* (*make)(QWidget* parent);
+};
+
+/// All pages, in the order of the list.
+QVector<Page> pages();
+
+// Each page's factory stands in its own source file.
+QWidget* makeLoggingPage(QWidget* parent);
