@@ -3,7 +3,7 @@
 A drawing is a text of one shape per line: a layer, a blank, a shape.
 
 Layers that follow the state: `M` outline, `D` second tone, `G` thin guide line (all stroked),
-`S` and `F` the same two tones filled, `B` the tint of a body. Layers of a fixed palette colour:
+`S` and `F` the same two tones filled, `B` the tint of a body, `A` the stroke of a glyph that has one tone only. Layers of a fixed palette colour:
 `f=NAME[/OPACITY]` filled, `s=NAME[/WIDTH[/OPACITY]]` stroked; NAME may also be a gradient id, `url(#a)`.
 
 Shapes: `c CX CY R`, `e CX CY RX RY`, `r X Y W H [RADIUS]`, or path data.
@@ -55,8 +55,8 @@ def layer_paint(layer, state, stroke):
         return filled(colour(name), number(opacity))
     if layer in "SF":
         return filled(colour(tones["main" if layer == "S" else "detail"]))
-    if layer in "MDG":
-        tone = {"M": "main", "D": "detail", "G": "guide"}[layer]
+    if layer in "MDGA":
+        tone = {"M": "main", "D": "detail", "G": "guide", "A": "lone"}[layer]
         return stroked(colour(tones[tone]), GUIDE_STROKE if layer == "G" else number(stroke))
     kind, name, *more = layer.replace("=", "/").split("/")
     paint = name if name.startswith("url(") else colour(name)

@@ -35,19 +35,19 @@ def draw_radio_buttons(family):
 
 
 def draw_expanders(family):
-    family.states("groupBox/branch_closed", 16, "M M6.5 4.5l3.5 3.5-3.5 3.5", "normal hover disabled")
-    family.states("groupBox/branch_open", 16, "M M4.5 6.5l3.5 3.5 3.5-3.5", "normal hover disabled")
+    family.states("groupBox/branch_closed", 16, "A M6.5 4.5l3.5 3.5-3.5 3.5", "normal hover disabled")
+    family.states("groupBox/branch_open", 16, "A M4.5 6.5l3.5 3.5 3.5-3.5", "normal hover disabled")
     framed = "B r 2 2 16 16 4\n"
-    family.states("groupBox/groupbox_expand", 20, framed + "M M6.5 8.5l3.5 3.5 3.5-3.5", "normal hover")
-    family.states("groupBox/groupbox_collapse", 20, framed + "M M6.5 11.5l3.5-3.5 3.5 3.5", "normal hover")
+    family.states("groupBox/groupbox_expand", 20, framed + "A M6.5 8.5l3.5 3.5 3.5-3.5", "normal hover")
+    family.states("groupBox/groupbox_collapse", 20, framed + "A M6.5 11.5l3.5-3.5 3.5 3.5", "normal hover")
 
 
 def draw_arrows(family):
     chevron = "{} M2.5 2.5l3.5 3.5 3.5-3.5"
     family.single("comboBox/combobox_arrow", 12, 8, chevron.format("M"))
     family.single("comboBox/combobox_arrow_disabled", 12, 8, chevron.format("s=glyph_disabled"))
-    for name, points in (("up", "M3 8L6 4.5 9 8z"), ("down", "M3 4L6 7.5 9 4z"),
-                         ("left", "M8 3L4.5 6 8 9z"), ("right", "M4 3L7.5 6 4 9z")):
+    for name, points in (("up", "M2.5 7.5L6 4l3.5 3.5z"), ("down", "M2.5 4.5L6 8l3.5-3.5z"),
+                         ("left", "M7.5 2.5L4 6l3.5 3.5z"), ("right", "M4.5 2.5L8 6 4.5 9.5z")):
         for state, tone in (("", "glyph_soft"), ("hover", "glyph_bright"), ("disabled", "line")):
             family.single(f"scrollBar/scrollbar_arrow_{name}{suffix(state)}", 12, 12, f"f={tone} {points}\ns={tone}/1 {points}")
     for name, points in (("up", "M2.5 4.5L5 2 7.5 4.5z"), ("down", "M2.5 1.5L5 4 7.5 1.5z")):
@@ -61,7 +61,7 @@ def draw_sliders(family):
                                ("pressed", "accent", "f=on_accent c 8 8 2.5"), ("disabled", "glyph_disabled", ""),
                                ("focus", "glyph", "s=accent/2 c 8 8 6.5")):
         family.single(f"slider/slider_handle{suffix(state)}", 16, 16, knob.format(tone) + extra)
-    family.single("slider/slider_zero_mark", 7, 5, "f=glyph_soft M.5 .5h6L3.5 4.5z")
+    family.single("slider/slider_zero_mark", 7, 5, "f=glyph_soft M0 0h7v1L3.5 4.5 0 1z")
 
 
 def draw(family):

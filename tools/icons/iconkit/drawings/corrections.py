@@ -16,7 +16,7 @@ PERSPECTIVE = {
                  "\nD c 5.5 7.5 2\nD c 17.5 4.5 2\nD c 19.5 17.5 2\nD c 4.5 19.5 2",
 }
 KEYSTONING = f"B {UPRIGHT}\nM {UPRIGHT}\nD M5 2.5L2.5 5 5 7.5\nD M19 2.5L21.5 5 19 7.5"
-HORIZON = "B M6.5 13.5a5.5 5.5 0 0 1 11 0z\nM M6.5 13.5a5.5 5.5 0 0 1 11 0\nM M2.5 13.5h19\nD M4.5 19.5l15-3"
+HORIZON = "B M6.5 13.5a5.5 5.5 0 0 1 11 0z\nM M6.5 13.5a5.5 5.5 0 0 1 11 0\nM M2.5 13.5h19\nD M4.5 20.5l15-4"
 ANAMORPHOSE_WIDTH = "B e 12 12 3.5 8.5\nM e 12 12 3.5 8.5\nD M6 8.5L2.5 12 6 15.5\nD M18 8.5l3.5 3.5-3.5 3.5"
 
 # 16 pixels: an outline with a second tone, as the tools have, with less in it.
@@ -51,5 +51,5 @@ def draw(family):
     family.single("crop/crop_handle_corner", 24, 24, picture_mark("M4.5 19.5v-15h15", 3, 5))
     family.single("crop/crop_handle_edge", 24, 24, picture_mark("M3.5 12h17", 3, 5))
     for name, drawing in SIGNS.items():
-        family.single(f"correctionInfo/{name}_not_applied", 16, 16, drawing.replace("M ", "s=glyph_soft ", 0))
+        family.single(f"correctionInfo/{name}_not_applied", 16, 16, drawing)
         family.add(f"correctionInfo/{name}_applied", svg.document(16, 16, svg.draw(drawing, "checked")))

@@ -7,11 +7,11 @@ PINCUSHION = "M3.5 3.5Q12 7 20.5 3.5 17 12 20.5 20.5 12 17 3.5 20.5 7 12 3.5 3.5
 SPARKLE = "F M19 2.5l1 2.5 2.5 1-2.5 1-1 2.5-1-2.5-2.5-1 2.5-1z"
 
 TOOLS = {
-    "automatic": f"B {BARREL}\nM M13 3.6Q9 3.4 5 5 2 12 5 19q7 3 14 0 1.6-3.7 1.6-7.4\n{SPARKLE}\nD M8 13.5q4 1 8 0",
-    "manual": f"B {BARREL}\nM {BARREL}\nD M6.5 12.5h2\nD M14.5 12.5h3\nD c 11.5 12.5 2.5",
+    "automatic": f"B {BARREL}\nM M13 3.6Q9 3.4 5 5 2 12 5 19q7 3 14 0 1.6-3.7 1.6-7.4\n{SPARKLE}\nD M8.9 3.9q-1.5 8.1 0 16.2\nD M3.9 14.5q8.1 1.7 16.2 0",
+    "manual": f"B {BARREL}\nM {BARREL}\nD M6.5 9.5h5\nD M15.5 9.5h2\nD M6.5 14.5h2\nD M12.5 14.5h5\nD c 13.5 9.5 2\nD c 10.5 14.5 2",
     "barrel": f"B {BARREL}\nM {BARREL}\nD M9.2 3.8q-1.6 8.2 0 16.4\nD M14.8 3.8q1.6 8.2 0 16.4\nD M3.8 9.2q8.2-1.6 16.4 0\nD M3.8 14.8q8.2 1.6 16.4 0",
     "pincushion": f"B {PINCUSHION}\nM {PINCUSHION}\nD M8.8 4.9q2.4 7.1 0 14.2\nD M15.2 4.9q-2.4 7.1 0 14.2\nD M4.9 8.8q7.1 2.4 14.2 0\nD M4.9 15.2q7.1-2.4 14.2 0",
-    "fisheye": "B c 12 12 8.5\nM c 12 12 8.5\nD M12 3.5v17\nD M3.5 12h17\nD M7 5.2q-3 6.8 0 13.6\nD M17 5.2q3 6.8 0 13.6",
+    "fisheye": "B c 12 12 8.5\nM c 12 12 8.5\nD M9.5 4q-3.5 8 0 16\nD M14.5 4q3.5 8 0 16\nD M4 9.5q8-3.5 16 0\nD M4 14.5q8 3.5 16 0",
     "bent_line": "D M3.5 19.5h17\nM M5.3 12.4Q8 6.6 10.2 6.1\nM M13.8 6.1q2.2.5 4.9 6.3\nB c 4.5 14 2\nM c 4.5 14 2\nB c 12 6 2\nM c 12 6 2\nB c 19.5 14 2\nM c 19.5 14 2",
 }
 SMALL_LENS = "B c 7 8 5.5\nM c 7 8 5.5\n"

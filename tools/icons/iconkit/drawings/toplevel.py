@@ -1,32 +1,31 @@
 """Images of the icon folder itself: window furniture that the style sheets share, and the product's mark."""
 
-CROSS_12 = "M M3 3l6 6\nM M9 3l-6 6"
+CROSS_12 = "M M3.5 3.5l5 5\nM M8.5 3.5l-5 5"
 MARK = """
-B M6.5 4.5h7l3 12h-13z
-M M6.5 4.5h7l3 12h-13z
-D M2.5 8.5h15
-D M10 8.5v8
+B M7 4.5h6l3 12h-12z
+M M7 4.5h6l3 12h-12z
+f=accent r 2 8 16 2 1
+f=accent r 9 10 2 6
 """
 
 
-def dots(points, radius):
-    return "\n".join(f"S c {x} {y} {radius}" for x, y in points)
+def dots(points, radius, layer="S "):
+    return "\n".join(f"{layer}c {x} {y} {radius}" for x, y in points)
 
 
 def draw(family):
     family.single("trelio_mark", 20, 20, MARK)
     family.single("size_grip", 14, 14, dots([(11, 3), (7, 7), (11, 7), (3, 11), (7, 11), (11, 11)], 1))
-    for name, points in (("horizontal", [(2, 6), (2, 11), (2, 16)]), ("vertical", [(6, 2), (11, 2), (16, 2)])):
-        width, height = (4, 22) if name == "horizontal" else (22, 4)
-        points = points + [((2, 21 - 1) if name == "horizontal" else (20, 2))]
-        family.single(f"splitter_grip_{name}", width, height, dots(points, 1))
-        family.single(f"splitter_grip_{name}_hover", width, height, dots(points, 1.5).replace("S ", "f=accent "))
+    for state, radius, layer in (("", 1, "S "), ("_hover", 1.5, "f=accent ")):
+        places = (3, 8, 13, 18)
+        family.single(f"splitter_grip_horizontal{state}", 4, 21, dots([(2, y) for y in places], radius, layer))
+        family.single(f"splitter_grip_vertical{state}", 21, 4, dots([(x, 2) for x in places], radius, layer))
     family.states("toolbar_extension", 16, "M M4.5 4.5l3.5 3.5-3.5 3.5\nD M9 4.5l3.5 3.5-3.5 3.5", "normal hover")
     grip = [(x, y) for y in (3, 7, 11, 15, 19) for x in (3, 7)]
-    family.single("toolbar_handle_horizontal", 10, 22, dots(grip, 1).replace("S ", "F "))
-    family.single("toolbar_handle_vertical", 22, 10, dots([(y, x) for x, y in grip], 1).replace("S ", "F "))
-    family.states("calendar_previous", 20, "M M12 5l-5 5 5 5", "normal hover", stroke=2)
-    family.states("calendar_next", 20, "M M8 5l5 5-5 5", "normal hover", stroke=2)
+    family.single("toolbar_handle_horizontal", 10, 22, dots(grip, 1, "F "))
+    family.single("toolbar_handle_vertical", 22, 10, dots([(y, x) for x, y in grip], 1, "F "))
+    family.states("calendar_previous", 20, "A M12 5l-5 5 5 5", "normal hover", stroke=2)
+    family.states("calendar_next", 20, "A M8 5l5 5-5 5", "normal hover", stroke=2)
     draw_closers(family)
     family.states("tab_scroll_left", 16, "M M9.5 3.5L5 8l4.5 4.5", "normal disabled")
     family.states("tab_scroll_right", 16, "M M6.5 3.5L11 8l-4.5 4.5", "normal disabled")
