@@ -16,13 +16,13 @@ PERSPECTIVE = {
                  "\nD c 5.5 7.5 2\nD c 17.5 4.5 2\nD c 19.5 17.5 2\nD c 4.5 19.5 2",
 }
 KEYSTONING = f"B {UPRIGHT}\nM {UPRIGHT}\nD M5 2.5L2.5 5 5 7.5\nD M19 2.5L21.5 5 19 7.5"
-HORIZON = "B M6.5 13.5a5.5 5.5 0 0 1 11 0z\nM M6.5 13.5a5.5 5.5 0 0 1 11 0\nM M2.5 13.5h19\nD M4.5 20.5l15-4"
+HORIZON = "B M3.9 12.5h16.4l.8 3.7L5.4 19.5z\nM M2.9 7.8L18.6 4.5l2.5 11.7L5.4 19.5z\nD M1.5 12.5h21"
 ANAMORPHOSE_WIDTH = "B e 12 12 3.5 8.5\nM e 12 12 3.5 8.5\nD M6 8.5L2.5 12 6 15.5\nD M18 8.5l3.5 3.5-3.5 3.5"
 
 # 16 pixels: an outline with a second tone, as the tools have, with less in it.
 SIGNS = {
     "keystoning": "B M5.5 3.5h5l3 9h-11z\nM M5.5 3.5h5l3 9h-11z",
-    "horizon": "B M4.5 8.5a3.5 3.5 0 0 1 7 0z\nM M4.5 8.5a3.5 3.5 0 0 1 7 0\nM M1.5 8.5h13\nD M3.5 12.5h9",
+    "horizon": "B M2.8 8.5h10.7l.5 2.3L3.6 13z\nM M2 5l10.4-2.2 1.6 8L3.6 13z\nD M1 8.5h14",
     "distortion": "B M3 3Q8 1 13 3 15 8 13 13 8 15 3 13 1 8 3 3z\nM M3 3Q8 1 13 3 15 8 13 13 8 15 3 13 1 8 3 3z\nD M2.5 8h11\nD M8 2.5v11",
     "anamorphosis": "B e 8 8 2.75 5.5\nM e 8 8 2.75 5.5\nD M2.5 6v4\nD M13.5 6v4",
     "tilt_shift": "B r 2 6 12 4\nM M1.5 5.5h13\nM M1.5 10.5h13\nD M4.5 2.5h7\nD M4.5 13.5h7",
@@ -49,7 +49,7 @@ def draw(family):
     family.states("anamorphose/anamorphose_width", 24, ANAMORPHOSE_WIDTH, ALL_STATES)
     family.states("anamorphose/anamorphose_height", 24, ANAMORPHOSE_WIDTH, ALL_STATES, change=quarter_turn)
     family.single("crop/crop_handle_corner", 24, 24, picture_mark("M4.5 19.5v-15h15", 3, 5))
-    family.single("crop/crop_handle_edge", 24, 24, picture_mark("M3.5 12h17", 3, 5))
+    family.single("crop/crop_handle_edge", 24, 11, picture_mark("M3.5 5.5h17", 3, 5))
     for name, drawing in SIGNS.items():
         family.single(f"correctionInfo/{name}_not_applied", 16, 16, drawing)
         family.add(f"correctionInfo/{name}_applied", svg.document(16, 16, svg.draw(drawing, "checked")))

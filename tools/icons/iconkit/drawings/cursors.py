@@ -6,7 +6,7 @@ A dark core inside a light outline reads on every picture; both are drawn from o
 from .. import svg
 
 CORE, OUTLINE = "on_accent", "glyph_bright"
-CORE_WIDTH, OUTLINE_WIDTH = "2", "4.5"
+CORE_WIDTH, OUTLINE_WIDTH = "1.75", "4.25"
 
 HORIZONTAL = ("M3.5 12.5h16", "M7 8.5l-4 4 4 4", "M16 8.5l4 4-4 4")
 ARROW_HEAD_UP, ARROW_HEAD_DOWN = "M8.2 5.8l3.3-3.3 3.3 3.3", "M8.2 19.2l3.3 3.3 3.3-3.3"
@@ -41,12 +41,12 @@ def draw(family):
     cursor("arrow_vertical", lines(HORIZONTAL), "rotate(90 11.5 12.5)")
     cursor("arrow_diagonal_left", lines(HORIZONTAL), "rotate(45 11.5 12.5)")
     cursor("arrow_diagonal_right", lines(HORIZONTAL), "rotate(-45 11.5 12.5)")
-    cursor("arrow_square", lines(FOUR_WAY, core="1.75", outline="4"))
+    cursor("arrow_square", lines(FOUR_WAY))
     cursor("rotation_top", lines(ARCH))
     cursor("rotation_bottom", lines(ARCH), "rotate(180 11.5 12.5)")
     cursor("hand_open", hand(PALM, ("M11.2 6v5", "M14.4 6v5", "M17.6 8.5v3.5")))
     cursor("hand_closed", hand(FIST, ("M11.2 10v2.5", "M14.4 10v2.5", "M17.6 11v2")))
-    cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5"), core="1.75", outline="4"))
-    cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5"), core="1.75", outline="4"))
+    cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5")))
+    cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5")))
     cursor("crosshair", lines(("M11.5 2v6.5", "M11.5 16.5v6.5", "M1 12.5h6.5", "M15.5 12.5h6.5"), core="1.5", outline="4")
            + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")

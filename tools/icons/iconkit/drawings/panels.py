@@ -36,12 +36,13 @@ PROCESSING = {
 }
 NO_PREVIEW = """
 f=panel r 1 1 94 70 6
-s=glyph_faint/2 r 17 13 62 46 5
-f=glyph_faint c 63 26 4.5
-s=glyph_faint/2 M18 54l17-17 17 17
-s=glyph_faint/2 M47 49l11-11 20 19
-f=panel M21 12l5-5 52 53-5 5z
-s=glyph_soft/2.5 M24 10l51 52
+s=glyph_soft/2 M17 24v-7a4 4 0 0 1 4-4h9
+s=glyph_soft/2 M66 13h9a4 4 0 0 1 4 4v7
+s=glyph_soft/2 M79 48v7a4 4 0 0 1-4 4h-9
+s=glyph_soft/2 M30 59h-9a4 4 0 0 1-4-4v-7
+f=glyph_faint c 36 28 4
+f=glyph_faint M26 51l13-13 6 6 11-12 17 19z
+s=glyph_faint/2 M26 51l13-13 6 6 11-12 17 19z
 """
 BAR = "B M2.5 4.5a1 1 0 0 1 1-1H8v13H3.5a1 1 0 0 1-1-1z\nM r 2.5 3.5 15 13 1.5\nM M7.5 4v12\n"
 

@@ -11,8 +11,9 @@ def draw(family):
     family.states("tiltshift/tiltshift_linear", 24, LINEAR, ALL_STATES)
     family.states("tiltshift/tiltshift_radial", 24, RADIAL, ALL_STATES)
     family.single("tiltshift/tiltshift_centre_handle", 24, 24, picture_mark("c 12 12 8", 2, 4) + "\n" + picture_mark("M12 9v6M9 12h6", 2, 4))
-    family.single("tiltshift/tiltshift_rotation_handle", 24, 24, picture_mark("M5.5 16.5a7.5 7.5 0 1 1 13 0M4.5 11.5l1 5 5-1M19.5 11.5l-1 5-5-1", 2, 4))
-    family.single("tiltshift/tiltshift_focus_line", 24, 6, picture_mark("M3.5 3h5", 1.5, 3.5) + "\n" + picture_mark("M15.5 3h5", 1.5, 3.5))
+    family.single("tiltshift/tiltshift_rotation_handle", 24, 24, picture_mark("M4.5 15a7.5 7.5 0 0 1 15 0M1.7 12.2L4.5 15l2.8-2.8M16.7 12.2l2.8 2.8 2.8-2.8", 2, 4)
+                  + "\nf=ground_deep/.85 c 12 15 2.5\nf=glyph_bright c 12 15 1.5")
+    family.single("tiltshift/tiltshift_focus_line", 24, 7, picture_mark("M3.5 3.5h5M15.5 3.5h5", 1.5, 3.5))
     knob = "f=ground_deep M1 3.5a2 2 0 0 1 2-2h8a2 2 0 0 1 2 2v7L7 17l-6-6.5z\nf={} M2 3.5a1 1 0 0 1 1-1h8a1 1 0 0 1 1 1V10l-5 5-5-5z\n"
     for state, tone, mark in (("", "glyph", "ground"), ("_hover", "glyph_bright", "accent"),
                               ("_pressed", "accent", "on_accent"), ("_disabled", "glyph_disabled", "ground")):
