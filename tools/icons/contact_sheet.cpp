@@ -1,9 +1,11 @@
-// Draws every icon of a folder tree, by folder and with its name, at real size and enlarged, on the dark ground.
+// Draws every icon of a folder tree, by folder and with its name, at real size and enlarged, on the dark
+// ground.
 //
 //     contact_sheet ICON_DIR PALETTE_JSON OUT_PNG [--pixels]
 //
-// The pages become OUT-1.png, OUT-2.png ... With --pixels the enlargement repeats the pixels of the real size,
-// which shows blur. Rendered by the toolkit's own SVG renderer: what is seen here is what the product shows.
+// The pages become OUT-1.png, OUT-2.png ... With --pixels the enlargement repeats the pixels of the real
+// size, which shows blur. Rendered by the toolkit's own SVG renderer: what is seen here is what the product
+// shows.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -32,8 +34,7 @@ constexpr int margin = 16;
 constexpr int headerHeight = 24;
 constexpr int pageHeight = 2100;
 
-struct Block
-{
+struct Block {
     QString folder;
     QStringList names;
 
@@ -41,8 +42,7 @@ struct Block
     int height() const { return headerHeight + (names.size() + columns - 1) / columns * cellHeight; }
 };
 
-struct Placed
-{
+struct Placed {
     Block block;
     int page;
     QPoint position;
@@ -58,16 +58,15 @@ QColor colour(const Colours& colours, const char* name)
 std::vector<Block> blocksOf(const QDir& root)
 {
     QMap<QString, QStringList> folders;
-    QDirIterator files(root.path(), {QStringLiteral("*.svg"), QStringLiteral("*.png")}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-    {
+    QDirIterator files(root.path(), {QStringLiteral("*.svg"), QStringLiteral("*.png")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
         const QString relative = root.relativeFilePath(files.next());
         const int slash = relative.lastIndexOf(QLatin1Char('/'));
         folders[relative.left(qMax(slash, 0))] << relative.mid(slash + 1);
     }
     std::vector<Block> blocks;
-    for (auto folder = folders.begin(); folder != folders.end(); ++folder)
-    {
+    for (auto folder = folders.begin(); folder != folders.end(); ++folder) {
         folder.value().sort();
         blocks.push_back({folder.key(), folder.value()});
     }
@@ -82,15 +81,12 @@ std::vector<Placed> place(const std::vector<Block>& blocks, int& pages)
     int top = margin;
     int rowHeight = 0;
     pages = 1;
-    for (const Block& block : blocks)
-    {
-        if (column > 0 && column + block.columnCount() > columns)
-        {
+    for (const Block& block : blocks) {
+        if (column > 0 && column + block.columnCount() > columns) {
             top += rowHeight;
             column = rowHeight = 0;
         }
-        if (column == 0 && top > margin && top + block.height() > pageHeight - margin)
-        {
+        if (column == 0 && top > margin && top + block.height() > pageHeight - margin) {
             ++pages;
             top = margin;
         }
@@ -101,15 +97,36 @@ std::vector<Placed> place(const std::vector<Block>& blocks, int& pages)
     return placed;
 }
 
-QImage render(QSvgRenderer& renderer, const QSize& size)
+// A drawing or a picture, at any size; an unreadable file has no size.
+class Image
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter);
-    return image;
-}
+public:
+    explicit Image(const QString& file)
+    {
+        if (file.endsWith(QLatin1String(".svg")))
+            m_drawing.load(file);
+        else
+            m_picture.load(file);
+    }
+
+    QSize size() const { return m_drawing.isValid() ? m_drawing.defaultSize() : m_picture.size(); }
+
+    QImage at(const QSize& size)
+    {
+        if (!m_drawing.isValid())
+            return m_picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        m_drawing.render(&painter);
+        return image;
+    }
+
+private:
+    QSvgRenderer m_drawing;
+    QImage m_picture;
+};
 
 // A long name breaks after an underscore, near its middle.
 QString inTwoLines(const QString& name)
@@ -125,11 +142,11 @@ QString inTwoLines(const QString& name)
 
 bool drawCell(QPainter& painter, const QString& file, const QRect& cell, const Colours& colours, bool pixels)
 {
-    QSvgRenderer renderer(file);
-    if (!renderer.isValid())
+    Image image(file);
+    const QSize real = image.size();
+    if (real.isEmpty())
         return false;
-    const QSize real = renderer.defaultSize();
-    const QImage exact = render(renderer, real);
+    const QImage exact = image.at(real);
     const QRect area(cell.left() + 4, cell.top() + 2, cell.width() - 8, enlarged);
     const QSize zoomed = real.scaled(enlarged, enlarged, Qt::KeepAspectRatio);
     const bool beside = real.width() + zoomed.width() + 8 <= area.width();
@@ -142,9 +159,10 @@ bool drawCell(QPainter& painter, const QString& file, const QRect& cell, const C
         target.moveCenter(area.center());
     painter.setPen(colour(colours, "line"));
     painter.drawRect(target.adjusted(-1, -1, 0, 0));
-    painter.drawImage(target, pixels ? exact : render(renderer, zoomed));
+    painter.drawImage(target, pixels ? exact : image.at(zoomed));
     painter.setPen(colour(colours, "text_soft"));
-    painter.drawText(cell.adjusted(0, enlarged + 6, -6, 0), Qt::AlignLeft | Qt::AlignTop, inTwoLines(QFileInfo(file).completeBaseName()));
+    painter.drawText(cell.adjusted(0, enlarged + 6, -6, 0), Qt::AlignLeft | Qt::AlignTop,
+                     inTwoLines(QFileInfo(file).completeBaseName()));
     return true;
 }
 
@@ -156,15 +174,15 @@ bool drawBlock(QPainter& painter, const Placed& placed, const QDir& root, const 
     painter.save();
     painter.setFont(bold);
     painter.setPen(colour(colours, "accent_bright"));
-    painter.drawText(placed.position + QPoint(0, 14), QStringLiteral("%1  (%2)").arg(title).arg(placed.block.names.size()));
+    painter.drawText(placed.position + QPoint(0, 14),
+                     QStringLiteral("%1  (%2)").arg(title).arg(placed.block.names.size()));
     painter.restore();
     bool good = true;
-    for (int index = 0; index < placed.block.names.size(); ++index)
-    {
-        const QPoint corner = placed.position + QPoint(index % columns * cellWidth, headerHeight + index / columns * cellHeight);
+    for (int index = 0; index < placed.block.names.size(); ++index) {
+        const QPoint corner = placed.position + QPoint(index % columns * cellWidth,
+                                                       headerHeight + index / columns * cellHeight);
         const QString file = QDir(root.filePath(placed.block.folder)).filePath(placed.block.names[index]);
-        if (!drawCell(painter, file, QRect(corner, QSize(cellWidth, cellHeight)), colours, pixels))
-        {
+        if (!drawCell(painter, file, QRect(corner, QSize(cellWidth, cellHeight)), colours, pixels)) {
             std::fprintf(stderr, "not readable: %s\n", qPrintable(file));
             good = false;
         }
@@ -172,48 +190,55 @@ bool drawBlock(QPainter& painter, const Placed& placed, const QDir& root, const 
     return good;
 }
 
+bool drawPage(const std::vector<Placed>& blocks, int page, const QDir& root, const Colours& colours,
+              bool pixels, const QString& out)
+{
+    int bottom = 0;
+    for (const Placed& block : blocks)
+        if (block.page == page)
+            bottom = qMax(bottom, block.position.y() + block.block.height());
+    QImage image(2 * margin + columns * cellWidth, bottom + margin, QImage::Format_RGB32);
+    image.fill(colour(colours, "ground"));
+    QPainter painter(&image);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(10);
+    painter.setFont(font);
+    bool good = true;
+    for (const Placed& block : blocks)
+        if (block.page == page)
+            good = drawBlock(painter, block, root, colours, pixels) && good;
+    painter.end();
+    return image.save(out) && good;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() < 4)
-    {
+    if (arguments.size() < 4) {
         std::fprintf(stderr, "usage: contact_sheet ICON_DIR PALETTE_JSON OUT_PNG [--pixels]\n");
         return 2;
     }
     QFile paletteFile(arguments[2]);
-    if (!paletteFile.open(QIODevice::ReadOnly))
-    {
+    if (!paletteFile.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "not readable: %s\n", qPrintable(arguments[2]));
         return 1;
     }
     const Colours colours = QJsonDocument::fromJson(paletteFile.readAll()).object();
     const QDir root(QDir(arguments[1]).absolutePath());
+    const bool pixels = arguments.contains(QStringLiteral("--pixels"));
     int pages = 0;
     const std::vector<Placed> placed = place(blocksOf(root), pages);
     const QFileInfo out(arguments[3]);
     bool good = !placed.empty();
-    for (int page = 0; page < pages; ++page)
-    {
-        int bottom = 0;
-        for (const Placed& block : placed)
-            if (block.page == page)
-                bottom = qMax(bottom, block.position.y() + block.block.height());
-        QImage image(2 * margin + columns * cellWidth, bottom + margin, QImage::Format_RGB32);
-        image.fill(colour(colours, "ground"));
-        QPainter painter(&image);
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPixelSize(10);
-        painter.setFont(font);
-        for (const Placed& block : placed)
-            if (block.page == page)
-                good = drawBlock(painter, block, root, colours, arguments.contains(QStringLiteral("--pixels"))) && good;
-        painter.end();
-        const QString name = QStringLiteral("%1/%2-%3.png").arg(out.path(), out.completeBaseName()).arg(page + 1);
-        good = image.save(name) && good;
+    for (int page = 0; page < pages; ++page) {
+        const QString name =
+            QStringLiteral("%1/%2-%3.png").arg(out.path(), out.completeBaseName()).arg(page + 1);
+        good = drawPage(placed, page, root, colours, pixels, name) && good;
     }
     return good ? 0 : 1;
 }

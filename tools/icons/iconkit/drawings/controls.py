@@ -2,7 +2,7 @@
 group box and tree, scroll bar, slider, spin box."""
 
 # Frame, ground and mark of a box indicator in each state.
-EMPTY_BOX = {"": ("line_control", "field"), "hover": ("accent", "field"), "pressed": ("accent_bright", "accent_deep"),
+EMPTY_BOX = {"": ("line_control", "field"), "hover": ("accent", "raised"), "pressed": ("accent_bright", "accent_deep"),
              "disabled": ("line", "panel"), "focus": ("accent", "field")}
 FULL_BOX = {"": ("accent", "accent", "on_accent"), "hover": ("accent_bright", "accent_bright", "on_accent"),
             "pressed": ("accent_deep", "accent_deep", "glyph_bright"), "disabled": ("line", "line", "glyph_soft"),

@@ -1,9 +1,9 @@
 """Buttons of the product's own title bars. The plate belongs to the image, so that it fills the button."""
 
-PLATES = {"": "", "hover": "raised_hover", "pressed": "raised_pressed", "disabled": ""}
+PLATES = {"": "", "hover": "raised_hover", "pressed": "accent_deep", "disabled": ""}
 CLOSE_PLATES = {**PLATES, "hover": "danger", "pressed": "danger_deep"}
-GLYPHS = {"": "glyph", "hover": "glyph_bright", "pressed": "accent", "disabled": "glyph_disabled"}
-CLOSE_GLYPHS = {**GLYPHS, "hover": "on_accent", "pressed": "glyph_bright"}
+GLYPHS = {"": "glyph", "hover": "glyph_bright", "pressed": "glyph_bright", "disabled": "glyph_disabled"}
+CLOSE_GLYPHS = {**GLYPHS, "hover": "on_accent"}
 
 BUTTONS = {
     "close": ("M7.5 7.5l9 9", "M16.5 7.5l-9 9"),
