@@ -118,6 +118,7 @@ class IconsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void imagesPerFolder();
     void listNamesWhatIsWritten();
     void unchangedFilesAreLeftAlone();
     void everyDrawingLoadsAndShows();
@@ -160,6 +161,29 @@ void IconsTest::initTestCase()
     QVERIFY(palette.open(QIODevice::ReadOnly));
     m_palette = QJsonDocument::fromJson(palette.readAll()).object();
     QVERIFY(!m_palette.isEmpty());
+}
+
+void IconsTest::imagesPerFolder()
+{
+    const QString wanted = QStringLiteral(
+        "30 ., 4 aboutDialog_vantora, 6 additionalOptions, 10 anamorphose, 6 buttons, 3 cafDialog, 17 "
+        "checkBox, "
+        "2 comboBox, 4 confirm, 12 correctionInfo, 1 crashSender, 2 crop, 12 cursors, 34 distortion, 10 "
+        "groupBox, "
+        "1 handTool, 6 horizon, 8 keystoning, 6 leftToolBar, 1 loupeShadow, 7 messagebox, 12 perspective, "
+        "6 plugin_bar, 8 previewShadow, 3 processing, 2 radioButton, 3 reset, 12 scrollBar, 1 "
+        "secondary_windows, "
+        "10 settingsPanel, 7 shadow, 6 slider, 1 thumbnail, 13 tiltshift, 6 tiltshift/slider, 49 toolbar, "
+        "12 toolbar/filebrowser, 16 winTitleBar");
+    QMap<QString, int> counts;
+    for (const QString& name : qAsConst(m_names)) {
+        ++counts[QFileInfo(name).path()];
+    }
+    QStringList found;
+    for (auto folder = counts.cbegin(); folder != counts.cend(); ++folder) {
+        found << QStringLiteral("%1 %2").arg(folder.value()).arg(folder.key());
+    }
+    QCOMPARE(found.join(QLatin1String(", ")), wanted);
 }
 
 void IconsTest::listNamesWhatIsWritten()
