@@ -1,6 +1,7 @@
 #include "IsolatedProfile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 
 IsolatedProfile::IsolatedProfile()
@@ -20,6 +21,9 @@ IsolatedProfile::IsolatedProfile()
     redirect("XDG_CONFIG_DIRS", "machine-config");
     redirect("XDG_DATA_DIRS", "machine-data", rest);
     redirect("TMPDIR", "tmp");
+    redirect("XDG_RUNTIME_DIR", "run");
+    QFile::setPermissions(root.filePath(QStringLiteral("run")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 #endif
     clearStores();
 }
