@@ -18,6 +18,7 @@
 #include <QJsonObject>
 #include <QMap>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSvgRenderer>
 
 #include <cstdio>
@@ -140,6 +141,15 @@ QString inTwoLines(const QString& name)
     return best < 0 ? name : name.left(best + 1) + QLatin1Char('\n') + name.mid(best + 1);
 }
 
+// Shadows and marks on the picture are enlarged on a light ground: they have to work there too.
+bool liesOnPictures(const QString& file)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("shadow|/cursors/|/crop/|_(centre|rotation)_handle|horizon_handle|focus_line"),
+        QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(file).hasMatch();
+}
+
 bool drawCell(QPainter& painter, const QString& file, const QRect& cell, const Colours& colours, bool pixels)
 {
     Image image(file);
@@ -148,16 +158,18 @@ bool drawCell(QPainter& painter, const QString& file, const QRect& cell, const C
         return false;
     const QImage exact = image.at(real);
     const QRect area(cell.left() + 4, cell.top() + 2, cell.width() - 8, enlarged);
-    const QSize zoomed = real.scaled(enlarged, enlarged, Qt::KeepAspectRatio);
+    QSize zoomed = real.scaled(enlarged, enlarged, Qt::KeepAspectRatio);
     const bool beside = real.width() + zoomed.width() + 8 <= area.width();
     if (beside)
         painter.drawImage(area.left(), area.center().y() - real.height() / 2, exact);
+    else
+        zoomed = real.scaled(area.size(), Qt::KeepAspectRatio);
     QRect target(QPoint(0, 0), zoomed);
     target.moveCenter(area.center());
-    target.moveRight(area.right() - 6);
-    if (!beside)
-        target.moveCenter(area.center());
+    if (beside)
+        target.moveRight(area.right() - 6);
     painter.setPen(colour(colours, "line"));
+    painter.setBrush(liesOnPictures(file) ? colour(colours, "glyph") : Qt::transparent);
     painter.drawRect(target.adjusted(-1, -1, 0, 0));
     painter.drawImage(target, pixels ? exact : image.at(zoomed));
     painter.setPen(colour(colours, "text_soft"));
@@ -208,7 +220,7 @@ bool drawPage(const std::vector<Placed>& blocks, int page, const QDir& root, con
         if (block.page == page)
             good = drawBlock(painter, block, root, colours, pixels) && good;
     painter.end();
-    return image.save(out) && good;
+    return image.save(out, "PNG", 0) && good; // 0: smallest file
 }
 
 } // namespace

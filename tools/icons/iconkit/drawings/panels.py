@@ -1,5 +1,7 @@
 """Panels and dialogs: settings, additional options, side bar, plug-in bar, confirmation, reset, about, and the rest."""
 
+import math
+
 from .. import svg
 from ..palette import RESOURCES, colour
 from .toolbar import TOGGLES
@@ -11,6 +13,17 @@ SETTINGS = {
     "performance": "B M5 18.5a9 9 0 1 1 14 0z\nM M5 18.5a9 9 0 1 1 14 0z\nD M12 13.5l4-5\nF c 12 13.5 1.75",
     "privacy": "B M12 2.5l7.5 3v6c0 5-3.1 8.2-7.5 10-4.4-1.8-7.5-5-7.5-10v-6z\nM M12 2.5l7.5 3v6c0 5-3.1 8.2-7.5 10-4.4-1.8-7.5-5-7.5-10v-6z\nD M8.5 11.5l2.8 2.8 4.7-5.3",
 }
+def aperture(cx, cy, outer, inner):
+    """Six blades: each edge of the inner hexagon runs on to the outer circle."""
+    corners = [(cx + inner * math.cos(turn * math.pi / 3), cy + inner * math.sin(turn * math.pi / 3)) for turn in range(6)]
+    reach = math.sqrt(outer * outer - 0.75 * inner * inner) + inner / 2
+    lines = []
+    for (x, y), (nx, ny) in zip(corners, corners[1:] + corners[:1]):
+        end = x + (nx - x) * reach / inner, y + (ny - y) * reach / inner
+        lines.append(f"D M{svg.number(x)} {svg.number(y)}L{svg.number(end[0])} {svg.number(end[1])}")
+    return "\n".join(lines)
+
+
 WEBSITE = "B M9.5 4.5h-4a2 2 0 0 0-2 2v8a2 2 0 0 0 2 2h8a2 2 0 0 0 2-2v-4\nM M9.5 4.5h-4a2 2 0 0 0-2 2v8a2 2 0 0 0 2 2h8a2 2 0 0 0 2-2v-4\nD M9.5 10.5l7-7\nD M12.5 3.5h4v4"
 CRASHED_PICTURE = """
 B M29 10H12a4 4 0 0 0-4 4v32a4 4 0 0 0 4 4h14l-3-10 7-9-6-10z
@@ -27,7 +40,7 @@ s=on_accent/2.5 M45.5 46.5l4.5-4.5 4.5 4.5
 CALIBRATION = {
     "file": "B M7 4h11l7 7v16a1.5 1.5 0 0 1-1.5 1.5h-15A1.5 1.5 0 0 1 7 27z\nM M18 4H8.5A1.5 1.5 0 0 0 7 5.5V27a1.5 1.5 0 0 0 1.5 1.5h15A1.5 1.5 0 0 0 25 27V11z\nM M18 4v7h7\nD c 16 19.5 4.5\nF c 16 19.5 1.5",
     "camera_body": "B M4 12a2 2 0 0 1 2-2h5l2.5-4h5L21 10h5a2 2 0 0 1 2 2v12a2 2 0 0 1-2 2H6a2 2 0 0 1-2-2z\nM M4 12a2 2 0 0 1 2-2h5l2.5-4h5L21 10h5a2 2 0 0 1 2 2v12a2 2 0 0 1-2 2H6a2 2 0 0 1-2-2z\nD c 16 17.5 4.5\nF c 24 14 1.25",
-    "lens": "B r 4 11 4 10 1\nM r 4 11 4 10 1\nB r 8 8 10 16 1.5\nM r 8 8 10 16 1.5\nB M18 9l7-2a2.5 2.5 0 0 1 2.5 2.5v13A2.5 2.5 0 0 1 25 25l-7-2z\nM M18 9l7-2a2.5 2.5 0 0 1 2.5 2.5v13A2.5 2.5 0 0 1 25 25l-7-2\nD M12 12v8\nD M15 12v8\nD M23 11.5v9",
+    "lens": "B c 16 16 12\nM c 16 16 12\n" + aperture(16, 16, 12, 5.5),
 }
 PROCESSING = {
     "running": "s=line/4 c 24 24 18\ns=accent/4 M24 6a18 18 0 0 1 15.6 27\nD M24 14v10l6 5",

@@ -41,7 +41,7 @@ def draw_closers(family):
     family.single("tab_close_pressed", 16, 16, "f=danger_deep c 8 8 7\ns=glyph_bright M5.5 5.5l5 5\ns=glyph_bright M10.5 5.5l-5 5")
     family.single("dock_close", 12, 12, CROSS_12)
     family.single("dock_close_hover", 12, 12, CROSS_12.replace("M M", "s=danger M"))
-    float_window = "r 1.5 4.5 6 6 1", "M4.5 2.5v-.5a.5.5 0 0 1 .5-.5h5a.5.5 0 0 1 .5.5v5a.5.5 0 0 1-.5.5h-.5"
+    float_window = "r 2.5 4.5 5 5 .75", "M5 2.5h3.5a1 1 0 0 1 1 1V7"
     for state, tone in (("", "glyph"), ("_hover", "accent_bright")):
         family.single(f"dock_float{state}", 12, 12, "\n".join(f"s={tone} {line}" for line in float_window))
     for state, plate, tone in (("", "glyph_faint", "ground"), ("_hover", "glyph", "ground_deep")):
