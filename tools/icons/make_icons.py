@@ -20,7 +20,8 @@ from iconkit import family, palette  # noqa: E402  (the switch above has to come
 
 LOGO_FOLDER = palette.RESOURCES / "app_icon"
 # Below 48 pixels the master's details fall between the pixels; those two sizes have drawings of their own.
-LOGOS = {16: "trelio_frame_16.svg", 32: "trelio_frame_32.svg", **dict.fromkeys((48, 96, 128, 256, 512, 1024), "trelio_frame.svg")}
+LOGOS = {16: "trelio_frame_16.svg", 32: "trelio_frame_32.svg",
+         **dict.fromkeys((48, 96, 128, 256, 512, 1024), "trelio_frame.svg")}
 
 
 def replace_if_changed(path, content):
@@ -42,7 +43,8 @@ def write_icons(folder):
 def write_logos(folder):
     for size, source in LOGOS.items():
         command = ["rsvg-convert", "--width", str(size), "--height", str(size), str(LOGO_FOLDER / source)]
-        replace_if_changed(folder / f"logo_{size}.png", subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
+        picture = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
+        replace_if_changed(folder / f"logo_{size}.png", picture)
 
 
 def main():

@@ -37,7 +37,8 @@ class Family:
         for word in states.split():
             state = SUFFIX[word]
             content = svg.draw(drawing, state, stroke)
-            self.add(path + (f"_{state}" if state else ""), svg.document(size, size, change(content) if change else content))
+            name = f"{path}_{state}" if state else path
+            self.add(name, svg.document(size, size, change(content) if change else content))
 
     def single(self, path, width, height, drawing, *, stroke=svg.STROKE, definitions=""):
         """One image in its normal state."""

@@ -2,9 +2,9 @@
 
 A drawing is a text of one shape per line: a layer, a blank, a shape.
 
-Layers that follow the state: `M` outline, `D` second tone, `G` thin guide line (all stroked),
-`S` and `F` the same two tones filled, `B` the tint of a body, `A` the stroke of a glyph that has one tone only. Layers of a fixed palette colour:
-`f=NAME[/OPACITY]` filled, `s=NAME[/WIDTH[/OPACITY]]` stroked; NAME may also be a gradient id, `url(#a)`.
+Layers that follow the state: `M` outline and `D` second tone, stroked, `S` and `F` the same filled, `B` the tint of a
+body, `O` that tint and the outline of one shape, `A` the stroke of a glyph that has one tone only. Layers of a fixed
+palette colour: `f=NAME[/OPACITY]` filled, `s=NAME[/WIDTH[/OPACITY]]` stroked; NAME may also be a gradient id, `url(#a)`.
 
 Shapes: `c CX CY R`, `e CX CY RX RY`, `r X Y W H [RADIUS]`, or path data.
 """
@@ -12,7 +12,6 @@ Shapes: `c CX CY R`, `e CX CY RX RY`, `r X Y W H [RADIUS]`, or path data.
 from .palette import STATES, colour
 
 STROKE = 1.5
-GUIDE_STROKE = 1
 
 
 def number(value):
@@ -55,9 +54,8 @@ def layer_paint(layer, state, stroke):
         return filled(colour(name), number(opacity))
     if layer in "SF":
         return filled(colour(tones["main" if layer == "S" else "detail"]))
-    if layer in "MDGA":
-        tone = {"M": "main", "D": "detail", "G": "guide", "A": "lone"}[layer]
-        return stroked(colour(tones[tone]), GUIDE_STROKE if layer == "G" else number(stroke))
+    if layer in "MDA":
+        return stroked(colour(tones[{"M": "main", "D": "detail", "A": "lone"}[layer]]), number(stroke))
     kind, name, *more = layer.replace("=", "/").split("/")
     paint = name if name.startswith("url(") else colour(name)
     if kind == "f":
@@ -75,13 +73,14 @@ def draw(drawing, state="", stroke=STROKE):
     """The elements of a drawing in a state; neighbours of one layer share a group."""
     parts, open_layer = [], None
     for line in filter(None, map(str.strip, drawing.splitlines())):
-        layer, _, geometry = line.partition(" ")
-        if layer != open_layer:
-            if open_layer:
-                parts.append("</g>")
-            parts.append(f"<g {layer_paint(layer, state, stroke)}>")
-            open_layer = layer
-        parts.append(shape(geometry) + "/>")
+        layers, _, geometry = line.partition(" ")
+        for layer in ("B", "M") if layers == "O" else (layers,):
+            if layer != open_layer:
+                if open_layer:
+                    parts.append("</g>")
+                parts.append(f"<g {layer_paint(layer, state, stroke)}>")
+                open_layer = layer
+            parts.append(shape(geometry) + "/>")
     return "".join(parts) + ("</g>" if open_layer else "")
 
 

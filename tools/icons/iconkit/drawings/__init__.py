@@ -1,6 +1,7 @@
 """The drawings, one module per group of folders."""
 
-from . import (controls, corrections, cursors, distortion, messages, panels, shadows, tiltshift, titlebar, toolbar,
-               toplevel)
+from . import (controls, corrections, cursors, dialogs, distortion, messages, panels, shadows, tiltshift, titlebar,
+               toolbar, toplevel)
 
-MODULES = (toplevel, controls, titlebar, messages, cursors, toolbar, corrections, distortion, tiltshift, panels, shadows)
+MODULES = (toplevel, controls, titlebar, messages, cursors, toolbar, corrections, distortion, tiltshift, panels,
+           dialogs, shadows)

@@ -16,16 +16,19 @@ def suffix(state):
     return f"_{state}" if state else ""
 
 
+def indicator(state, frame, ground, mark=""):
+    """A box of 14 pixels, with room for the focus ring around it."""
+    ring = FOCUS_RING if state == "focus" else ""
+    return f"{ring}f={ground} r 2 2 14 14 3\ns={frame}/1 r 2.5 2.5 13 13 2.5\n{mark}"
+
+
 def draw_check_boxes(family):
     for state, (frame, ground) in EMPTY_BOX.items():
-        ring = FOCUS_RING if state == "focus" else ""
-        family.single(f"checkBox/checkbox_unchecked{suffix(state)}", 18, 18,
-                      f"{ring}f={ground} r 2 2 14 14 3\ns={frame}/1 r 2.5 2.5 13 13 2.5")
+        family.single(f"checkBox/checkbox_unchecked{suffix(state)}", 18, 18, indicator(state, frame, ground))
     for word, mark in (("checked", CHECK), ("indeterminate", DASH)):
         for state, (frame, ground, tone) in FULL_BOX.items():
-            ring = FOCUS_RING if state == "focus" else ""
             family.single(f"checkBox/checkbox_{word}{suffix(state)}", 18, 18,
-                          f"{ring}f={ground} r 2 2 14 14 3\ns={frame}/1 r 2.5 2.5 13 13 2.5\ns={tone}/2 {mark}")
+                          indicator(state, frame, ground, f"s={tone}/2 {mark}"))
     family.states("checkBox/checkbox_menu_mark", 16, "M M3.5 8.5l3 3 6-7", "normal disabled", stroke=2)
 
 
@@ -42,6 +45,11 @@ def draw_expanders(family):
     family.states("groupBox/groupbox_collapse", 20, framed + "A M6.5 11.5l3.5-3.5 3.5 3.5", "normal hover")
 
 
+def rounded(tone, points):
+    """A solid shape whose corners are rounded by a stroke around it."""
+    return f"f={tone} {points}\ns={tone}/1 {points}"
+
+
 def draw_arrows(family):
     chevron = "{} M2.5 2.5l3.5 3.5 3.5-3.5"
     family.single("comboBox/combobox_arrow", 12, 8, chevron.format("M"))
@@ -49,10 +57,10 @@ def draw_arrows(family):
     for name, points in (("up", "M2.5 7.5L6 4l3.5 3.5z"), ("down", "M2.5 4.5L6 8l3.5-3.5z"),
                          ("left", "M7.5 2.5L4 6l3.5 3.5z"), ("right", "M4.5 2.5L8 6 4.5 9.5z")):
         for state, tone in (("", "glyph_soft"), ("hover", "glyph_bright"), ("disabled", "line")):
-            family.single(f"scrollBar/scrollbar_arrow_{name}{suffix(state)}", 12, 12, f"f={tone} {points}\ns={tone}/1 {points}")
+            family.single(f"scrollBar/scrollbar_arrow_{name}{suffix(state)}", 12, 12, rounded(tone, points))
     for name, points in (("up", "M2.5 4.5L5 2 7.5 4.5z"), ("down", "M2.5 1.5L5 4 7.5 1.5z")):
         for state, tone in (("", "glyph"), ("hover", "accent_bright"), ("disabled", "glyph_disabled")):
-            family.single(f"buttons/spinbox_{name}{suffix(state)}", 10, 6, f"f={tone} {points}\ns={tone}/1 {points}")
+            family.single(f"buttons/spinbox_{name}{suffix(state)}", 10, 6, rounded(tone, points))
 
 
 def draw_sliders(family):

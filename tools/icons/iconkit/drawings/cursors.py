@@ -10,7 +10,8 @@ CORE_WIDTH, OUTLINE_WIDTH = "1.75", "4.25"
 
 HORIZONTAL = ("M3.5 12.5h16", "M7 8.5l-4 4 4 4", "M16 8.5l4 4-4 4")
 ARROW_HEAD_UP, ARROW_HEAD_DOWN = "M8.2 5.8l3.3-3.3 3.3 3.3", "M8.2 19.2l3.3 3.3 3.3-3.3"
-FOUR_WAY = ("M11.5 3v19", "M2 12.5h19", ARROW_HEAD_UP, ARROW_HEAD_DOWN, "M4.8 9.2l-3.3 3.3 3.3 3.3", "M18.2 9.2l3.3 3.3-3.3 3.3")
+FOUR_WAY = ("M11.5 3v19", "M2 12.5h19", ARROW_HEAD_UP, ARROW_HEAD_DOWN,
+            "M4.8 9.2l-3.3 3.3 3.3 3.3", "M18.2 9.2l3.3 3.3-3.3 3.3")
 ARCH = ("M3 16.5c1-5.5 4.2-8.5 8.5-8.5s7.5 3 8.5 8.5", "M1.8 11.8L3 16.7l4.6-2.2", "M21.2 11.8L20 16.7l-4.6-2.2")
 LENS = "c 10 10.5 6.5"
 HANDLE = "M14.8 15.3l5.4 5.4"
@@ -23,7 +24,8 @@ FIST = ("M8 13v-2.8a1.6 1.6 0 0 1 3.2 0v-.8a1.6 1.6 0 0 1 3.2 0v.6a1.6 1.6 0 0 1
 
 def lines(shapes, core=CORE_WIDTH, outline=OUTLINE_WIDTH):
     """All outlines below all cores, so that crossing lines do not cut each other."""
-    return "\n".join([f"s={OUTLINE}/{outline} {line}" for line in shapes] + [f"s={CORE}/{core} {line}" for line in shapes])
+    outlines = [f"s={OUTLINE}/{outline} {line}" for line in shapes]
+    return "\n".join(outlines + [f"s={CORE}/{core} {line}" for line in shapes])
 
 
 def hand(body, knuckles):
@@ -34,8 +36,8 @@ def hand(body, knuckles):
 
 def draw(family):
     def cursor(name, drawing, matrix=""):
-        content = svg.draw(drawing)
-        family.add(f"cursors/cusors_{name}", svg.document(23, 24, svg.turned(content, matrix) if matrix else content))
+        content = svg.turned(svg.draw(drawing), matrix) if matrix else svg.draw(drawing)
+        family.add(f"cursors/cusors_{name}", svg.document(23, 24, content))
 
     cursor("arrow_horizontal", lines(HORIZONTAL))
     cursor("arrow_vertical", lines(HORIZONTAL), "rotate(90 11.5 12.5)")
@@ -48,5 +50,5 @@ def draw(family):
     cursor("hand_closed", hand(FIST, ("M11.2 10v2.5", "M14.4 10v2.5", "M17.6 11v2")))
     cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5")))
     cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5")))
-    cursor("crosshair", lines(("M11.5 2v6.5", "M11.5 16.5v6.5", "M1 12.5h6.5", "M15.5 12.5h6.5"), core="1.5", outline="4")
-           + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")
+    cross = ("M11.5 2v6.5", "M11.5 16.5v6.5", "M1 12.5h6.5", "M15.5 12.5h6.5")
+    cursor("crosshair", lines(cross, core="1.5", outline="4") + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")

@@ -14,13 +14,14 @@ def fall_off(strength, start=0.0):
 
 
 def frame_pieces(extent):
-    """The eight pieces of a square frame's shadow: name, the point the shadow starts from, the direction it fades to."""
+    """The eight pieces of a square frame's shadow: name, starting point, direction of fading (0, 0 for a corner)."""
     sides = {"top": (0, -1), "right": (1, 0), "bottom": (0, 1), "left": (-1, 0)}
     for name, (dx, dy) in sides.items():
         yield name, extent if dx < 0 else 0, extent if dy < 0 else 0, dx, dy
     for vertical in ("top", "bottom"):
         for horizontal in ("left", "right"):
-            yield f"{vertical}_{horizontal}", extent if horizontal == "left" else 0, extent if vertical == "top" else 0, 0, 0
+            x, y = extent if horizontal == "left" else 0, extent if vertical == "top" else 0
+            yield f"{vertical}_{horizontal}", x, y, 0, 0
 
 
 def gradient_piece(extent, strength, x, y, dx, dy):
@@ -39,10 +40,11 @@ def box(family, path, size, margin, strength):
     for name, x, y, dx, dy in frame_pieces(margin):
         left = 0 if "left" in name else margin if name in ("top", "bottom") else margin + inner
         top = 0 if "top" in name else margin if name in ("left", "right") else margin + inner
+        x, y = x + left, y + top
         if dx or dy:
-            gradient = svg.linear(name, fall_off(strength), x + left, y + top, x + left + dx * margin, y + top + dy * margin)
+            gradient = svg.linear(name, fall_off(strength), x, y, x + dx * margin, y + dy * margin)
         else:
-            gradient = svg.radial(name, fall_off(strength), x + left, y + top, margin)
+            gradient = svg.radial(name, fall_off(strength), x, y, margin)
         definitions.append(gradient)
         width, height = (inner if dy else margin), (inner if dx else margin)
         shapes.append(f"f=url(#{name}) r {left} {top} {width} {height}")

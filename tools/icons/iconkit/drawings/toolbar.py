@@ -4,36 +4,83 @@ import math
 
 from .. import svg
 
-PICTURE = "B r 3.5 4.5 17 15 2\nM r 3.5 4.5 17 15 2\n"
-LENS = "B c 10.5 10.5 7\nM c 10.5 10.5 7\nM M15.8 15.8l4.7 4.7\n"
-CORNERS = "M M3.5 8.5v-3a2 2 0 0 1 2-2h3\nM M15.5 3.5h3a2 2 0 0 1 2 2v3\nM M20.5 15.5v3a2 2 0 0 1-2 2h-3\nM M8.5 20.5h-3a2 2 0 0 1-2-2v-3\n"
+PICTURE = "O r 3.5 4.5 17 15 2\n"
+LENS = "O c 10.5 10.5 7\nM M15.8 15.8l4.7 4.7\n"
+CORNERS = """
+M M3.5 8.5v-3a2 2 0 0 1 2-2h3
+M M15.5 3.5h3a2 2 0 0 1 2 2v3
+M M20.5 15.5v3a2 2 0 0 1-2 2h-3
+M M8.5 20.5h-3a2 2 0 0 1-2-2v-3
+"""
+
+HAND = ("M8.5 13V6.5a1.5 1.5 0 0 1 3 0V5a1.5 1.5 0 0 1 3 0v1.5a1.5 1.5 0 0 1 3 0v2.7a1.5 1.5 0 0 1 3 0"
+        "V15c0 4-2.7 6.5-6.3 6.5-3 0-4.7-1.2-6-3.4l-3.6-5.7a1.5 1.5 0 0 1 2.4-1.8z")
 
 TOGGLES = {
-    "hand": """
-B M8.5 13V6.5a1.5 1.5 0 0 1 3 0V5a1.5 1.5 0 0 1 3 0v1.5a1.5 1.5 0 0 1 3 0v2.7a1.5 1.5 0 0 1 3 0V15c0 4-2.7 6.5-6.3 6.5-3 0-4.7-1.2-6-3.4l-3.6-5.7a1.5 1.5 0 0 1 2.4-1.8z
-M M8.5 13V6.5a1.5 1.5 0 0 1 3 0V5a1.5 1.5 0 0 1 3 0v1.5a1.5 1.5 0 0 1 3 0v2.7a1.5 1.5 0 0 1 3 0V15c0 4-2.7 6.5-6.3 6.5-3 0-4.7-1.2-6-3.4l-3.6-5.7a1.5 1.5 0 0 1 2.4-1.8z
+    "hand": f"""
+O {HAND}
 D M11.5 6.5v4.5
 D M14.5 6.5v4.5
 D M17.5 9v3
 """,
     "loupe": LENS + "F r 7 7 3.5 3.5 .5\nF r 10.5 10.5 3.5 3.5 .5",
     "preview": """
-B M2.5 12C5 7.6 8.2 5.5 12 5.5s7 2.1 9.5 6.5c-2.5 4.4-5.7 6.5-9.5 6.5S5 16.4 2.5 12z
-M M2.5 12C5 7.6 8.2 5.5 12 5.5s7 2.1 9.5 6.5c-2.5 4.4-5.7 6.5-9.5 6.5S5 16.4 2.5 12z
+O M2.5 12C5 7.6 8.2 5.5 12 5.5s7 2.1 9.5 6.5c-2.5 4.4-5.7 6.5-9.5 6.5S5 16.4 2.5 12z
 D c 12 12 3
 """,
-    "compare": PICTURE + "B M5.5 4.5H12v15H5.5a2 2 0 0 1-2-2v-11a2 2 0 0 1 2-2z\nD M12 2v20\nD M8.5 9.5L6 12l2.5 2.5\nD M15.5 9.5L18 12l-2.5 2.5",
-    "grid": "B r 3.5 3.5 17 17 2\nM r 3.5 3.5 17 17 2\nD M9.5 4v16\nD M14.5 4v16\nD M4 9.5h16\nD M4 14.5h16",
-    "guides": "B r 3.5 3.5 17 5 1\nM r 3.5 3.5 17 5 1\nM M7.5 4v2\nM M12 4v2\nM M16.5 4v2\nD M3.5 14.5h17\nD M14.5 11.5v9",
+    "compare": PICTURE + """
+B M5.5 4.5H12v15H5.5a2 2 0 0 1-2-2v-11a2 2 0 0 1 2-2z
+D M12 2v20
+D M8.5 9.5L6 12l2.5 2.5
+D M15.5 9.5L18 12l-2.5 2.5
+""",
+    "grid": """
+O r 3.5 3.5 17 17 2
+D M9.5 4v16
+D M14.5 4v16
+D M4 9.5h16
+D M4 14.5h16
+""",
+    "guides": """
+O r 3.5 3.5 17 5 1
+M M7.5 4v2
+M M12 4v2
+M M16.5 4v2
+D M3.5 14.5h17
+D M14.5 11.5v9
+""",
 }
 COMMANDS = {
-    "undo": "M M8.5 4.5l-5 5 5 5\nM M3.5 9.5h11a4.5 4.5 0 0 1 4.5 4.5\nD M19 14a4.5 4.5 0 0 1-4.5 4.5h-4",
+    "undo": """
+M M8.5 4.5l-5 5 5 5
+M M3.5 9.5h11a4.5 4.5 0 0 1 4.5 4.5
+D M19 14a4.5 4.5 0 0 1-4.5 4.5h-4
+""",
     "zoom_in": LENS + "D M7.5 10.5h6\nD M10.5 7.5v6",
     "zoom_out": LENS + "D M7.5 10.5h6",
     "fit": CORNERS + "B r 7.5 7.5 9 9 1\nD r 7.5 7.5 9 9 1",
-    "actual_size": PICTURE + "M M6.7 9.7l1.8-1.2v7\nM M14.7 9.7l1.8-1.2v7\nF c 12 10.2 1\nF c 12 14.2 1",
-    "rotate_right": "B r 9.5 10.5 11 10 1.5\nM r 9.5 10.5 11 10 1.5\nD M4.5 15v-3.5a6 6 0 0 1 6-6h3.5\nD M11.5 2.5l3 3-3 3",
-    "save_preset": "M M3.5 6.5h7\nM M15.5 6.5h5\nM M3.5 12.5h2\nM M10.5 12.5h10\nM M3.5 18.5h7\nB c 13 6.5 2.5\nM c 13 6.5 2.5\nB c 8 12.5 2.5\nM c 8 12.5 2.5\nD M17.5 15.5v6\nD M14.5 18.5h6",
+    "actual_size": PICTURE + """
+M M6.7 9.7l1.8-1.2v7
+M M14.7 9.7l1.8-1.2v7
+F c 12 10.2 1
+F c 12 14.2 1
+""",
+    "rotate_right": """
+O r 9.5 10.5 11 10 1.5
+D M4.5 15v-3.5a6 6 0 0 1 6-6h3.5
+D M11.5 2.5l3 3-3 3
+""",
+    "save_preset": """
+M M3.5 6.5h7
+M M15.5 6.5h5
+M M3.5 12.5h2
+M M10.5 12.5h10
+M M3.5 18.5h7
+O c 13 6.5 2.5
+O c 8 12.5 2.5
+D M17.5 15.5v6
+D M14.5 18.5h6
+""",
 }
 
 
@@ -49,18 +96,34 @@ def gear(cx, cy, outer, inner, teeth):
 
 GEAR = gear(12, 12, 9.4, 6.9, 8)
 OTHERS = {
-    "settings": f"B {GEAR}\nM {GEAR}\nD c 12 12 2.75",
-    "help": "B c 12 12 8.5\nM c 12 12 8.5\nD M9.5 9.7a2.5 2.5 0 1 1 3.7 2.2c-.9.5-1.2 1-1.2 1.9\nF c 12 16.7 1.1",
+    "settings": f"O {GEAR}\nD c 12 12 2.75",
+    "help": """
+O c 12 12 8.5
+D M9.5 9.7a2.5 2.5 0 1 1 3.7 2.2c-.9.5-1.2 1-1.2 1.9
+F c 12 16.7 1.1
+""",
 }
 
 FOLDER = "M2.5 15.5v-11a1 1 0 0 1 1-1h4l2 2.5h7a1 1 0 0 1 1 1v8.5a1 1 0 0 1-1 1h-13a1 1 0 0 1-1-1z"
 BROWSER = (
-    ("folder_up", "normal hover", f"B {FOLDER}\nM {FOLDER}\nD M10 14V9\nD M7.5 11L10 8.5l2.5 2.5"),
-    ("refresh", "normal hover", "M M16.5 9a6.7 6.7 0 0 0-12.3-2.6\nM M3.5 11a6.7 6.7 0 0 0 12.3 2.6\nD M4.2 2.9v3.6h3.6\nD M15.8 17.1v-3.6h-3.6"),
-    ("favourite", "normal checked", "B M10 2.8l2.2 4.7 5.1.7-3.7 3.6.9 5.1L10 14.4l-4.5 2.5.9-5.1-3.7-3.6 5.1-.7z\nM M10 2.8l2.2 4.7 5.1.7-3.7 3.6.9 5.1L10 14.4l-4.5 2.5.9-5.1-3.7-3.6 5.1-.7z"),
-    ("view_thumbnails", "normal hover checked", "\n".join(f"{layer} r {x}.5 {y}.5 6 6 1" for x, y, layer in
-     ((2, 2, "B"), (11, 2, "B"), (2, 11, "B"), (11, 11, "B"), (2, 2, "D"), (11, 2, "M"), (2, 11, "M"), (11, 11, "M")))),
-    ("view_list", "normal hover checked", "\n".join(f"B r 2.5 {y}.5 3 3 .5\nM r 2.5 {y}.5 3 3 .5\nD M9.5 {y + 2}h8" for y in (2, 8, 14))),
+    ("folder_up", "normal hover", f"O {FOLDER}\nD M10 14V9\nD M7.5 11L10 8.5l2.5 2.5"),
+    ("refresh", "normal hover", """
+M M16.5 9a6.7 6.7 0 0 0-12.3-2.6
+M M3.5 11a6.7 6.7 0 0 0 12.3 2.6
+D M4.2 2.9v3.6h3.6
+D M15.8 17.1v-3.6h-3.6
+"""),
+    ("favourite", "normal checked", """
+O M10 2.8l2.2 4.7 5.1.7-3.7 3.6.9 5.1L10 14.4l-4.5 2.5.9-5.1-3.7-3.6 5.1-.7z
+"""),
+    ("view_thumbnails", "normal hover checked", """
+B r 2.5 2.5 6 6 1
+O r 11.5 2.5 6 6 1
+O r 2.5 11.5 6 6 1
+O r 11.5 11.5 6 6 1
+D r 2.5 2.5 6 6 1
+"""),
+    ("view_list", "normal hover checked", "\n".join(f"O r 2.5 {y}.5 3 3 .5\nD M9.5 {y + 2}h8" for y in (2, 8, 14))),
 )
 
 
@@ -70,7 +133,8 @@ def draw(family):
     for name, drawing in COMMANDS.items():
         family.states(f"toolbar/{name}", 24, drawing, "normal hover disabled")
     for name, source in (("redo", "undo"), ("rotate_left", "rotate_right")):
-        family.states(f"toolbar/{name}", 24, COMMANDS[source], "normal hover disabled", change=lambda content: svg.flipped(content, 24))
+        family.states(f"toolbar/{name}", 24, COMMANDS[source], "normal hover disabled",
+                      change=lambda content: svg.flipped(content, 24))
     for name, drawing in OTHERS.items():
         family.states(f"toolbar/{name}", 24, drawing, "normal hover")
     for name, states, drawing in BROWSER:

@@ -1,9 +1,9 @@
 """Images of the icon folder itself: window furniture that the style sheets share, and the product's mark."""
 
-CROSS_12 = "M M3.5 3.5l5 5\nM M8.5 3.5l-5 5"
+CROSS_12 = "M3.5 3.5l5 5M8.5 3.5l-5 5"
+CROSS_16 = "M5.5 5.5l5 5M10.5 5.5l-5 5"
 MARK = """
-B M7 4.5h6l3 12h-12z
-M M7 4.5h6l3 12h-12z
+O M7 4.5h6l3 12h-12z
 f=accent r 2 8 16 2 1
 f=accent r 9 10 2 6
 """
@@ -36,14 +36,13 @@ def draw(family):
 
 def draw_closers(family):
     """Close, float and clear buttons; each reddens or lights on its own small plate."""
-    family.single("tab_close", 16, 16, "s=glyph_soft M5.5 5.5l5 5\ns=glyph_soft M10.5 5.5l-5 5")
-    family.single("tab_close_hover", 16, 16, "f=danger c 8 8 7\ns=on_accent M5.5 5.5l5 5\ns=on_accent M10.5 5.5l-5 5")
-    family.single("tab_close_pressed", 16, 16, "f=danger_deep c 8 8 7\ns=glyph_bright M5.5 5.5l5 5\ns=glyph_bright M10.5 5.5l-5 5")
-    family.single("dock_close", 12, 12, CROSS_12)
-    family.single("dock_close_hover", 12, 12, CROSS_12.replace("M M", "s=danger M"))
+    family.single("tab_close", 16, 16, f"s=glyph_soft {CROSS_16}")
+    family.single("tab_close_hover", 16, 16, f"f=danger c 8 8 7\ns=on_accent {CROSS_16}")
+    family.single("tab_close_pressed", 16, 16, f"f=danger_deep c 8 8 7\ns=glyph_bright {CROSS_16}")
+    family.single("dock_close", 12, 12, f"M {CROSS_12}")
+    family.single("dock_close_hover", 12, 12, f"s=danger {CROSS_12}")
     float_window = "r 2.5 4.5 5 5 .75", "M5 2.5h3.5a1 1 0 0 1 1 1V7"
     for state, tone in (("", "glyph"), ("_hover", "accent_bright")):
         family.single(f"dock_float{state}", 12, 12, "\n".join(f"s={tone} {line}" for line in float_window))
     for state, plate, tone in (("", "glyph_faint", "ground"), ("_hover", "glyph", "ground_deep")):
-        family.single(f"clear_text{state}", 16, 16,
-                      f"f={plate} c 8 8 6.5\ns={tone} M6 6l4 4\ns={tone} M10 6l-4 4")
+        family.single(f"clear_text{state}", 16, 16, f"f={plate} c 8 8 6.5\ns={tone} M6 6l4 4M10 6l-4 4")
