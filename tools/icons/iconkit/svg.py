@@ -2,9 +2,10 @@
 
 A drawing is a text of one shape per line: a layer, a blank, a shape.
 
-Layers that follow the state: `M` outline and `D` second tone, stroked, `S` and `F` the same filled, `B` the tint of a
-body, `O` that tint and the outline of one shape, `A` the stroke of a glyph that has one tone only. Layers of a fixed
-palette colour: `f=NAME[/OPACITY]` filled, `s=NAME[/WIDTH[/OPACITY]]` stroked; NAME may also be a gradient id, `url(#a)`.
+Layers that follow the state: `M` outline and `D` second tone, stroked, `S` and `F` the same filled, `B` the tint of
+a body, `O` that tint and the outline of one shape, `A` the stroke of a glyph that has one tone only.
+Layers of a fixed palette colour: `f=NAME[/OPACITY]` filled, `s=NAME[/WIDTH[/OPACITY]]` stroked; NAME may also be a
+gradient of the image, `url(#a)`.
 
 Shapes: `c CX CY R`, `e CX CY RX RY`, `r X Y W H [RADIUS]`, or path data.
 """

@@ -51,4 +51,5 @@ def draw(family):
     cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5")))
     cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5")))
     cross = ("M11.5 2v6.5", "M11.5 16.5v6.5", "M1 12.5h6.5", "M15.5 12.5h6.5")
-    cursor("crosshair", lines(cross, core="1.5", outline="4") + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")
+    cursor("crosshair", lines(cross, core="1.5", outline="4")
+           + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")
