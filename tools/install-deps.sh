@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that a group of work needs: build, test, windows, bench, lint, fuzz. Silent and fast when
-# nothing is missing.
+# Installs the Debian packages that a group of work needs. Silent and fast when nothing is missing.
 set -euo pipefail
 
 usage() {
@@ -12,6 +11,7 @@ Usage: tools/install-deps.sh GROUP...
   bench    build and run the benchmark programs with their peers
   lint     check the format and build with Clang
   fuzz     build and run the fuzz targets
+  docs     make the API reference
 TEXT
 }
 
@@ -32,6 +32,9 @@ packages_of() {
         ;;
     lint | fuzz)
         echo clang clang-format libclang-rt-14-dev shellcheck
+        ;;
+    docs)
+        echo doxygen
         ;;
     *)
         usage >&2

@@ -14,7 +14,8 @@ FLOORS = [
 ]
 WINGS = {
     "language": {"LanguageManager", "ErrStrings"},
-    "asynchronous": {"DelayedCall", "Waiting", "ExcludeUserInpuEventLoop", "RunnableItem", "OperationCompletionWaiter"},
+    "asynchronous": {"DelayedCall", "Waiting", "ExcludeUserInpuEventLoop", "ScopedInputFilter", "RunnableItem",
+                     "OperationCompletionWaiter"},
     "files": {"FileManagement", "ArchiveCompression", "ArchiveExtraction", "ArchiveDirectory", "FileNames"},
     "soap": {"soap/*"},
 }

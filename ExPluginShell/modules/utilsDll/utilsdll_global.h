@@ -5,6 +5,9 @@
 
 #include <QtCore/qglobal.h>
 
+/// \def UTILSDLL_EXPORT
+/// Marks what other modules may use.
+
 #if defined(UTILSDLL_STATIC) // the objects are linked into the program itself (tests of internal units)
 #define UTILSDLL_EXPORT
 #elif defined(UTILSDLL_LIBRARY)
