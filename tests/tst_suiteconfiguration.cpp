@@ -47,6 +47,7 @@ private Q_SLOTS:
     void writing();
     void failures_data();
     void failures();
+    void readOnlyFile();
     void hostileDocuments_data();
     void hostileDocuments();
     void largeDocument();
@@ -224,6 +225,20 @@ void SuiteConfigurationTest::failures()
     if (situation != "no folder" && situation != "folder") {
         QCOMPARE(contentOf(m_path), situation);
     }
+}
+
+void SuiteConfigurationTest::readOnlyFile()
+{
+    const QByteArray before = "<c><group name='G'><key name='K' value='1'/></group></c>";
+    setContent(before);
+    QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner));
+    const bool mayWrite =
+        QFileInfo(m_path).isWritable(); // the system's administrator may, everybody else may not
+    QCOMPARE(write("K", "2"), mayWrite);
+    QCOMPARE(read(), mayWrite ? text("2") : text("1"));
+    QCOMPARE(installedLogger().take().size(), mayWrite ? 0 : 1);
+    QVERIFY(mayWrite || contentOf(m_path) == before);
+    QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner));
 }
 
 void SuiteConfigurationTest::hostileDocuments_data()
