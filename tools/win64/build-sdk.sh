@@ -117,9 +117,11 @@ use_lower_case_import_libraries() {
 
 # Another QuaZip in the same host process must not be taken for this one.
 name_quazip_for_the_product() {
-    local project="$work/quazip/CMakeLists.txt"
+    local project="$work/quazip/CMakeLists.txt" target="$work/quazip/quazip/CMakeLists.txt"
     sed -i 's/^set(QUAZIP_LIB_FILE_NAME .*/set(QUAZIP_LIB_FILE_NAME quazipTrelioFrame)/' "$project"
+    sed -i "s/OUTPUT_NAME .{QUAZIP_LIB_FILE_NAME}/& PREFIX \"\"/" "$target"
     grep -q 'quazipTrelioFrame' "$project" || die "$project does not set QUAZIP_LIB_FILE_NAME any more"
+    grep -q 'PREFIX ""' "$target" || die "$target does not set OUTPUT_NAME any more"
 }
 
 # The tablet headers of the windows platform plug-in come from Wine, whose macros a Windows compiler does not know.
@@ -188,8 +190,7 @@ CMAKE
     logged "$work/quazip.log" cmake -S "$work/quazip" -B "$work/build-quazip" \
         -DCMAKE_TOOLCHAIN_FILE="$work/toolchain.cmake" -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_PREFIX_PATH="$sdk" -DCMAKE_INSTALL_PREFIX="$sdk" \
-        -DQUAZIP_QT_MAJOR_VERSION=5 -DQUAZIP_BZIP2=OFF \
-        -DCMAKE_SHARED_LIBRARY_PREFIX=
+        -DQUAZIP_QT_MAJOR_VERSION=5 -DQUAZIP_BZIP2=OFF
     logged "$work/quazip.log" cmake --build "$work/build-quazip" --parallel "$jobs"
     logged "$work/quazip.log" cmake --install "$work/build-quazip"
 }
@@ -208,7 +209,10 @@ complete() {
     find "$sdk/bin" -type f ! -name '*.dll' ! -name moc ! -name rcc ! -name uic ! -name qmake -delete
     strip "$sdk/bin/moc" "$sdk/bin/rcc" "$sdk/bin/uic" "$sdk/bin/qmake"
     find "$sdk/lib" "$sdk/plugins" -name '*.prl' -delete
-    rm -rf "$sdk/doc" "$sdk/lib/pkgconfig"
+    find "$sdk/lib" -name 'libQt5*Support.a' ! -name libQt5PrintSupport.a -delete
+    find "$sdk/mkspecs" -mindepth 1 -maxdepth 1 ! -name common ! -name features ! -name modules \
+        ! -name 'q*.pri' ! -name win32-g++ -exec rm -rf {} +
+    rm -rf "$sdk/doc" "$sdk/lib/pkgconfig" "$sdk"/lib/libQt5Bootstrap.*
 }
 
 pack() {
