@@ -1,0 +1,99 @@
+#include "TestMain.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace
+{
+
+QString text(const char* latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+} // namespace
+
+/// The showcase on the console, on a real profile: it passes, and a second start finds what the first one
+/// left.
+class ShowcaseTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void secondRunSeesTheFirst();
+    void temporaryRunLeavesNothing();
+    void failureIsTold();
+
+private:
+    struct Run {
+        int exitCode;
+        QString report;
+    };
+    static Run start(const QStringList& arguments);
+    static QString rowOf(const QString& report, const char* name);
+};
+
+ShowcaseTest::Run ShowcaseTest::start(const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationDirPath() + text("/trelio-showcase"), arguments);
+    if (!process.waitForFinished(100000)) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, text("did not end: ") + QString::fromUtf8(process.readAll())};
+    }
+    return {process.exitCode(), QString::fromUtf8(process.readAll())};
+}
+
+QString ShowcaseTest::rowOf(const QString& report, const char* name)
+{
+    const QRegularExpression row(text(name) + text(" +(.*[^\\r\\n ])"));
+    return row.match(report).captured(1);
+}
+
+void ShowcaseTest::secondRunSeesTheFirst()
+{
+    const Run first = start({text("--console")});
+    QVERIFY2(first.exitCode == 0, qPrintable(first.report));
+    QCOMPARE(rowOf(first.report, "earlier runs on this profile"), text("0"));
+    QCOMPARE(rowOf(first.report, "first launch on this profile"), text("yes"));
+    QCOMPARE(rowOf(first.report, "suite file, value of the last run"), text("(none)"));
+
+    const Run second = start({text("--console")});
+    QVERIFY2(second.exitCode == 0, qPrintable(second.report));
+    QCOMPARE(rowOf(second.report, "earlier runs on this profile"), text("1"));
+    QCOMPARE(rowOf(second.report, "first launch on this profile"), text("no"));
+    QCOMPARE(rowOf(second.report, "mode of the last launch"), text("Showcase"));
+    QCOMPARE(rowOf(second.report, "suite file, value of the last run"),
+             rowOf(first.report, "suite file read back"));
+    QCOMPARE(rowOf(second.report, "getUserID"), rowOf(first.report, "getUserID"));
+}
+
+void ShowcaseTest::temporaryRunLeavesNothing()
+{
+    IsolatedProfile::clearStores();
+    const Run run = start({text("--console"), text("--temporary")});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.report));
+    QCOMPARE(rowOf(run.report, "mode"), text("temporary file"));
+    QCOMPARE(rowOf(run.report, "value from the seed file"), text("from the seed file"));
+    QVERIFY(QSettings(text("Tolvan"), text("Trelio Frame")).childGroups().isEmpty());
+    QVERIFY(!QSettings(text("Tolvan"), text("Trelio Frame")).contains(text("app_launched")));
+}
+
+void ShowcaseTest::failureIsTold()
+{
+    const QByteArray usual = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", "/dev/null/nowhere");
+    const Run run = start({text("--console")});
+    qputenv("XDG_DATA_HOME", usual);
+#ifdef Q_OS_WIN
+    QCOMPARE(run.exitCode, 0); // known folders are not redirected there
+#else
+    QVERIFY2(run.exitCode == 1 && run.report.contains(text("FAIL")), qPrintable(run.report));
+#endif
+}
+
+TOLVAN_CORE_TEST_MAIN(ShowcaseTest)
+#include "tst_showcase.moc"
