@@ -56,13 +56,16 @@ private:
     };
     Outcome start(const QString& library, const QString& mode);
 
-    QSettings m_settings{QStringLiteral("Tolvan"), QStringLiteral("Trelio Frame")};
+    // A store of its own for each value: clearing the stores may invalidate those that are open.
+    static void store(const char* key, const QString& value)
+    {
+        QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text(key), value);
+    }
 };
 
 void LoggerStartupTest::init()
 {
     IsolatedProfile::clearStores();
-    m_settings.sync();
 }
 
 LoggerStartupTest::Outcome LoggerStartupTest::start(const QString& library, const QString& mode)
@@ -115,8 +118,7 @@ void LoggerStartupTest::outcomes()
     QFETCH(QString, mode);
     QFETCH(QByteArray, logger);
     QFETCH(QByteArray, err);
-    m_settings.setValue(text("loggerEnabled"), enabled);
-    m_settings.sync();
+    store("loggerEnabled", enabled);
     const Outcome outcome = start(library, mode);
     QCOMPARE(outcome.result.mid(0, 3),
              QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
@@ -165,8 +167,7 @@ void LoggerStartupTest::levelLetter()
 {
     QFETCH(QString, stored);
     QFETCH(int, letter);
-    m_settings.setValue(text("loggerLevel"), stored);
-    m_settings.sync();
+    store("loggerLevel", stored);
     const Outcome outcome = start(text("fake_logger.dll"), text("none"));
     QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letter) + "\n"),
              outcome.loggerCalls);

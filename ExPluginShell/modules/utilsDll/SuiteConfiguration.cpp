@@ -1,6 +1,7 @@
 #include "Settings.h"
 
 #include "Logging.h"
+#include "platform/SharedFile.h"
 #include "StorageLocation.h"
 #include "XmlBounds.h"
 
@@ -44,13 +45,20 @@ QDomDocument parsed(const QString& xml)
 /// Replaces the file whole, or, where its folder refuses a temporary file, writes it in place.
 bool replaceFile(const QString& path, const QString& text)
 {
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return false;
+    for (int attempt = 0;; ++attempt) {
+        QSaveFile file(path);
+        file.setDirectWriteFallback(true);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+            return false;
+        }
+        file.write(text.toUtf8());
+        if (file.commit()) {
+            return true;
+        }
+        if (file.error() != QFileDevice::RenameError || !Platform::isWorthReplacingAgain(path, attempt)) {
+            return false;
+        }
     }
-    file.write(text.toUtf8());
-    return file.commit();
 }
 
 /// Runs \a operation and logs what it throws. \return whether it went through
@@ -112,7 +120,7 @@ QString CSettings::getSettingFromConfigFile(const QString& path, const QString& 
 {
     QFile file(path);
     // Opened before it is looked for: a file that is being replaced may seem not to exist for a moment.
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!Platform::openSharedFile(file, QIODevice::ReadOnly | QIODevice::Text)) {
         if (file.exists()) {
             throw failure("Fail to open the Ostra Collection configuration file: ", path);
         }
@@ -156,7 +164,7 @@ void CSettings::writeSettingToConfigFile(const QString& path, const QString& gro
 {
     const char* const openFailure = "Fail to open Ostra Collection configuration file: ";
     QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly)) {
+    if (!Platform::openSharedFile(file, QIODevice::ReadWrite | QIODevice::Text)) {
         if (file.exists()) {
             throw failure(openFailure, path);
         }
