@@ -8,6 +8,7 @@ Usage: tools/install-deps.sh GROUP...
   build    compile the library and the showcase, and run it
   test     run the tests
   windows  cross-build for 64-bit Windows and run the result under Wine
+  sdk      make the Windows build of Qt (tools/win64/build-sdk.sh)
   bench    build and run the benchmark programs with their peers
   lint     check the format and build with Clang
   fuzz     build and run the fuzz targets
@@ -25,7 +26,11 @@ packages_of() {
         echo libqt5svg5 xvfb openbox libxtst-dev
         ;;
     windows)
-        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xz-utils
+        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb xauth xz-utils
+        ;;
+    sdk)
+        echo g++ make cmake perl dpkg-dev xz-utils
+        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libwine-dev
         ;;
     bench)
         echo libbenchmark-dev

@@ -4,13 +4,14 @@ set -euo pipefail
 
 if [ "${1:-}" = --help ] || [ "${1:-}" = -h ]; then
     cat <<'TEXT'
-Usage: find-sdk.sh
+Usage: find-sdk.sh [--check]
 
 Prints the absolute path of the folder with the Windows build of Qt, QuaZip and zlib. It is taken from
   1. the environment variable WIN64_SDK: the folder, or the archive win64-sdk.tar.xz,
   2. ../shared/win64-sdk.tar.xz beside the source tree,
   3. ~/.cache/utilsdll-win64/win64-sdk.tar.xz, where tools/win64/build-sdk.sh leaves it.
 An archive is unpacked into the cache once; it is unpacked again only when the archive changes.
+With --check nothing is unpacked or printed; only the exit code tells.
 Exit codes: 0 found, 1 the archive or folder is no good, 3 nowhere to be found.
 TEXT
     exit 0
@@ -69,6 +70,9 @@ unpacked_folder() {
 }
 
 source="$(find_source)"
+if [ "${1:-}" = --check ]; then
+    exit 0
+fi
 if [ -d "$source" ]; then
     folder="$(cd "$source" && pwd)"
 else

@@ -133,10 +133,9 @@ windows_path() {
 }
 
 library_path() {
-    local folder path
-    path="$(windows_path "$(dirname "$program")")"
+    local folder path=
     for folder in "${dlls[@]}" "$sdk/bin"; do
-        path+=";$(windows_path "$folder")"
+        path+="${path:+;}$(windows_path "$folder")"
     done
     echo "$path"
 }
@@ -179,8 +178,8 @@ cat "$run/stderr.txt" >&2
 if [ "$code" -eq 124 ] || [ "$code" -eq 137 ]; then
     echo "run-test: stopped after $limit seconds" >&2
     code=124
-elif [ "$code" -eq 0 ] && [ -n "$results" ] && ! grep -q '^Totals: ' "$results"; then
-    echo "run-test: the test ended before it had its results" >&2
-    code=1
+elif [ -n "$results" ] && ! grep -q '^Totals: ' "$results"; then
+    echo "run-test: the test ended before it had its results (exit code $code)" >&2
+    [ "$code" -ne 0 ] || code=1
 fi
 exit "$code"
