@@ -36,6 +36,17 @@ struct InvokerRegistry {
 class CDelayedInvoker : public QObject
 {
 public:
+    struct methodData {
+        QPointer<QObject> target;
+        QObject* targetKey;
+        const char* method;
+        bool singleShot;
+        QVariantList args;
+
+        bool isLiveFor(const QObject* object) const { return target && targetKey == object; }
+        static bool invokeMethod(QObject* target, const char* method, const QVariantList& args);
+    };
+
     explicit CDelayedInvoker(InvokerRegistry& registry);
     ~CDelayedInvoker() override;
 
@@ -47,16 +58,6 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    struct methodData {
-        QPointer<QObject> target;
-        QObject* targetKey;
-        const char* method;
-        bool singleShot;
-        QVariantList args;
-
-        bool isLiveFor(const QObject* object) const { return target && targetKey == object; }
-        static bool invokeMethod(QObject* target, const char* method, const QVariantList& args);
-    };
     using CallTable = std::map<int, methodData>;
     using ObjectIndex = std::multimap<QObject*, int>;
 

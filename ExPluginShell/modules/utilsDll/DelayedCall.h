@@ -100,7 +100,7 @@ public:
     static bool isActive(QObject* object, const char* method);
 
 private:
-    class Q_DECL_HIDDEN Store;
+    class Store;
 
     CDelayedCall();
     ~CDelayedCall();

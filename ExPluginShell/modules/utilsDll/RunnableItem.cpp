@@ -12,6 +12,9 @@ CRunnableItem<Base>::StartFinishPredicate::StartFinishPredicate(bool start, cons
 }
 
 template <class Base>
+CRunnableItem<Base>::StartFinishPredicate::~StartFinishPredicate() = default;
+
+template <class Base>
 bool CRunnableItem<Base>::StartFinishPredicate::test() const
 {
     const int entries = m_counter->loadAcquire();

@@ -20,12 +20,13 @@ class CRunnableItem : public Base
 {
 public:
     /// The condition of the waits below.
-    class StartFinishPredicate : public ICustomWaitPredicate
+    class UTILSDLL_EXPORT StartFinishPredicate : public ICustomWaitPredicate
     {
     public:
         /// \param start   true: wait until the counter is above 0; false: until it is 0
         /// \param counter not owned
         StartFinishPredicate(bool start, const QAtomicInt* counter);
+        ~StartFinishPredicate() override;
         bool test() const override;
 
     private:

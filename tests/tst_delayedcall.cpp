@@ -1,0 +1,306 @@
+#include "TestMain.h"
+
+#include <utilsDll/DelayedCall.h>
+
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <QPointer>
+
+#include <functional>
+#include <new>
+
+/// A target that notes its calls and, on request, does something from inside them.
+class Target : public QObject
+{
+    Q_OBJECT
+
+public:
+    int calls = 0;
+    QVariantList received;
+    std::function<void()> inside;
+
+public Q_SLOTS:
+    void m()
+    {
+        ++calls;
+        if (inside) {
+            inside();
+        }
+    }
+    void other() { ++calls; }
+    void setValue(int value) { received = {value}; }
+    void two(const QString& text, double number) { received = {text, number}; }
+    void nine(int a, int b, int c, int d, int e, int f, int g, int h, int i)
+    {
+        received = {a, b, c, d, e, f, g, h, i};
+    }
+    void eight(int a, int b, int c, int d, int e, int f, int g, int h)
+    {
+        received = {a, b, c, d, e, f, g, h};
+    }
+    void seven(int a, int b, int c, int d, int e, int f, int g) { received = {a, b, c, d, e, f, g}; }
+    void six(int a, int b, int c, int d, int e, int f) { received = {a, b, c, d, e, f}; }
+    void five(int a, int b, int c, int d, int e) { received = {a, b, c, d, e}; }
+    void four(int a, int b, int c, int d) { received = {a, b, c, d}; }
+    void three(int a, int b, int c) { received = {a, b, c}; }
+};
+
+/// Everything that happens within one thread.
+class DelayedCallTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void burstBecomesOneCall();
+    void zeroDelayWaitsForTheLoop();
+    void periodicUntilDiscarded();
+    void lastRequestWins();
+    void discardOneOrAll();
+    void methodsAreComparedAsTexts();
+    void nothingForNullOrNegative();
+    void argumentsInOrder();
+    void typeNamesHaveToMatch();
+    void destroyedTarget();
+    void newObjectAtTheSameAddress();
+    void insideTheCall_data();
+    void insideTheCall();
+    void nestedLoopInsideTheCall();
+    void oneInstanceForAllModules();
+};
+
+void DelayedCallTest::burstBecomesOneCall()
+{
+    Target target;
+    QElapsedTimer sinceLast;
+    qint64 elapsed = -1;
+    target.inside = [&] { elapsed = sinceLast.elapsed(); };
+    for (int i = 0; i < 10; ++i) {
+        CDelayedCall::invoke(100, &target, "m", true);
+        sinceLast.start();
+        QTest::qWait(10);
+    }
+    QCOMPARE(target.calls, 0);
+    QTRY_COMPARE(target.calls, 1);
+    QVERIFY2(elapsed >= 90, qPrintable(QString::number(elapsed)));
+    QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    QTest::qWait(150);
+    QCOMPARE(target.calls, 1);
+}
+
+void DelayedCallTest::zeroDelayWaitsForTheLoop()
+{
+    Target target;
+    CDelayedCall::invoke(0, &target, "m");
+    QCOMPARE(target.calls, 0);
+    QVERIFY(CDelayedCall::isActive(&target, "m"));
+    QTRY_COMPARE(target.calls, 1);
+}
+
+void DelayedCallTest::periodicUntilDiscarded()
+{
+    Target target;
+    QElapsedTimer clock;
+    clock.start();
+    CDelayedCall::invoke(50, &target, "m", false);
+    QTRY_COMPARE(target.calls, 4);
+    QVERIFY2(clock.elapsed() >= 180, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY(CDelayedCall::isActive(&target, "m"));
+    CDelayedCall::discard(&target, "m");
+    QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    QTest::qWait(120);
+    QCOMPARE(target.calls, 4);
+}
+
+void DelayedCallTest::lastRequestWins()
+{
+    Target target;
+    CDelayedCall::invokeWithArgs(10, &target, "setValue", QVariant(1), false);
+    CDelayedCall::invokeWithArgs(10, &target, "setValue", QVariant(2), true);
+    QTRY_COMPARE(target.received, QVariantList{2});
+    QVERIFY(!CDelayedCall::isActive(&target, "setValue")); // the flag was replaced as well
+}
+
+void DelayedCallTest::discardOneOrAll()
+{
+    Target target, bystander;
+    for (Target* t : {&target, &bystander}) {
+        CDelayedCall::invoke(20, t, "m");
+        CDelayedCall::invoke(20, t, "other");
+    }
+    CDelayedCall::discard(&target, "m");
+    QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    QVERIFY(CDelayedCall::isActive(&target, "other"));
+    CDelayedCall::invoke(20, &target, "m");
+    CDelayedCall::discard(&target, nullptr);
+    QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    QVERIFY(!CDelayedCall::isActive(&target, "other"));
+    QTRY_COMPARE(bystander.calls, 2);
+    QCOMPARE(target.calls, 0);
+}
+
+void DelayedCallTest::methodsAreComparedAsTexts()
+{
+    Target target;
+    const QByteArray copy("m");
+    const char* const literal = "m";
+    QVERIFY(copy.constData() != literal);
+    CDelayedCall::invoke(10, &target, literal);
+    QVERIFY(CDelayedCall::isActive(&target, copy.constData()));
+    CDelayedCall::invoke(10, &target, copy.constData());
+    CDelayedCall::discard(&target, literal);
+    QVERIFY(!CDelayedCall::isActive(&target, copy.constData()));
+    QTest::qWait(50);
+    QCOMPARE(target.calls, 0);
+}
+
+void DelayedCallTest::nothingForNullOrNegative()
+{
+    Target target;
+    CDelayedCall::invoke(0, nullptr, "m");
+    CDelayedCall::invoke(0, &target, nullptr);
+    CDelayedCall::discard(nullptr, nullptr);
+    QVERIFY(!CDelayedCall::isActive(nullptr, "m"));
+    QVERIFY(!CDelayedCall::isActive(&target, nullptr));
+    CDelayedCall::invoke(10, &target, "m");
+    QTest::ignoreMessage(QtWarningMsg, "QObject::startTimer: Timers cannot have negative intervals");
+    CDelayedCall::invoke(-1, &target, "m"); // no timer, but the earlier request is cancelled
+    QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    QTest::qWait(50);
+    QCOMPARE(target.calls, 0);
+}
+
+void DelayedCallTest::argumentsInOrder()
+{
+    Target t;
+    const QVariant a(1), b(2), c(3), d(4), e(5), f(6), g(7), h(8), i(9);
+    const auto arrives = [&](const QVariantList& expected) {
+        return QTest::qWaitFor([&] { return t.received == expected; });
+    };
+    CDelayedCall::invokeWithArgs(0, &t, "setValue", a);
+    QVERIFY(arrives({1}));
+    CDelayedCall::invokeWithArgs(0, &t, "two", QStringLiteral("ä"), QVariant(0.5));
+    QVERIFY(arrives({QStringLiteral("ä"), 0.5}));
+    CDelayedCall::invokeWithArgs(0, &t, "three", a, b, c);
+    QVERIFY(arrives({1, 2, 3}));
+    CDelayedCall::invokeWithArgs(0, &t, "four", a, b, c, d);
+    QVERIFY(arrives({1, 2, 3, 4}));
+    CDelayedCall::invokeWithArgs(0, &t, "five", a, b, c, d, e);
+    QVERIFY(arrives({1, 2, 3, 4, 5}));
+    CDelayedCall::invokeWithArgs(0, &t, "six", a, b, c, d, e, f);
+    QVERIFY(arrives({1, 2, 3, 4, 5, 6}));
+    CDelayedCall::invokeWithArgs(0, &t, "seven", a, b, c, d, e, f, g);
+    QVERIFY(arrives({1, 2, 3, 4, 5, 6, 7}));
+    CDelayedCall::invokeWithArgs(0, &t, "eight", a, b, c, d, e, f, g, h);
+    QVERIFY(arrives({1, 2, 3, 4, 5, 6, 7, 8}));
+    CDelayedCall::invokeWithArgs(0, &t, "nine", a, b, c, d, e, f, g, h, i, true);
+    QVERIFY(arrives({1, 2, 3, 4, 5, 6, 7, 8, 9}));
+}
+
+void DelayedCallTest::typeNamesHaveToMatch()
+{
+    Target target;
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("No such method Target::setValue\\(double\\)")));
+    CDelayedCall::invokeWithArgs(0, &target, "setValue", QVariant(5.0));
+    QTRY_VERIFY(!CDelayedCall::isActive(&target, "setValue"));
+    QVERIFY(target.received.isEmpty());
+}
+
+void DelayedCallTest::destroyedTarget()
+{
+    Target* const target = new Target;
+    CDelayedCall::invoke(5, target, "m");
+    CDelayedCall::invoke(5, target, "other", false);
+    delete target;
+    QVERIFY(!CDelayedCall::isActive(target, "m"));
+    QVERIFY(!CDelayedCall::isActive(target, "other"));
+    CDelayedCall::discard(target, nullptr);
+    QTest::qWait(50); // both fall due: no crash, no message
+}
+
+void DelayedCallTest::newObjectAtTheSameAddress()
+{
+    alignas(Target) unsigned char room[sizeof(Target)];
+    Target* target = new (room) Target;
+    CDelayedCall::invoke(20, target, "m");
+    target->~Target();
+    target = new (room) Target;
+    QVERIFY(!CDelayedCall::isActive(target, "m"));
+    CDelayedCall::invoke(60, target, "m");
+    QTest::qWait(40);
+    QCOMPARE(target->calls, 0); // the old object's call has fallen due
+    QTRY_COMPARE(target->calls, 1);
+    target->~Target();
+}
+
+void DelayedCallTest::insideTheCall_data()
+{
+    QTest::addColumn<bool>("singleShot");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("calls");
+    for (const bool singleShot : {true, false}) {
+        const char* const kind = singleShot ? "single shot" : "periodic";
+        QTest::addRow("%s discards itself", kind) << singleShot << QStringLiteral("discard") << 1;
+        QTest::addRow("%s asks for itself again", kind) << singleShot << QStringLiteral("again") << 2;
+        QTest::addRow("%s deletes its target", kind) << singleShot << QStringLiteral("delete target") << 1;
+        QTest::addRow("%s deletes another target", kind) << singleShot << QStringLiteral("delete other") << 1;
+    }
+}
+
+void DelayedCallTest::insideTheCall()
+{
+    QFETCH(const bool, singleShot);
+    QFETCH(const QString, action);
+    QFETCH(const int, calls);
+    QPointer<Target> target = new Target;
+    QPointer<Target> other = new Target;
+    int made = 0;
+    target->inside = [&, t = target.data()] {
+        ++made;
+        if (action == QLatin1String("again") && made == 1) {
+            CDelayedCall::invoke(1, t, "m", true);
+            QVERIFY(CDelayedCall::isActive(t, "m"));
+        } else if (action == QLatin1String("delete target")) {
+            delete t;
+        } else if (action == QLatin1String("delete other")) {
+            delete other;
+            CDelayedCall::discard(t, nullptr);
+        } else {
+            CDelayedCall::discard(t, "m");
+        }
+    };
+    CDelayedCall::invoke(1, target, "m", singleShot);
+    CDelayedCall::invoke(1, other, "other", singleShot);
+    QTRY_COMPARE(made, calls);
+    QTest::qWait(20);
+    QCOMPARE(made, calls);
+    QVERIFY(!target || !CDelayedCall::isActive(target, "m"));
+    if (other) {
+        QVERIFY(other->calls > 0); // no call was lost
+    }
+    delete target;
+    delete other;
+}
+
+void DelayedCallTest::nestedLoopInsideTheCall()
+{
+    Target target;
+    target.inside = [] { QTest::qWait(30); };
+    CDelayedCall::invoke(1, &target, "m");
+    QTRY_COMPARE(target.calls, 1);
+    QTest::qWait(30);
+    QCOMPARE(target.calls, 1); // its timer did not fire again in the nested loop
+}
+
+void DelayedCallTest::oneInstanceForAllModules()
+{
+    using Instance = void* (*)();
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/UtilsDllTrelioFrame"));
+    const auto instance =
+        reinterpret_cast<Instance>(library.resolve("_ZN9SingletonI12CDelayedCallE8instanceEv"));
+    QVERIFY2(instance, qPrintable(library.errorString()));
+    QCOMPARE(instance(), static_cast<void*>(&Singleton<CDelayedCall>::instance()));
+}
+
+TOLVAN_CORE_TEST_MAIN(DelayedCallTest)
+#include "tst_delayedcall.moc"

@@ -1,0 +1,54 @@
+#include "RecordingLogger.h"
+#include "TestMain.h"
+
+// The invoker is private to its source: what the public operations can't bring about is tested in here.
+#pragma GCC diagnostic ignored "-Wsubobject-linkage" // which is meant for headers
+#include "DelayedCall.cpp"
+
+class DelayedCallDispatchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { TOLVAN_NAMESPACE::Logging::setLogger(&m_logger); }
+    void nullMethodIsReported();
+    void moreThanNineArgumentsAreReported();
+    void nullTargetOrMethod();
+
+private:
+    RecordingLogger m_logger;
+};
+
+void DelayedCallDispatchTest::nullMethodIsReported()
+{
+    InvokerRegistry registry;
+    CDelayedInvoker invoker(registry);
+    QTest::ignoreMessage(QtDebugMsg, "ASSERT in ExPluginShell\\modules\\utilsDll\\DelayedCall:216");
+    invoker.schedule(0, this, nullptr, true, {});
+    QStringList lines;
+    QTRY_VERIFY(!(lines = m_logger.take()).isEmpty());
+    QCOMPARE(lines,
+             QStringList{QStringLiteral("E `anonymous-namespace'::CDelayedInvoker::timerEvent: ASSERT in "
+                                        "ExPluginShell\\modules\\utilsDll\\DelayedCall:216")});
+}
+
+void DelayedCallDispatchTest::moreThanNineArgumentsAreReported()
+{
+    QTest::ignoreMessage(QtDebugMsg, "ASSERT in ExPluginShell\\modules\\utilsDll\\DelayedCall:258");
+    const QVariantList ten{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    QVERIFY(!CDelayedInvoker::methodData::invokeMethod(this, "deleteLater", ten));
+    QCOMPARE(m_logger.take(),
+             QStringList{
+                 QStringLiteral("E `anonymous-namespace'::CDelayedInvoker::methodData::invokeMethod: ASSERT "
+                                "in ExPluginShell\\modules\\utilsDll\\DelayedCall:258")});
+}
+
+void DelayedCallDispatchTest::nullTargetOrMethod()
+{
+    QVERIFY(!CDelayedInvoker::methodData::invokeMethod(nullptr, "deleteLater", {}));
+    QVERIFY(!CDelayedInvoker::methodData::invokeMethod(this, nullptr, {}));
+    QVERIFY(m_logger.take().isEmpty());
+}
+
+TOLVAN_CORE_TEST_MAIN(DelayedCallDispatchTest)
+#include "tst_delayedcall_dispatch.moc"

@@ -1,0 +1,171 @@
+#include "TestMain.h"
+
+#include <utilsDll/DelayedCall.h>
+
+#include <QThread>
+
+#include <atomic>
+#include <thread>
+
+/// Counts its calls and notes the thread of the last one. Read while other threads run.
+class SharedTarget : public QObject
+{
+    Q_OBJECT
+
+public:
+    std::atomic<int> calls{0};
+    std::atomic<QThread*> calledIn{nullptr};
+
+public Q_SLOTS:
+    void m()
+    {
+        calledIn = QThread::currentThread();
+        ++calls;
+    }
+};
+
+/// A thread that runs a function, then its event loop if wanted, and has ended at the end of the scope.
+class WorkerThread : public QThread
+{
+public:
+    explicit WorkerThread(std::function<void()> function, bool loop = true)
+        : m_function(std::move(function))
+        , m_loop(loop)
+    {
+        start();
+    }
+    ~WorkerThread() override { end(); }
+    void end()
+    {
+        quit();
+        QVERIFY(wait(30000));
+    }
+
+protected:
+    void run() override
+    {
+        m_function();
+        ready = true;
+        if (m_loop) {
+            exec();
+        }
+    }
+
+public:
+    std::atomic<bool> ready{false};
+
+private:
+    const std::function<void()> m_function;
+    const bool m_loop;
+};
+
+class DelayedCallThreadsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void callsAreSeenByTheirThreadOnly();
+    void targetInAnotherThread();
+    void threadEndsWithCallsPending();
+    void threadWithoutAnEventLoop();
+    void threadThatQtDidNotStart();
+    void manyThreadsAtOnce();
+};
+
+void DelayedCallThreadsTest::callsAreSeenByTheirThreadOnly()
+{
+    SharedTarget target;
+    CDelayedCall::invoke(1, &target, "m", false);
+    std::atomic<bool> seen{true};
+    std::thread other([&] {
+        seen = CDelayedCall::isActive(&target, "m");
+        CDelayedCall::discard(&target, nullptr);
+    });
+    other.join();
+    QVERIFY(!seen);
+    QVERIFY(CDelayedCall::isActive(&target, "m"));
+    QTRY_VERIFY(target.calls > 0);
+    CDelayedCall::discard(&target, nullptr);
+}
+
+void DelayedCallThreadsTest::targetInAnotherThread()
+{
+    SharedTarget here; // asked for there, called here
+    WorkerThread worker([&] { CDelayedCall::invoke(1, &here, "m"); });
+    QTRY_COMPARE(here.calls.load(), 1);
+    QCOMPARE(here.calledIn.load(), QThread::currentThread());
+    SharedTarget there; // asked for here, called there
+    there.moveToThread(&worker);
+    CDelayedCall::invoke(1, &there, "m");
+    QTRY_COMPARE(there.calls.load(), 1);
+    QCOMPARE(there.calledIn.load(), static_cast<QThread*>(&worker));
+    worker.end();
+}
+
+void DelayedCallThreadsTest::threadEndsWithCallsPending()
+{
+    SharedTarget target;
+    {
+        WorkerThread worker([&] {
+            CDelayedCall::invoke(1, &target, "m", false);
+            CDelayedCall::invoke(100000, &target, "deleteLater");
+        });
+        QTRY_VERIFY(target.calls > 1);
+    }
+    QCoreApplication::processEvents();
+    const int calls = target.calls;
+    QTest::qWait(30);
+    QCOMPARE(target.calls.load(), calls);
+}
+
+void DelayedCallThreadsTest::threadWithoutAnEventLoop()
+{
+    SharedTarget target;
+    std::atomic<bool> pending{false};
+    {
+        WorkerThread worker(
+            [&] {
+                CDelayedCall::invoke(0, &target, "m");
+                QThread::msleep(20);
+                pending = CDelayedCall::isActive(&target, "m");
+            },
+            false);
+    }
+    QVERIFY(pending);
+    QTest::qWait(20);
+    QCOMPARE(target.calls.load(), 0);
+}
+
+void DelayedCallThreadsTest::threadThatQtDidNotStart()
+{
+    SharedTarget target;
+    std::atomic<bool> pending{true};
+    QTest::ignoreMessage(QtWarningMsg,
+                         "QObject::startTimer: Timers can only be used with threads started with QThread");
+    std::thread thread([&] {
+        CDelayedCall::invoke(0, &target, "m");
+        pending = CDelayedCall::isActive(&target, "m");
+    });
+    thread.join();
+    QVERIFY(!pending); // no timer: the request was dropped
+}
+
+void DelayedCallThreadsTest::manyThreadsAtOnce()
+{
+    constexpr int threads = 8, requests = 500;
+    SharedTarget target; // one target for all: the indexes of the threads are their own
+    std::vector<std::unique_ptr<WorkerThread>> workers;
+    for (int t = 0; t < threads; ++t) {
+        workers.push_back(std::make_unique<WorkerThread>([&target] {
+            for (int i = 0; i < requests; ++i) {
+                CDelayedCall::invoke(i % 3, &target, "m");
+                CDelayedCall::discard(&target, i % 7 == 0 ? "m" : "none");
+            }
+            CDelayedCall::invoke(0, &target, "m");
+        }));
+    }
+    QTRY_COMPARE(target.calls.load(), threads);
+}
+
+TOLVAN_CORE_TEST_MAIN(DelayedCallThreadsTest)
+#include "tst_delayedcall_threads.moc"

@@ -1,0 +1,324 @@
+#include "PoolHandover.h"
+#include "TestMain.h"
+
+#include <utilsDll/RunnableItem.h>
+
+#include <QSignalSpy>
+#include <QThread>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+namespace
+{
+
+/// An item whose work is a function; notes its hooks. Deleted by the test.
+class Item : public TakenOver<CQRunnableItem>
+{
+public:
+    explicit Item(std::function<bool(const Item&)> function, bool emitSignals = true)
+        : TakenOver<CQRunnableItem>(emitSignals)
+        , work(std::move(function))
+    {
+        setAutoDelete(false);
+    }
+    ~Item() override { waitFinishBlocking(); }
+
+    using CQRunnableItem::entriesCounter;
+    using CQRunnableItem::setStopFlag;
+    QStringList hooks;
+    std::atomic<int> runs{0};
+
+private:
+    bool doRun() override
+    {
+        ++runs;
+        return work(*this);
+    }
+    void doBeforeStopped() override
+    {
+        hooks += stopRequired() ? QStringLiteral("before, too late") : QStringLiteral("before");
+    }
+    void doStopped() override
+    {
+        hooks += stopRequired() ? QStringLiteral("after") : QStringLiteral("after, too early");
+    }
+
+    const std::function<bool(const Item&)> work;
+};
+
+bool untilStopped(const Item& item)
+{
+    while (!item.stopRequired()) {
+        QThread::yieldCurrentThread();
+    }
+    return true;
+}
+
+/// The three signals of an item.
+struct Spies {
+    explicit Spies(CQRunnableItem& item)
+        : started(&item, SIGNAL(started()))
+        , wantsToStop(&item, SIGNAL(wantsToStop()))
+        , finished(&item, SIGNAL(finished(bool, bool)))
+    {
+    }
+    QSignalSpy started, wantsToStop, finished;
+};
+
+} // namespace
+
+class RunnableItemTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void outcome_data();
+    void outcome();
+    void stoppedBeforeItRuns();
+    void stoppedTwice();
+    void stoppedFromAnotherThread();
+    void withoutSignals();
+    void workThatThrows();
+    void interruptedThread();
+    void waits();
+    void waitKeepsTimersAndSwallowsInput();
+    void reenteredItem();
+    void thousandItemsStoppedByManyThreads();
+};
+
+void RunnableItemTest::outcome_data()
+{
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<bool>("stopped");
+    QTest::newRow("success") << true << false;
+    QTest::newRow("failure") << false << false;
+    QTest::newRow("success in spite of a stop") << true << true;
+    QTest::newRow("given up") << false << true;
+}
+
+void RunnableItemTest::outcome()
+{
+    QFETCH(const bool, ok);
+    QFETCH(const bool, stopped);
+    Item item([&](const Item& self) {
+        if (stopped) {
+            const_cast<Item&>(self).stop();
+        }
+        return ok && self.isStarted();
+    });
+    const Spies spies(item);
+    int entriesAtFinished = -1;
+    connect(&item, &CQRunnableItem::finished, this, [&] { entriesAtFinished = item.entriesCounter(); });
+    item.run();
+    QCOMPARE(spies.started.count(), 1);
+    QCOMPARE(spies.wantsToStop.count(), stopped ? 1 : 0);
+    QCOMPARE(spies.finished.count(), 1);
+    QCOMPARE(spies.finished.first(), QVariantList({ok, stopped}));
+    QCOMPARE(entriesAtFinished, 0);
+}
+
+void RunnableItemTest::stoppedBeforeItRuns()
+{
+    Item item(untilStopped);
+    const Spies spies(item);
+    item.stop();
+    item.run();
+    item.run();
+    QCOMPARE(item.runs.load(), 0);
+    QCOMPARE(spies.wantsToStop.count(), 1);
+    QCOMPARE(spies.started.count() + spies.finished.count(), 0);
+    item.setStopFlag(false);
+    QVERIFY(!item.stopRequired());
+}
+
+void RunnableItemTest::stoppedTwice()
+{
+    Item item(untilStopped);
+    const Spies spies(item);
+    QVERIFY(QMetaObject::invokeMethod(&item, "stop"));
+    QVERIFY(QMetaObject::invokeMethod(&item, "stop"));
+    QCOMPARE(spies.wantsToStop.count(), 1);
+    QCOMPARE(item.hooks, QStringList({QStringLiteral("before"), QStringLiteral("after")}));
+}
+
+void RunnableItemTest::stoppedFromAnotherThread()
+{
+    for (const int threads : {1, 3}) {
+        QThreadPool pool;
+        pool.setMaxThreadCount(threads);
+        Item item(untilStopped);
+        const Spies spies(item);
+        startOn(pool, item);
+        item.waitStartBlocking();
+        QVERIFY(item.isStarted() && !item.isFinished());
+        item.stop();
+        item.waitFinishNonBlocking(false);
+        QVERIFY(pool.waitForDone(30000));
+        QTRY_COMPARE(spies.finished.count(), 1);
+        QCOMPARE(spies.finished.first(), QVariantList({true, true}));
+    }
+}
+
+void RunnableItemTest::withoutSignals()
+{
+    int counted = 0;
+    Item item(
+        [&](const Item& self) {
+            counted = self.entriesCounter();
+            const_cast<Item&>(self).stop();
+            return true;
+        },
+        false);
+    const Spies spies(item);
+    item.run();
+    QCOMPARE(counted, 1);
+    QCOMPARE(spies.started.count() + spies.wantsToStop.count() + spies.finished.count(), 0);
+    QCOMPARE(item.hooks.size(), 2);
+}
+
+void RunnableItemTest::workThatThrows()
+{
+    Item item([](const Item&) -> bool { throw std::runtime_error("x"); });
+    const Spies spies(item);
+    QVERIFY_EXCEPTION_THROWN(item.run(), std::runtime_error);
+    QCOMPARE(item.entriesCounter(), 0);
+    QCOMPARE(spies.started.count(), 1);
+    QCOMPARE(spies.finished.count(), 0);
+}
+
+void RunnableItemTest::interruptedThread()
+{
+    Item item(untilStopped);
+    const std::unique_ptr<QThread> thread(QThread::create([&] { item.run(); }));
+    thread->start();
+    item.waitStartBlocking();
+    QVERIFY(!item.stopRequired()); // it is not this thread that is interrupted
+    thread->requestInterruption();
+    item.waitFinishBlocking();
+    QVERIFY(thread->wait(30000));
+    QCOMPARE(item.runs.load(), 1);
+}
+
+void RunnableItemTest::waits()
+{
+    QThreadPool pool;
+    pool.setMaxThreadCount(1);
+    std::atomic<bool> go{false};
+    Item blocker([&](const Item&) {
+        while (!go) {
+            QThread::yieldCurrentThread();
+        }
+        return true;
+    });
+    std::atomic<bool> ended{false};
+    Item item([&](const Item&) {
+        QThread::msleep(20);
+        ended = true;
+        return true;
+    });
+    startOn(pool, blocker);
+    startOn(pool, item);
+    item.waitFinishBlocking(); // not picked up yet: returns at once
+    item.waitFinishNonBlocking(true);
+    QVERIFY(!ended && item.isFinished() && !item.isStarted());
+    go = true;
+    item.waitExecuteBlocking();
+    QVERIFY(ended);
+    QVERIFY(pool.waitForDone(30000));
+    ended = false;
+    startOn(pool, item);
+    item.waitExecuteNonBlocking(true);
+    QVERIFY(ended);
+    QVERIFY(pool.waitForDone(30000));
+}
+
+void RunnableItemTest::waitKeepsTimersAndSwallowsInput()
+{
+    QThreadPool pool;
+    Item item([](const Item&) {
+        QThread::msleep(20);
+        return true;
+    });
+    QWidget widget;
+    widget.setFocusPolicy(Qt::ClickFocus);
+    struct Presses : QObject {
+        int count = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+            return false;
+        }
+    } presses;
+    widget.installEventFilter(&presses);
+    QTimer::singleShot(20, this, [&] {
+        QTest::mouseClick(&widget, Qt::LeftButton);
+        QTest::keyClick(&widget, Qt::Key_A);
+        startOn(pool, item); // the wait below can't end without the timer
+    });
+    item.waitExecuteNonBlocking(true);
+    QCOMPARE(presses.count, 0);
+    QTest::mouseClick(&widget, Qt::LeftButton);
+    QCOMPARE(presses.count, 1);
+    QVERIFY(pool.waitForDone(30000));
+}
+
+void RunnableItemTest::reenteredItem()
+{
+    QThreadPool pool;
+    pool.setMaxThreadCount(3);
+    Item item(untilStopped);
+    for (int i = 0; i < 3; ++i) {
+        startOn(pool, item);
+    }
+    QTRY_COMPARE(item.entriesCounter(), 3);
+    item.stop();
+    item.waitFinishBlocking();
+    QCOMPARE(item.entriesCounter(), 0);
+    QVERIFY(pool.waitForDone(30000));
+}
+
+void RunnableItemTest::thousandItemsStoppedByManyThreads()
+{
+    constexpr int count = 1000, stoppers = 4;
+    std::vector<std::unique_ptr<Item>> items;
+    std::atomic<int> finished{0}, worked{0};
+    QThreadPool pool;
+    pool.setMaxThreadCount(4);
+    for (int i = 0; i < count; ++i) {
+        items.push_back(std::make_unique<Item>([&worked, i](const Item& self) {
+            ++worked;
+            return i % 2 == 0 ? untilStopped(self) : self.stopRequired();
+        }));
+        connect(
+            items.back().get(), &CQRunnableItem::finished, this, [&] { ++finished; }, Qt::DirectConnection);
+        startOn(pool, *items.back());
+    }
+    std::vector<std::thread> threads;
+    for (int t = 0; t < stoppers; ++t) {
+        threads.emplace_back([&, t] {
+            for (int i = 0; i < count; ++i) {
+                items[static_cast<std::size_t>((i + t * count / stoppers) % count)]->stop();
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    QVERIFY(pool.waitForDone(60000));
+    QCOMPARE(finished.load(), worked.load());
+    for (const auto& item : items) {
+        QCOMPARE(item->entriesCounter(), 0);
+        QVERIFY(item->stopRequired());
+        QVERIFY(item->runs <= 1);
+    }
+}
+
+TOLVAN_GUI_TEST_MAIN(RunnableItemTest)
+#include "tst_runnableitem.moc"
