@@ -1,0 +1,192 @@
+#include "platform/FatalMessage.h"
+
+#include <QFile>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstring>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+namespace
+{
+
+enum class Dialect { None, KDialog, Zenity, XMessage };
+
+/// The message program; plain memory, so that showing a message needs no other.
+struct MessageProgram {
+    Dialect dialect = Dialect::None;
+    char path[PATH_MAX] = {};
+};
+
+MessageProgram messageProgram;
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/// Zero-terminated UTF-8 in memory of its own; a text that does not fit is cut at a whole character.
+class Utf8Text
+{
+public:
+    explicit Utf8Text(const ushort* text)
+    {
+        while (*text != 0) {
+            uint code = *text++;
+            const bool isPair = (code & 0xFC00) == 0xD800 && (*text & 0xFC00) == 0xDC00;
+            if (isPair) {
+                code = 0x10000 + ((code - 0xD800) << 10) + (*text++ - 0xDC00u);
+            }
+            if (!append(code)) {
+                break;
+            }
+        }
+        m_bytes[m_size] = '\0';
+    }
+
+    char* data() { return m_bytes; }
+    std::size_t size() const { return m_size; }
+
+private:
+    bool append(uint code)
+    {
+        constexpr std::size_t longest = 4;
+        if (m_size + longest >= sizeof m_bytes) {
+            return false;
+        }
+        const int followers = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+        constexpr uint leads[] = {0x00, 0xC0, 0xE0, 0xF0};
+        m_bytes[m_size++] = static_cast<char>(leads[followers] | (code >> (6 * followers)));
+        for (int follower = followers - 1; follower >= 0; --follower) {
+            m_bytes[m_size++] = static_cast<char>(0x80 | ((code >> (6 * follower)) & 0x3F));
+        }
+        return true;
+    }
+
+    char m_bytes[4096];
+    std::size_t m_size = 0;
+};
+
+/// \return whether the program ran and was not missing a display
+bool runToItsEnd(char* const arguments[])
+{
+    // The handler that called may have blocked signals; the program must not inherit that.
+    posix_spawnattr_t attributes;
+    sigset_t none;
+    sigemptyset(&none);
+    if (posix_spawnattr_init(&attributes) != 0) {
+        return false;
+    }
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    pid_t child = 0;
+    const int failure = posix_spawn(&child, arguments[0], nullptr, &attributes, arguments, environ);
+    posix_spawnattr_destroy(&attributes);
+    if (failure != 0) {
+        return false;
+    }
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) {
+            return true; // the host collects its children itself: the box has been shown all the same
+        }
+    }
+    constexpr int couldNotStart = 127;
+    return WIFEXITED(status) && WEXITSTATUS(status) != couldNotStart;
+}
+
+bool showInProgram(Utf8Text& text, Utf8Text& title)
+{
+    char titleOption[] = "--title";
+    char plainTitleOption[] = "-title";
+    char errorOption[] = "--error";
+    char textOption[] = "--text";
+    char noMarkup[] = "--no-markup";
+    char center[] = "-center";
+    char* const path = messageProgram.path;
+    switch (messageProgram.dialect) {
+    case Dialect::KDialog: {
+        char* const arguments[] = {path, titleOption, title.data(), errorOption, text.data(), nullptr};
+        return runToItsEnd(arguments);
+    }
+    case Dialect::Zenity: {
+        char* const arguments[] = {path,       errorOption, noMarkup, titleOption, title.data(),
+                                   textOption, text.data(), nullptr};
+        return runToItsEnd(arguments);
+    }
+    case Dialect::XMessage: {
+        char* const arguments[] = {path, center, plainTitleOption, title.data(), text.data(), nullptr};
+        return runToItsEnd(arguments);
+    }
+    case Dialect::None:
+        break;
+    }
+    return false;
+}
+
+void writeToStandardError(const char* bytes, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t written = write(STDERR_FILENO, bytes, size);
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return;
+        }
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
+} // namespace
+
+void prepareFatalMessages()
+{
+    messageProgram.dialect = Dialect::None;
+    if (!hasDisplay()) {
+        return;
+    }
+    const struct {
+        const char* name;
+        Dialect dialect;
+    } programs[] = {
+        {"kdialog", Dialect::KDialog}, {"zenity", Dialect::Zenity}, {"xmessage", Dialect::XMessage}};
+    for (const auto& program : programs) {
+        const QByteArray path =
+            QFile::encodeName(QStandardPaths::findExecutable(QLatin1String(program.name)));
+        if (!path.isEmpty() && path.size() < int(sizeof messageProgram.path)) {
+            std::memcpy(messageProgram.path, path.constData(), static_cast<std::size_t>(path.size()) + 1);
+            messageProgram.dialect = program.dialect;
+            return;
+        }
+    }
+}
+
+void showFatalMessage(const ushort* text, const ushort* title, quintptr)
+{
+    Utf8Text messageText(text);
+    Utf8Text messageTitle(title);
+    if (showInProgram(messageText, messageTitle)) {
+        return;
+    }
+    writeToStandardError(messageTitle.data(), messageTitle.size());
+    writeToStandardError("\n", 1);
+    writeToStandardError(messageText.data(), messageText.size());
+    writeToStandardError("\n", 1);
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE
