@@ -21,9 +21,13 @@ packages_of() {
     build)
         echo g++ cmake ninja-build ccache python3
         echo qtbase5-dev qtbase5-private-dev libqt5svg5-dev libspdlog-dev
+        # the resource bundles: catalogues, fonts, rendered icons; a font with Chinese and Japanese characters to show them
+        echo qttools5-dev-tools qttranslations5-l10n librsvg2-bin
+        echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-droid-fallback
         ;;
     test)
         echo libqt5svg5 xvfb openbox libxtst-dev
+        echo libxml2-utils
         ;;
     windows)
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb xauth xz-utils

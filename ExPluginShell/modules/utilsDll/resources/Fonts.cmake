@@ -1,0 +1,25 @@
+# The nine fonts, from Debian's font packages: none is kept in this tree. THIRD-PARTY.md names their licences. Where a
+# family is not packaged, one of a similar design takes its place under the name that callers know.
+
+set(font_root "/usr/share/fonts" CACHE PATH "Folder of the installed fonts")
+set(roboto "${font_root}/truetype/roboto/unhinted/RobotoTTF")
+set(open_sans "${font_root}/truetype/open-sans")
+set(quicksand "${font_root}/truetype/quicksand")
+set(cantarell "${font_root}/opentype/cantarell")
+
+foreach(font
+    "Roboto-Light.ttf|${roboto}/Roboto-Light.ttf"
+    "Roboto-Regular.ttf|${roboto}/Roboto-Regular.ttf"
+    "Roboto-Medium.ttf|${roboto}/Roboto-Medium.ttf"
+    "Roboto-Bold.ttf|${roboto}/Roboto-Bold.ttf"
+    "OpenSans-Light.ttf|${open_sans}/OpenSans-Light.ttf"
+    "MavenPro-Regular.ttf|${quicksand}/Quicksand-Regular.ttf"
+    "MavenPro-Medium.ttf|${quicksand}/Quicksand-Medium.ttf"
+    "MavenProLight-300.otf|${cantarell}/Cantarell-Light.otf"
+    "Segoe+UI.ttf|${open_sans}/OpenSans-Regular.ttf")
+    string(REGEX MATCH "^(.+)[|](.+)$" unused "${font}")
+    if(NOT EXISTS "${CMAKE_MATCH_2}")
+        message(FATAL_ERROR "The font ${CMAKE_MATCH_2} is not installed: run tools/install-deps.sh build")
+    endif()
+    tolvan_stage_copy(userinterface fonts/${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
+endforeach()

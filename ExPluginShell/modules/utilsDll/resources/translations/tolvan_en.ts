@@ -1,0 +1,134 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>CLanguageManager</name>
+    <message>
+        <source>language name</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>ostra language number</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>language number</source>
+        <translation>1033</translation>
+    </message>
+</context>
+<context>
+    <name>CLanguageTest</name>
+    <message>
+        <source>language name</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>ostra language number</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>language number</source>
+        <translation>1033</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>Don&apos;t quit</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Quit without saving</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Windows small space message on drive %1</source>
+        <translation>Trelio Frame cannot start since there is not enough free space on disk %1.
+Please remove unnecessary files from the disk and try again.</translation>
+    </message>
+    <message>
+        <source>Out of memory. Program will be closed.</source>
+        <translation>Trelio Frame must close because there is not enough memory available.
+Please close some other programs and try to start Trelio Frame again.</translation>
+    </message>
+    <message>
+        <source>%1 has run out of memory. The application may now become unstable. Please close %2 and Photoshop, quit all other programs running, and try again.</source>
+        <translation>%1 has run out of memory. The application may now become unstable. Please close %2 and Photoshop, quit all other programs running, and try again.</translation>
+    </message>
+    <message>
+        <source>Unhandled exception. Program will be closed.</source>
+        <translation>Trelio Frame must close because of an unhandled exception.</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,70 @@
+# Resource bundles inside a library.
+#
+# A bundle is described by .qrc files. Its entries are gathered ("staged") in a folder of the build tree that is laid out
+# like the bundle, the resource compiler packs them into one binary file, and the assembler takes that file up as it is:
+# no compiler ever sees the payload as source text, which would cost it gigabytes of memory.
+#
+# Everything here runs on the building machine, so a cross build works in the same way.
+
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+foreach(tool lrelease lconvert lupdate)
+    string(TOUPPER ${tool} variable)
+    find_program(${variable}_EXECUTABLE NAMES ${tool}-qt5 ${tool} HINTS /usr/lib/qt5/bin NO_CMAKE_FIND_ROOT_PATH)
+    if(NOT ${variable}_EXECUTABLE)
+        message(FATAL_ERROR "${tool} of Qt 5 is missing (Debian package qttools5-dev-tools): the translations need it")
+    endif()
+endforeach()
+if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    message(FATAL_ERROR "The resource bundles are embedded with the assembler of GCC or Clang")
+endif()
+
+set(TOLVAN_BUNDLE_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}")
+
+# tolvan_stage_copy(BUNDLE RELATIVE-PATH SOURCE-FILE): one entry that is a file already.
+function(tolvan_stage_copy bundle path source)
+    set(staged "${CMAKE_CURRENT_BINARY_DIR}/${bundle}/${path}")
+    add_custom_command(OUTPUT "${staged}" DEPENDS "${source}"
+        COMMAND "${CMAKE_COMMAND}" -E copy "${source}" "${staged}" VERBATIM)
+    set_property(DIRECTORY APPEND PROPERTY TOLVAN_STAGED_${bundle} "${staged}")
+endfunction()
+
+# tolvan_stage_made(BUNDLE PATH COMMAND command... [DEPENDS file...] [COMMENT text]): one entry that a program makes; the
+# command is run with the staged file's path as its last argument.
+function(tolvan_stage_made bundle path)
+    cmake_parse_arguments(arg "" "COMMENT" "COMMAND;DEPENDS" ${ARGN})
+    set(staged "${CMAKE_CURRENT_BINARY_DIR}/${bundle}/${path}")
+    get_filename_component(folder "${staged}" DIRECTORY)
+    add_custom_command(OUTPUT "${staged}" DEPENDS ${arg_DEPENDS}
+        COMMAND "${CMAKE_COMMAND}" -E make_directory "${folder}"
+        COMMAND ${arg_COMMAND} "${staged}"
+        COMMENT "${arg_COMMENT}" VERBATIM)
+    set_property(DIRECTORY APPEND PROPERTY TOLVAN_STAGED_${bundle} "${staged}")
+endfunction()
+
+# tolvan_add_bundle(TARGET BUNDLE SYMBOL QRC file... [DEPENDS file...]): packs what was staged for BUNDLE, as the QRC
+# files describe it, and adds it to TARGET under the symbols SYMBOLTree, SYMBOLNames and SYMBOLData.
+function(tolvan_add_bundle target bundle symbol)
+    cmake_parse_arguments(arg "" "" "QRC;DEPENDS" ${ARGN})
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${bundle}")
+    get_property(entries DIRECTORY PROPERTY TOLVAN_STAGED_${bundle})
+    # The resource compiler looks for entries beside the description.
+    set(descriptions)
+    foreach(qrc IN LISTS arg_QRC)
+        get_filename_component(name "${qrc}" NAME)
+        if(NOT qrc STREQUAL "${folder}/${name}")
+            add_custom_command(OUTPUT "${folder}/${name}" DEPENDS "${qrc}"
+                COMMAND "${CMAKE_COMMAND}" -E copy "${qrc}" "${folder}/${name}" VERBATIM)
+        endif()
+        list(APPEND descriptions "${folder}/${name}")
+    endforeach()
+    set(packed "${CMAKE_CURRENT_BINARY_DIR}/${bundle}.rcc")
+    add_custom_command(OUTPUT "${packed}" DEPENDS ${descriptions} ${entries} ${arg_DEPENDS}
+        COMMAND Qt5::rcc --binary --format-version 1 --compress-algo zlib --compress 9 -o "${packed}" ${descriptions}
+        COMMENT "Packing the ${bundle} bundle" VERBATIM)
+    set(assembly "${CMAKE_CURRENT_BINARY_DIR}/${bundle}.S")
+    add_custom_command(OUTPUT "${assembly}" DEPENDS "${packed}" "${TOLVAN_BUNDLE_SCRIPTS}/EmbedBundle.cmake"
+        COMMAND "${CMAKE_COMMAND}" "-DPACKED=${packed}" "-DSYMBOL=${symbol}" "-DASSEMBLY=${assembly}" "-DWINDOWS=${WIN32}"
+            -P "${TOLVAN_BUNDLE_SCRIPTS}/EmbedBundle.cmake" VERBATIM)
+    set_source_files_properties("${assembly}" PROPERTIES OBJECT_DEPENDS "${packed}")
+    target_sources(${target} PRIVATE "${assembly}")
+endfunction()
