@@ -84,8 +84,6 @@ void CErrStrings::ShowUnhandledExceptionDialog() const
     show(m_unhandledExceptionText);
 }
 
-void CErrStrings::ClearData()
-{
-}
+void CErrStrings::ClearData() {}
 
 } // namespace TOLVAN_NAMESPACE

@@ -122,8 +122,8 @@ bool showInProgram(Utf8Text& text, Utf8Text& title)
         return runToItsEnd(arguments);
     }
     case Dialect::Zenity: {
-        char* const arguments[] = {path,       errorOption, noMarkup, titleOption, title.data(),
-                                   textOption, text.data(), nullptr};
+        char* const arguments[] = {path,         errorOption, noMarkup,    titleOption,
+                                   title.data(), textOption,  text.data(), nullptr};
         return runToItsEnd(arguments);
     }
     case Dialect::XMessage: {

@@ -1,0 +1,340 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/LanguageManager.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSignalSpy>
+
+#include <stdexcept>
+
+using TOLVAN_NAMESPACE::CLanguageManager;
+
+namespace
+{
+
+struct Language {
+    const char* abbreviation;
+    unsigned number;
+    const char* name;
+    const char* error;  // the text of the key "Error"
+    const char* cancel; // the toolkit's own button
+    int translators;
+};
+
+const Language languageTable[] = {
+    {"de", 0, "Deutsch", "Fehler", "Abbrechen", 2}, {"en", 2, "English", "Error", "Cancel", 1},
+    {"fr", 5, "Français", "Erreur", "Annuler", 2},  {"ja", 12, "日本語", "エラー", "キャンセル", 2},
+    {"zh-CN", 13, "简体中文", "错误", "取消", 2},
+};
+
+void store(const QVariant& number)
+{
+    QSettings(QStringLiteral("Tolvan"), QStringLiteral("Ostra Collection"))
+        .setValue(QStringLiteral("currentLanguage"), number);
+}
+
+int installedByApplication()
+{
+    return qApp->findChildren<QTranslator*>(QString(), Qt::FindDirectChildrenOnly).size();
+}
+
+QString cancelButtonText()
+{
+    QMessageBox box(QMessageBox::Question, QString(), QString(), QMessageBox::Cancel);
+    return box.button(QMessageBox::Cancel)->text().remove(QLatin1Char('&'));
+}
+
+/// Opens the table to tables of the test's own.
+class OpenManager : public CLanguageManager
+{
+public:
+    using CLanguageManager::createLanguageModel;
+    using CLanguageManager::setCurrentLanguageNumber;
+};
+
+/// A window that follows the language as the product's windows do.
+class Window : public QLabel
+{
+public:
+    int changes = 0;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange) {
+            ++changes;
+            setText(QObject::tr("Error"));
+        }
+    }
+};
+
+} // namespace
+
+class LanguageManagerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void metaObject();
+    void table();
+    void tableOfOne_data();
+    void tableOfOne();
+    void storedNumber_data();
+    void storedNumber();
+    void unknownNumber();
+    void fixedAbbreviations();
+    void loading_data();
+    void loading();
+    void tenChangesAndBack();
+    void applicationFreesTranslators();
+    void sameLanguage();
+};
+
+void LanguageManagerTest::init()
+{
+    IsolatedProfile::clearStores();
+    installedLogger().take();
+}
+
+void LanguageManagerTest::cleanup()
+{
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+    QLocale::setDefault(QLocale::c());
+}
+
+void LanguageManagerTest::metaObject()
+{
+    const QMetaObject& meta = CLanguageManager::staticMetaObject;
+    QCOMPARE(meta.className(), "TOLVAN_NAMESPACE::CLanguageManager");
+    const int first = meta.methodOffset();
+    QCOMPARE(meta.methodCount() - first, 2);
+    QCOMPARE(meta.method(first).methodSignature(), QByteArray("languageChanged()"));
+    QCOMPARE(meta.method(first).methodType(), QMetaMethod::Signal);
+    QCOMPARE(meta.method(first + 1).methodSignature(), QByteArray("changeLanguage(int)"));
+    QCOMPARE(meta.method(first + 1).typeName(), "bool");
+    QVERIFY(CLanguageManager::instance());
+    QCOMPARE(CLanguageManager::instance(), CLanguageManager::instance());
+    QVERIFY(!CLanguageManager::instance()->parent());
+}
+
+void LanguageManagerTest::table()
+{
+    CLanguageManager manager;
+    QCOMPARE(manager.langCount(), 0);
+    QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
+    manager.loadLanguages();
+    manager.loadLanguages();
+    QCOMPARE(manager.langCount(), 5);
+    QCOMPARE(manager.model()->columnCount(), 4);
+    for (const Language& language : languageTable) {
+        const int row = manager.getLanguageIndexFromID(language.number);
+        QVERIFY(row >= 0);
+        QCOMPARE(manager.getLangIdFromIndex(row), language.number);
+        QStringList cells;
+        for (int column = 0; column < 4; ++column) {
+            cells.append(manager.model()->item(row, column)->text());
+        }
+        const QString abbreviation = QString::fromLatin1(language.abbreviation);
+        const QStringList expected{QString::fromUtf8(language.name), QString::number(language.number),
+                                   QStringLiteral(":/translations/tolvan_%1.qm").arg(abbreviation),
+                                   abbreviation};
+        QCOMPARE(cells, expected);
+    }
+    QCOMPARE(manager.getLangIdFromIndex(-1), 0u);
+    QCOMPARE(manager.getLangIdFromIndex(5), 0u);
+    QCOMPARE(installedLogger().take(), QStringList());
+    QCOMPARE(manager.getLanguageIndexFromID(7), -1);
+    QCOMPARE(installedLogger().take(),
+             QStringList(QStringLiteral("E TOLVAN_NAMESPACE::CLanguageManager::getLanguageIndexFromID: "
+                                        "Cannot find language with ID: 7")));
+}
+
+void LanguageManagerTest::tableOfOne_data()
+{
+    const QStringList one{QStringLiteral("1")};
+    const QStringList two{QStringLiteral("1"), QStringLiteral("2")};
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("numbers");
+    QTest::addColumn<QStringList>("paths");
+    QTest::addColumn<QStringList>("abbreviations");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("lastAbbreviation");
+    QTest::newRow("all alike") << two << two << two << two << 2 << "2";
+    QTest::newRow("fewer abbreviations") << two << two << two << one << 2 << "";
+    QTest::newRow("more abbreviations") << one << one << one << two << 1 << "1";
+    QTest::newRow("fewer numbers") << two << one << two << two << 0 << "";
+    QTest::newRow("fewer paths") << two << two << one << two << 0 << "";
+    QTest::newRow("nothing") << QStringList() << QStringList() << QStringList() << QStringList() << 0 << "";
+}
+
+void LanguageManagerTest::tableOfOne()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QStringList, numbers);
+    QFETCH(QStringList, paths);
+    QFETCH(QStringList, abbreviations);
+    OpenManager manager;
+    manager.createLanguageModel(names, numbers, paths, abbreviations);
+    QTEST(manager.langCount(), "rows");
+    QTEST(manager.model()->index(manager.langCount() - 1, 3).data().toString(), "lastAbbreviation");
+    // A filled table, were it only with columns, stays as it is.
+    if (manager.model()->columnCount() > 0) {
+        const int rows = manager.langCount();
+        manager.loadLanguages();
+        QCOMPARE(manager.langCount(), rows);
+    }
+}
+
+void LanguageManagerTest::storedNumber_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<unsigned>("number");
+    QTest::addColumn<QString>("abbreviation");
+    QTest::newRow("nothing") << QVariant() << 2u << "en";
+    QTest::newRow("a number") << QVariant(13) << 13u << "zh-CN";
+    QTest::newRow("a number as text") << QVariant(QStringLiteral("12")) << 12u << "ja";
+    QTest::newRow("zero") << QVariant(0) << 0u << "de";
+    QTest::newRow("no number") << QVariant(QStringLiteral("German")) << 2u << "en";
+    QTest::newRow("empty text") << QVariant(QString()) << 2u << "en";
+    QTest::newRow("no language of the suite") << QVariant(7) << 2u << "en";
+}
+
+void LanguageManagerTest::storedNumber()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QString, abbreviation);
+    if (stored.isValid()) {
+        store(stored);
+    }
+    CLanguageManager manager;
+    QTEST(CLanguageManager::currentLanguageNumber(), "number");
+    // One abbreviation needs the table, the other does not.
+    QCOMPARE(manager.settingsAbbrv(), abbreviation);
+    QCOMPARE(manager.currentLanguageAbbrv(), QString());
+    manager.loadLanguages();
+    QCOMPARE(manager.currentLanguageAbbrv(), abbreviation);
+    QTEST(manager.getLangIdFromIndex(manager.currentLanguageIndex()), "number");
+}
+
+void LanguageManagerTest::unknownNumber()
+{
+    OpenManager manager;
+    store(5);
+    manager.createLanguageModel({QStringLiteral("Nobody")}, {QStringLiteral("99")}, {QStringLiteral("x")},
+                                {QStringLiteral("xx")});
+    manager.loadLanguageForApp();
+    QCOMPARE(installedByApplication(), 0);
+    QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
+    QCOMPARE(QLocale(), QLocale::c());
+    QCOMPARE(installedLogger().take(), QStringList());
+    QCOMPARE(manager.currentLanguageIndex(), -1);
+    QVERIFY(
+        installedLogger().take().join(QString()).endsWith(QStringLiteral("Cannot find language with ID: 5")));
+    // A row that does not exist stands for number 0: it is stored, and with no such row nothing is installed.
+    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+    QVERIFY(manager.changeLanguage(3));
+    QCOMPARE(CLanguageManager::currentLanguageNumber(), 0u);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(installedByApplication(), 0);
+}
+
+void LanguageManagerTest::fixedAbbreviations()
+{
+    for (const Language& language : languageTable) {
+        QCOMPARE(CLanguageManager::stringFromCodeLanguage(language.number),
+                 QString::fromLatin1(language.abbreviation));
+        OpenManager::setCurrentLanguageNumber(language.number);
+        QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
+    }
+    for (unsigned code : {1u, 14u, 4294967295u}) {
+        try {
+            CLanguageManager::stringFromCodeLanguage(code);
+            QFAIL("no exception");
+        } catch (const std::invalid_argument& error) {
+            const QByteArray text =
+                "The argument " + QByteArray::number(code) + " does not refer to a valid language";
+            QCOMPARE(QByteArray(error.what()), text);
+        }
+    }
+}
+
+void LanguageManagerTest::loading_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(languageTable)); ++row) {
+        QTest::newRow(languageTable[row].abbreviation) << row;
+    }
+}
+
+void LanguageManagerTest::loading()
+{
+    QFETCH(int, row);
+    const Language& language = languageTable[row];
+    store(language.number);
+    CLanguageManager manager;
+    manager.loadLanguageForApp();
+    QCOMPARE(manager.loadedLanguageID(), language.number);
+    QCOMPARE(installedByApplication(), language.translators);
+    QCOMPARE(QObject::tr("Error"), QString::fromUtf8(language.error));
+    QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
+    QCOMPARE(QLocale().language(), QLocale(QString::fromLatin1(language.abbreviation)).language());
+}
+
+void LanguageManagerTest::tenChangesAndBack()
+{
+    CLanguageManager manager;
+    manager.loadLanguageForApp();
+    Window window;
+    window.show();
+    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+    int expectedTranslators = 1;
+    const int order[] = {0, 2, 1, 3, 4, 0, 1, 4, 2, 3, 1};
+    for (int place : order) {
+        const Language& language = languageTable[place];
+        QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(language.number)));
+        // The one installed last goes; the product's catalogue of a language with two stays beneath.
+        expectedTranslators += language.translators - 1;
+        QCOMPARE(installedByApplication(), expectedTranslators);
+        QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
+        const int before = window.changes;
+        QTRY_COMPARE(window.text(), QString::fromUtf8(language.error));
+        QVERIFY(window.changes > before);
+        QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
+    }
+    QCOMPARE(changed.size(), int(std::size(order)));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void LanguageManagerTest::applicationFreesTranslators()
+{
+    // As an application object that ends before the manager does.
+    CLanguageManager manager;
+    manager.loadLanguageForApp();
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+    QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(0)));
+    QCOMPARE(installedByApplication(), 2);
+}
+
+void LanguageManagerTest::sameLanguage()
+{
+    store(12);
+    CLanguageManager manager;
+    manager.loadLanguages();
+    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+    QVERIFY(!manager.changeLanguage(manager.currentLanguageIndex()));
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(installedByApplication(), 0);
+    store(0);
+    QVERIFY(!manager.changeLanguage(-1)); // number 0, which is the stored one
+    QCOMPARE(changed.size(), 0);
+}
+
+TOLVAN_GUI_TEST_MAIN(LanguageManagerTest)
+#include "tst_languagemanager.moc"
