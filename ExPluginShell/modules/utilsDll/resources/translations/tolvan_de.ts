@@ -32,53 +32,6 @@
     </message>
 </context>
 <context>
-    <name>CMessageBox</name>
-    <message>
-        <source>Dialog</source>
-        <translation>Dialog</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
-        <source>Don&apos;t save</source>
-        <translation>Nicht speichern</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Drehen</translation>
-    </message>
-    <message>
-        <source>Don&apos;t quit</source>
-        <translation>Nicht beenden</translation>
-    </message>
-    <message>
-        <source>Quit without saving</source>
-        <translation>Ohne Speichern beenden</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>Error</source>
@@ -101,34 +54,6 @@ Bitte schließen Sie einige andere Programme und versuchen Sie dann, Trelio Fram
     <message>
         <source>Unhandled exception. Program will be closed.</source>
         <translation>Trelio Frame muss wegen eines nicht abgefangenen Ausnahmefehlers beendet werden.</translation>
-    </message>
-    <message>
-        <source>B</source>
-        <translation>B</translation>
-    </message>
-    <message>
-        <source>KB</source>
-        <translation>KB</translation>
-    </message>
-    <message>
-        <source>MB</source>
-        <translation>MB</translation>
-    </message>
-    <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>in</translation>
-    </message>
-    <message>
-        <source>cm</source>
-        <translation>cm</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 </TS>

@@ -32,53 +32,6 @@
     </message>
 </context>
 <context>
-    <name>CMessageBox</name>
-    <message>
-        <source>Dialog</source>
-        <translation>Boîte de dialogue</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
-        <source>Don&apos;t save</source>
-        <translation>Ne pas enregistrer</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Pivoter</translation>
-    </message>
-    <message>
-        <source>Don&apos;t quit</source>
-        <translation>Ne pas quitter</translation>
-    </message>
-    <message>
-        <source>Quit without saving</source>
-        <translation>Quitter sans enregistrer</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>Error</source>
@@ -101,34 +54,6 @@ Veuillez fermer d’autres programmes, puis relancer Trelio Frame.</translation>
     <message>
         <source>Unhandled exception. Program will be closed.</source>
         <translation>Trelio Frame doit se fermer en raison d’une exception non gérée.</translation>
-    </message>
-    <message>
-        <source>B</source>
-        <translation>o</translation>
-    </message>
-    <message>
-        <source>KB</source>
-        <translation>Ko</translation>
-    </message>
-    <message>
-        <source>MB</source>
-        <translation>Mo</translation>
-    </message>
-    <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>in</translation>
-    </message>
-    <message>
-        <source>cm</source>
-        <translation>cm</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 </TS>

@@ -32,53 +32,6 @@
     </message>
 </context>
 <context>
-    <name>CMessageBox</name>
-    <message>
-        <source>Dialog</source>
-        <translation>对话框</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>否</translation>
-    </message>
-    <message>
-        <source>Don&apos;t save</source>
-        <translation>不保存</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>旋转</translation>
-    </message>
-    <message>
-        <source>Don&apos;t quit</source>
-        <translation>不退出</translation>
-    </message>
-    <message>
-        <source>Quit without saving</source>
-        <translation>不保存并退出</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>Error</source>
@@ -101,34 +54,6 @@
     <message>
         <source>Unhandled exception. Program will be closed.</source>
         <translation>发生未处理的异常，Trelio Frame 必须关闭。</translation>
-    </message>
-    <message>
-        <source>B</source>
-        <translation>B</translation>
-    </message>
-    <message>
-        <source>KB</source>
-        <translation>KB</translation>
-    </message>
-    <message>
-        <source>MB</source>
-        <translation>MB</translation>
-    </message>
-    <message>
-        <source>px</source>
-        <translation>像素</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>英寸</translation>
-    </message>
-    <message>
-        <source>cm</source>
-        <translation>厘米</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>毫米</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,7 @@
 """Compares the translation sources with the texts of the library: every text is translated in every language, and no
 translation is left without its text.
 
-usage: check_translations.py LUPDATE TRANSLATIONS-FOLDER SOURCE-FOLDER
+usage: translations.py LUPDATE TRANSLATIONS-FOLDER SOURCE-FOLDER
 
 To bring the files up to date after a text has changed, run
     lupdate -locations none -no-ui-lines SOURCE-FOLDER -ts TRANSLATIONS-FOLDER/*.ts

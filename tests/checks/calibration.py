@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds the calibration database against what its readers rely on.
 
-usage: check_calibration.py DATABASE
+usage: calibration.py DATABASE
 """
 
 import re
