@@ -65,9 +65,10 @@ private:
                     const QMutexLocker locker(&m_mutex);
                     m_boxes.append(textOf(box) + QLatin1Char('|') + textOf(label));
                 }
-                PostMessageW(button, BM_CLICK, 0, 0);
-                for (int i = 0; i < 100 && IsWindow(box); ++i) {
-                    Sleep(20);
+                // A click before the box has its turn is lost.
+                while (IsWindow(box) && !m_stop) {
+                    PostMessageW(button, BM_CLICK, 0, 0);
+                    Sleep(50);
                 }
             }
             Sleep(20);
