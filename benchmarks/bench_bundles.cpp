@@ -117,6 +117,8 @@ BENCHMARK_CAPTURE(firstOpen, icon, ":/icons/messagebox/info_dark_icon.svg")
 /// Opening the database and looking at its first page, as a reader does before its first query.
 void openDatabase(benchmark::State& state, bool compressed)
 {
+    // Only the very first opening shows it: the allocator keeps what it once had.
+    static double most[2] = {0, 0};
     QLibrary library(beside(withBundles));
     library.load();
     const QString packed = beside("calibration_compressed.rcc");
@@ -126,8 +128,7 @@ void openDatabase(benchmark::State& state, bool compressed)
     }
     const QString path = compressed ? QStringLiteral(":/compressed/CAFList5.db")
                                     : QStringLiteral(":/calibration/db/CAFList5.db");
-    double most = 0;
-    const double before = ownMemory(); // later iterations find the memory of the first one at hand
+    const double before = ownMemory();
     for (auto unused : state) {
         Q_UNUSED(unused)
         QFile file(path);
@@ -137,10 +138,10 @@ void openDatabase(benchmark::State& state, bool compressed)
             state.SkipWithError("no database");
         }
         state.PauseTiming();
-        most = std::max(most, ownMemory() - before);
+        most[compressed] = std::max(most[compressed], ownMemory() - before);
         state.ResumeTiming();
     }
-    state.counters["own_memory_KiB"] = most;
+    state.counters["own_memory_KiB"] = most[compressed];
     state.counters["stored_KiB"] = double(QFile(compressed ? packed : path).size()) / 1024;
     if (compressed) {
         QResource::unregisterResource(packed, QStringLiteral("/compressed"));

@@ -28,16 +28,16 @@ function(tolvan_stage_copy bundle path source)
     set_property(DIRECTORY APPEND PROPERTY TOLVAN_STAGED_${bundle} "${staged}")
 endfunction()
 
-# tolvan_stage_made(BUNDLE PATH COMMAND command... [DEPENDS file...] [COMMENT text]): one entry that a program makes; the
+# tolvan_stage_made(BUNDLE PATH COMMAND command... [DEPENDS file...]): one entry that a program makes; the
 # command is run with the staged file's path as its last argument.
 function(tolvan_stage_made bundle path)
-    cmake_parse_arguments(arg "" "COMMENT" "COMMAND;DEPENDS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "COMMAND;DEPENDS" ${ARGN})
     set(staged "${CMAKE_CURRENT_BINARY_DIR}/${bundle}/${path}")
     get_filename_component(folder "${staged}" DIRECTORY)
     add_custom_command(OUTPUT "${staged}" DEPENDS ${arg_DEPENDS}
         COMMAND "${CMAKE_COMMAND}" -E make_directory "${folder}"
         COMMAND ${arg_COMMAND} "${staged}"
-        COMMENT "${arg_COMMENT}" VERBATIM)
+        COMMENT "Making ${path}" VERBATIM)
     set_property(DIRECTORY APPEND PROPERTY TOLVAN_STAGED_${bundle} "${staged}")
 endfunction()
 
