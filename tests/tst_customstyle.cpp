@@ -1,0 +1,450 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/customtolvanappstyle.h>
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <memory>
+
+using TOLVAN_NAMESPACE::CustomTolvanAppStyle;
+
+namespace
+{
+
+const char* const unit = "ASSERT in ExPluginShell\\modules\\utilsDll\\customtolvanappstyle:";
+const char* const prefix = "TOLVAN_NAMESPACE::CustomTolvanAppStyle::";
+
+/// Tells how many connections a button has.
+struct Button : QPushButton {
+    explicit Button(const char* name) { setObjectName(QString::fromLatin1(name)); }
+    int connections() const
+    {
+        return receivers(SIGNAL(destroyed(QObject*))) + receivers(SIGNAL(objectNameChanged(QString)));
+    }
+};
+
+/// A base style that remembers which widget it was asked to draw for.
+struct RecordingStyle : QProxyStyle {
+    RecordingStyle()
+        : QProxyStyle(QStringLiteral("windows"))
+    {
+    }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        drawnFor = widget;
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    mutable const QWidget* drawnFor = nullptr;
+};
+
+QImage canvas(const QSize& size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    return image;
+}
+
+QImage drawnPrimitive(const QStyle& style, QStyle::PrimitiveElement element)
+{
+    QStyleOptionFocusRect option;
+    option.rect = QRect(2, 2, 16, 16);
+    option.state = QStyle::State_Enabled | QStyle::State_On | QStyle::State_KeyboardFocusChange;
+    option.palette = QPalette(Qt::lightGray);
+    QImage image = canvas(QSize(20, 20));
+    QPainter painter(&image);
+    style.drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+QImage drawnCell(const QStyle& style, const QWidget* widget)
+{
+    QStyleOptionViewItem option;
+    option.rect = QRect(0, 0, 90, 24);
+    option.state = QStyle::State_Enabled | QStyle::State_Selected | QStyle::State_Active;
+    option.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasCheckIndicator;
+    option.text = QStringLiteral("Cell");
+    option.viewItemPosition = QStyleOptionViewItem::OnlyOne;
+    option.showDecorationSelected = true;
+    QImage image = canvas(option.rect.size());
+    QPainter painter(&image);
+    style.drawControl(QStyle::CE_ItemViewItem, &option, &painter, widget);
+    return image;
+}
+
+/// One letter per pixel: '.' grey, ' ' transparent, '?' anything else.
+QStringList rowsOf(const QPixmap& pixmap)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    QStringList rows;
+    for (int y = 0; y < image.height(); ++y) {
+        QString row;
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            row += QLatin1Char(qAlpha(pixel) == 0 ? ' ' : pixel == 0xFF808080u ? '.' : '?');
+        }
+        rows += row;
+    }
+    return rows;
+}
+
+} // namespace
+
+/// The product's style, held against the stock style that it builds on.
+class CustomStyleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void metaObject();
+    void hints();
+    void alternatingRowsBelowTheLastRow();
+    void metrics();
+    void toolTipMask_data();
+    void toolTipMask();
+    void focusRectangleAndMenuCheckMarkAreMissing();
+    void extensionButton();
+    void cellsLookLikeThoseOfATable_data();
+    void cellsLookLikeThoseOfATable();
+    void optingOutOfTheShift();
+    void registeringTwice();
+    void renaming();
+    void destroying();
+    void wrongCalls();
+    void pressedLabelStaysInPlace();
+
+private:
+    bool isShifted(const QWidget& widget) const;
+    void expectAssertion(const char* function, int line);
+
+    std::unique_ptr<CustomTolvanAppStyle> m_style;
+    std::unique_ptr<QStyle> m_stock{QStyleFactory::create(QStringLiteral("windows"))};
+};
+
+void CustomStyleTest::init()
+{
+    m_style = std::make_unique<CustomTolvanAppStyle>();
+    installedLogger().take();
+}
+
+bool CustomStyleTest::isShifted(const QWidget& widget) const
+{
+    const int x = m_style->pixelMetric(QStyle::PM_ButtonShiftHorizontal, nullptr, &widget);
+    const int y = m_style->pixelMetric(QStyle::PM_ButtonShiftVertical, nullptr, &widget);
+    return x == m_stock->pixelMetric(QStyle::PM_ButtonShiftHorizontal) && x > 0 && y > 0;
+}
+
+void CustomStyleTest::expectAssertion(const char* function, int line)
+{
+    const QByteArray text = QByteArray(unit) + QByteArray::number(line);
+    QCOMPARE(installedLogger().take(),
+             QStringList(QString::fromLatin1(QByteArray("E ") + prefix + function + ": " + text)));
+}
+
+void CustomStyleTest::metaObject()
+{
+    const QMetaObject& meta = CustomTolvanAppStyle::staticMetaObject;
+    QCOMPARE(meta.className(), "TOLVAN_NAMESPACE::CustomTolvanAppStyle");
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(),
+             QByteArray("onNonShiftedButtonDestroy(QObject*)"));
+    QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(),
+             QByteArray("onNonShiftedButtonObjectNameChanged(QString)"));
+    QCOMPARE(m_style->baseStyle()->metaObject()->className(), "QWindowsStyle");
+}
+
+void CustomStyleTest::hints()
+{
+    const QHash<int, int> own = {{QStyle::SH_EtchDisabledText, 0},
+                                 {QStyle::SH_Menu_AllowActiveAndDisabled, 0},
+                                 {QStyle::SH_ProgressDialog_CenterCancelButton, 1},
+                                 {QStyle::SH_Menu_SubMenuPopupDelay, 300},
+                                 {QStyle::SH_MenuBar_AltKeyNavigation, 1},
+                                 {QStyle::SH_ComboBox_ListMouseTracking, 1},
+                                 {QStyle::SH_Menu_MouseTracking, 1},
+                                 {QStyle::SH_MenuBar_MouseTracking, 1},
+                                 {QStyle::SH_Slider_AbsoluteSetButtons, Qt::LeftButton}};
+    for (int hint = 0; hint <= int(QStyle::SH_SpinBox_StepModifier); ++hint) {
+        const auto h = static_cast<QStyle::StyleHint>(hint);
+        QVERIFY2(m_style->styleHint(h) == own.value(hint, m_stock->styleHint(h)),
+                 qPrintable(QString::number(hint)));
+    }
+}
+
+void CustomStyleTest::alternatingRowsBelowTheLastRow()
+{
+    struct BaseStyle : QProxyStyle {
+        int styleHint(StyleHint, const QStyleOption*, const QWidget*, QStyleHintReturn*) const override
+        {
+            return 7;
+        }
+    };
+    m_style->setBaseStyle(new BaseStyle);
+    const auto hint = [this](const QWidget* widget) {
+        return m_style->styleHint(QStyle::SH_ItemView_PaintAlternatingRowColorsForEmptyArea, nullptr, widget);
+    };
+    const QTreeWidget tree; // a subclass of the tree view
+    const QListWidget list;
+    QCOMPARE(hint(&tree), 0);
+    QCOMPARE(hint(&list), 7);
+    QCOMPARE(hint(nullptr), 7);
+}
+
+void CustomStyleTest::metrics()
+{
+    const QPushButton button;
+    for (int metric = 0; metric <= int(QStyle::PM_HeaderDefaultSectionSizeVertical); ++metric) {
+        const auto m = static_cast<QStyle::PixelMetric>(metric);
+        const int wanted = m == QStyle::PM_SubMenuOverlap ? -1 : m_stock->pixelMetric(m, nullptr, &button);
+        QVERIFY2(m_style->pixelMetric(m, nullptr, &button) == wanted, qPrintable(QString::number(metric)));
+    }
+}
+
+void CustomStyleTest::toolTipMask_data()
+{
+    QTest::addColumn<QRect>("rect");
+    QTest::newRow("at the origin") << QRect(0, 0, 40, 18);
+    QTest::newRow("elsewhere") << QRect(100, -7, 11, 5);
+    QTest::newRow("smallest with an inside") << QRect(0, 0, 3, 3);
+}
+
+void CustomStyleTest::toolTipMask()
+{
+    QFETCH(QRect, rect);
+    QStyleOption option;
+    option.rect = rect;
+    QStyleHintReturnMask mask;
+    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &mask), 1);
+    const QRect own(QPoint(0, 0), rect.size());
+    QCOMPARE(mask.region.boundingRect(), own);
+    for (int y = 0; y < own.height(); ++y) {
+        for (int x = 0; x < own.width(); ++x) {
+            const bool corner = (x == 0 || x == own.right()) && (y == 0 || y == own.bottom());
+            QVERIFY2(mask.region.contains(QPoint(x, y)) != corner,
+                     qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+        }
+    }
+    QStyleHintReturnVariant other;
+    const int stock = m_stock->styleHint(QStyle::SH_ToolTip_Mask, &option);
+    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &other), stock);
+    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option), stock);
+    QStyleHintReturnMask newer;
+    newer.version = 2;
+    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &newer), stock);
+    QVERIFY(newer.region.isEmpty());
+    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, nullptr, nullptr, &mask), stock); // nothing to mask
+}
+
+void CustomStyleTest::focusRectangleAndMenuCheckMarkAreMissing()
+{
+    struct FillingStyle : QProxyStyle {
+        void drawPrimitive(PrimitiveElement, const QStyleOption* option, QPainter* painter,
+                           const QWidget*) const override
+        {
+            painter->fillRect(option->rect, Qt::red);
+        }
+    };
+    const QImage blank = canvas(QSize(20, 20));
+    QVERIFY(drawnPrimitive(*m_stock, QStyle::PE_FrameFocusRect) != blank);
+    m_style->setBaseStyle(new FillingStyle);
+    for (int element = 0; element <= int(QStyle::PE_IndicatorTabTearRight); ++element) {
+        const auto e = static_cast<QStyle::PrimitiveElement>(element);
+        const bool missing = e == QStyle::PE_FrameFocusRect || e == QStyle::PE_IndicatorMenuCheckMark;
+        QVERIFY2((drawnPrimitive(*m_style, e) == blank) == missing, qPrintable(QString::number(element)));
+    }
+}
+
+void CustomStyleTest::extensionButton()
+{
+    const QStringList pattern = {QStringLiteral("..  ..  "), QStringLiteral(" ..  .. "),
+                                 QStringLiteral("  ..  .."), QStringLiteral(" ..  .. "),
+                                 QStringLiteral("..  ..  ")};
+    const QStringList mirrored = {QStringLiteral("  ..  .."), QStringLiteral(" ..  .. "),
+                                  QStringLiteral("..  ..  "), QStringLiteral(" ..  .. "),
+                                  QStringLiteral("  ..  ..")};
+    const auto rows = [this](const QStyleOption* option) {
+        return rowsOf(m_style->standardPixmap(QStyle::SP_ToolBarHorizontalExtensionButton, option));
+    };
+    QStyleOption leftToRight;
+    leftToRight.direction = Qt::LeftToRight;
+    QStyleOption rightToLeft;
+    rightToLeft.direction = Qt::RightToLeft;
+    for (const auto application : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(application);
+        QCOMPARE(rows(nullptr), application == Qt::LeftToRight ? pattern : mirrored);
+        QCOMPARE(rows(&leftToRight), pattern); // the option decides where there is one
+        QCOMPARE(rows(&rightToLeft), mirrored);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+    const auto vertical = QStyle::SP_ToolBarVerticalExtensionButton;
+    QCOMPARE(m_style->standardPixmap(vertical, nullptr).toImage(),
+             m_stock->standardPixmap(vertical, nullptr).toImage());
+}
+
+void CustomStyleTest::cellsLookLikeThoseOfATable_data()
+{
+    QTest::addColumn<QWidget*>("view");
+    QTest::addColumn<bool>("handedOn");
+    QTest::newRow("no view") << static_cast<QWidget*>(nullptr) << false;
+    QTest::newRow("table view") << static_cast<QWidget*>(new QTableView) << true;
+    QTest::newRow("subclass of the table view") << static_cast<QWidget*>(new QTableWidget) << false;
+    QTest::newRow("list") << static_cast<QWidget*>(new QListView) << false;
+    QTest::newRow("tree") << static_cast<QWidget*>(new QTreeView) << false;
+    QTest::newRow("pop-up of a combo box") << static_cast<QWidget*>((new QComboBox)->view()) << false;
+}
+
+void CustomStyleTest::cellsLookLikeThoseOfATable()
+{
+    QFETCH(QWidget*, view);
+    QFETCH(bool, handedOn);
+    const std::unique_ptr<QWidget> owner(view ? view->window() : nullptr);
+    auto* const base = new RecordingStyle;
+    m_style->setBaseStyle(base);
+    const QTableView table;
+    QCOMPARE(drawnCell(*m_style, view), drawnCell(*m_stock, &table));
+    QVERIFY(base->drawnFor);
+    QCOMPARE(base->drawnFor->metaObject()->className(), "QTableView");
+    QCOMPARE(base->drawnFor == view, handedOn);
+    QVERIFY(!base->drawnFor->isVisible());
+
+    QStyleOptionButton option; // what is no cell keeps its widget
+    QImage image = canvas(QSize(40, 20));
+    QPainter painter(&image);
+    m_style->drawControl(QStyle::CE_PushButton, &option, &painter, view);
+    QCOMPARE(base->drawnFor, view);
+}
+
+void CustomStyleTest::optingOutOfTheShift()
+{
+    QCOMPARE(CustomTolvanAppStyle::disableButtonShiftPropertyName(), "disableButtonShiftProperty");
+    Button button("button");
+    QVERIFY(isShifted(button));
+    button.setProperty(CustomTolvanAppStyle::disableButtonShiftPropertyName(), false);
+    QVERIFY(!isShifted(button)); // presence alone counts
+    button.setObjectName(QString());
+    QVERIFY(isShifted(button));
+    button.setObjectName(QStringLiteral("button"));
+    button.setProperty(CustomTolvanAppStyle::disableButtonShiftPropertyName(), QVariant());
+    QVERIFY(isShifted(button));
+
+    m_style->disableButtonShift(&button, true);
+    QVERIFY(!isShifted(button));
+    m_style->disableButtonShift(&button, false);
+    QVERIFY(isShifted(button));
+    QCOMPARE(button.connections(), 0);
+    m_style->disableButtonShift(&button, false); // once more: nothing to undo
+    m_style->disableButtonShift(nullptr, true);
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void CustomStyleTest::registeringTwice()
+{
+    Button first("same");
+    Button second("same");
+    m_style->disableButtonShift(&first, true);
+    m_style->disableButtonShift(&first, true);
+    m_style->disableButtonShift(&second, true);
+    QCOMPARE(first.connections(), 2);
+    QCOMPARE(second.connections(), 0);
+    QVERIFY(!isShifted(second)); // known by name
+
+    second.setObjectName(QStringLiteral("other"));
+    QVERIFY(isShifted(second));
+    QVERIFY(!isShifted(first));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void CustomStyleTest::renaming()
+{
+    Button button("before");
+    Button taken("taken");
+    m_style->disableButtonShift(&button, true);
+    m_style->disableButtonShift(&taken, true);
+    button.setObjectName(QStringLiteral("after"));
+    QVERIFY(!isShifted(button));
+    QVERIFY(isShifted(Button("before")));
+    QCOMPARE(button.connections(), 2);
+
+    button.setObjectName(QString()); // forgotten
+    QVERIFY(isShifted(Button("after")));
+    QCOMPARE(button.connections(), 0);
+    button.setObjectName(QStringLiteral("after"));
+    QVERIFY(isShifted(button));
+
+    m_style->disableButtonShift(&button, true);
+    button.setObjectName(QStringLiteral("taken")); // another one's name: that entry stays
+    QCOMPARE(button.connections(), 0);
+    QVERIFY(!isShifted(button));
+    m_style->disableButtonShift(&taken, false);
+    QVERIFY(isShifted(button));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void CustomStyleTest::destroying()
+{
+    auto button = std::make_unique<Button>("short-lived");
+    m_style->disableButtonShift(button.get(), true);
+    button.reset();
+    Button heir("short-lived");
+    QVERIFY(isShifted(heir));
+    m_style->disableButtonShift(&heir, true);
+    QVERIFY(!isShifted(heir));
+    m_style.reset(); // the style may go first
+    heir.setObjectName(QStringLiteral("survivor"));
+    QCOMPARE(heir.connections(), 0);
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void CustomStyleTest::wrongCalls()
+{
+    Button nameless("");
+    m_style->disableButtonShift(&nameless, true);
+    expectAssertion("disableButtonShift", 75);
+    nameless.setObjectName(QStringLiteral("named at last")); // it was registered all the same
+    QVERIFY(!isShifted(nameless));
+
+    Button owner("shared");
+    Button stranger("shared");
+    m_style->disableButtonShift(&owner, true);
+    m_style->disableButtonShift(&stranger, false);
+    expectAssertion("pimpl::disableButtonShift", 58);
+    QVERIFY(isShifted(owner));
+    QCOMPARE(owner.connections(), 2); // the stranger's were cut, not these
+    owner.setObjectName(QStringLiteral("lost"));
+    expectAssertion("onNonShiftedButtonObjectNameChanged", 107);
+    QVERIFY(isShifted(owner));
+
+    QVERIFY(QMetaObject::invokeMethod(m_style.get(), "onNonShiftedButtonObjectNameChanged",
+                                      Q_ARG(QString, QStringLiteral("without a sender"))));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void CustomStyleTest::pressedLabelStaysInPlace()
+{
+    const auto label = [this](const Button& button, bool pressed) {
+        QStyleOptionButton option;
+        option.rect = QRect(0, 0, 80, 30);
+        option.text = QStringLiteral("I");
+        option.state = QStyle::State_Enabled | (pressed ? QStyle::State_Sunken : QStyle::State_Raised);
+        QImage image = canvas(option.rect.size());
+        QPainter painter(&image);
+        m_style->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, &button);
+        return image;
+    };
+    Button button("pressed");
+    QVERIFY(label(button, true) != label(button, false));
+    m_style->disableButtonShift(&button, true);
+    QCOMPARE(label(button, true), label(button, false));
+}
+
+TOLVAN_GUI_TEST_MAIN(CustomStyleTest)
+#include "tst_customstyle.moc"
