@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
+#include <QTableView>
 #include <QTextStream>
+#include <QVBoxLayout>
 
 namespace
 {
@@ -40,12 +42,30 @@ bool writePages(const QDir& folder)
     return ok;
 }
 
+/// The page with all widgets does not fit into the window.
+bool writeWholePage(const QDir& folder, const QString& name)
+{
+    QWidget frame;
+    auto* const layout = new QVBoxLayout(&frame);
+    layout->setContentsMargins(16, 16, 16, 16);
+    QWidget* const page = makeStylePage(&frame);
+    layout->addWidget(page);
+    frame.resize(layout->sizeHint());
+    frame.show();
+    QApplication::processEvents();
+    QApplication::setActiveWindow(&frame); // no window manager does it here
+    page->findChild<QTableView*>()->setFocus();
+    QApplication::processEvents();
+    return save(frame.grab(), folder, name);
+}
+
 } // namespace
 
 bool writeScreenshots(const QString& folder)
 {
     const QDir root(folder);
-    const bool ok = writePages(root);
+    bool ok = writePages(root);
+    ok = writeWholePage(root, QStringLiteral("style")) && ok;
     QTextStream(stdout) << "Pictures of the showcase: " << QDir::toNativeSeparators(root.absolutePath())
                         << '\n';
     return ok;

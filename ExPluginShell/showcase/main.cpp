@@ -4,6 +4,7 @@
 #include "sections/Sections.h"
 #include "ShowcaseWindow.h"
 
+#include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/Settings.h>
 #include <utilsDll/SharedUtils.h>
 #include <utilsDll/StorageLocation.h>
@@ -41,9 +42,20 @@ void startLog()
     }
 }
 
+/// As every host of the product does once at start-up.
+void dress()
+{
+    using namespace TOLVAN_NAMESPACE;
+    loadFonts();
+    loadAppLogoIcon();
+    QApplication::setStyle(new CustomTolvanAppStyle);
+    setPredefinedAppStyleSheet(QString(), qApp);
+}
+
 int runWindow(const QString& screenshots)
 {
     startLog();
+    dress();
     const bool noDisplay = QGuiApplication::platformName() == QLatin1String("offscreen");
     if (!screenshots.isEmpty() || noDisplay) {
         const QString folder = QDir::temp().filePath(QStringLiteral("trelio-showcase"));

@@ -8,5 +8,8 @@ QVector<Page> pages()
         {"logging", QT_TRANSLATE_NOOP("Pages", "Logging"),
          QT_TRANSLATE_NOOP("Pages", "Every line goes through one bridge to the logger of the process."),
          &makeLoggingPage},
+        {"style", QT_TRANSLATE_NOOP("Pages", "Look"),
+         QT_TRANSLATE_NOOP("Pages", "Every standard widget under the product's style and style sheets."),
+         &makeStylePage},
     };
 }

@@ -20,3 +20,4 @@ QVector<Page> pages();
 
 // Each page's factory stands in its own source file.
 QWidget* makeLoggingPage(QWidget* parent);
+QWidget* makeStylePage(QWidget* parent);
