@@ -1,3 +1,4 @@
+#include "HappensBefore.h"
 #include "InstalledLogger.h"
 #include "TestMain.h"
 
@@ -32,6 +33,7 @@ public Q_SLOTS:
     {
         Q_EMIT done();
         Q_EMIT finished(ok);
+        handOver(this);
     }
 
 Q_SIGNALS:
@@ -97,6 +99,7 @@ void CompletionWaiterTest::signalOfAWorkerThread()
     }
     thread.quit();
     QVERIFY(thread.wait(30000));
+    takeOver(&operation);
 }
 
 void CompletionWaiterTest::outcomeBeforeCompletion()

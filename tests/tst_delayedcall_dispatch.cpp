@@ -26,7 +26,7 @@ void DelayedCallDispatchTest::nullMethodIsReported()
     QTest::ignoreMessage(QtDebugMsg, "ASSERT in ExPluginShell\\modules\\utilsDll\\DelayedCall:216");
     invoker.schedule(0, this, nullptr, true, {});
     QStringList lines;
-    QTRY_VERIFY(!(lines = m_logger.take()).isEmpty());
+    QVERIFY(QTest::qWaitFor([&] { return !(lines = m_logger.take()).isEmpty(); }));
     QCOMPARE(lines,
              QStringList{QStringLiteral("E `anonymous-namespace'::CDelayedInvoker::timerEvent: ASSERT in "
                                         "ExPluginShell\\modules\\utilsDll\\DelayedCall:216")});

@@ -1,3 +1,4 @@
+#include "HappensBefore.h"
 #include "TestMain.h"
 
 #include <utilsDll/DelayedCall.h>
@@ -13,12 +14,14 @@ class SharedTarget : public QObject
     Q_OBJECT
 
 public:
+    SharedTarget() { handOver(this); }
     std::atomic<int> calls{0};
     std::atomic<QThread*> calledIn{nullptr};
 
 public Q_SLOTS:
     void m()
     {
+        takeOver(this);
         calledIn = QThread::currentThread();
         ++calls;
     }
@@ -39,6 +42,7 @@ public:
     {
         quit();
         QVERIFY(wait(30000));
+        takeOver(this);
     }
 
 protected:
@@ -49,6 +53,7 @@ protected:
         if (m_loop) {
             exec();
         }
+        handOver(this);
     }
 
 public:

@@ -1,4 +1,4 @@
-#include "PoolHandover.h"
+#include "HappensBefore.h"
 #include "TestMain.h"
 
 #include <utilsDll/RunnableItem.h>
@@ -11,6 +11,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -41,15 +42,15 @@ private:
         ++runs;
         return work(*this);
     }
-    void doBeforeStopped() override
+    void doBeforeStopped() override { note(stopRequired() ? "before, too late" : "before"); }
+    void doStopped() override { note(stopRequired() ? "after" : "after, too early"); }
+    void note(const char* hook)
     {
-        hooks += stopRequired() ? QStringLiteral("before, too late") : QStringLiteral("before");
-    }
-    void doStopped() override
-    {
-        hooks += stopRequired() ? QStringLiteral("after") : QStringLiteral("after, too early");
+        const std::lock_guard lock(m_mutex); // several threads may stop the item
+        hooks += QString::fromLatin1(hook);
     }
 
+    std::mutex m_mutex;
     const std::function<bool(const Item&)> work;
 };
 
@@ -160,7 +161,7 @@ void RunnableItemTest::stoppedFromAnotherThread()
         QVERIFY(item.isStarted() && !item.isFinished());
         item.stop();
         item.waitFinishNonBlocking(false);
-        QVERIFY(pool.waitForDone(30000));
+        QVERIFY(finishOn(pool));
         QTRY_COMPARE(spies.finished.count(), 1);
         QCOMPARE(spies.finished.first(), QVariantList({true, true}));
     }
@@ -196,13 +197,17 @@ void RunnableItemTest::workThatThrows()
 void RunnableItemTest::interruptedThread()
 {
     Item item(untilStopped);
-    const std::unique_ptr<QThread> thread(QThread::create([&] { item.run(); }));
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        item.run();
+        handOver(&item);
+    }));
     thread->start();
     item.waitStartBlocking();
     QVERIFY(!item.stopRequired()); // it is not this thread that is interrupted
     thread->requestInterruption();
     item.waitFinishBlocking();
     QVERIFY(thread->wait(30000));
+    takeOver(&item);
     QCOMPARE(item.runs.load(), 1);
 }
 
@@ -210,16 +215,15 @@ void RunnableItemTest::waits()
 {
     QThreadPool pool;
     pool.setMaxThreadCount(1);
-    std::atomic<bool> go{false};
+    std::atomic<bool> go{false}, ended{false};
     Item blocker([&](const Item&) {
         while (!go) {
             QThread::yieldCurrentThread();
         }
         return true;
     });
-    std::atomic<bool> ended{false};
     Item item([&](const Item&) {
-        QThread::msleep(20);
+        QThread::msleep(300); // long enough for the waiting thread to see the start
         ended = true;
         return true;
     });
@@ -231,23 +235,20 @@ void RunnableItemTest::waits()
     go = true;
     item.waitExecuteBlocking();
     QVERIFY(ended);
-    QVERIFY(pool.waitForDone(30000));
-    ended = false;
-    startOn(pool, item);
-    item.waitExecuteNonBlocking(true);
-    QVERIFY(ended);
-    QVERIFY(pool.waitForDone(30000));
+    QVERIFY(finishOn(pool));
 }
 
 void RunnableItemTest::waitKeepsTimersAndSwallowsInput()
 {
     QThreadPool pool;
-    Item item([](const Item&) {
-        QThread::msleep(20);
+    std::atomic<bool> go{false};
+    Item item([&](const Item&) {
+        while (!go) {
+            QThread::yieldCurrentThread();
+        }
         return true;
     });
     QWidget widget;
-    widget.setFocusPolicy(Qt::ClickFocus);
     struct Presses : QObject {
         int count = 0;
         bool eventFilter(QObject*, QEvent* event) override
@@ -257,16 +258,24 @@ void RunnableItemTest::waitKeepsTimersAndSwallowsInput()
         }
     } presses;
     widget.installEventFilter(&presses);
-    QTimer::singleShot(20, this, [&] {
+    int ticks = 0, ticksSinceStart = 0;
+    QTimer timer; // the wait can't end without it
+    connect(&timer, &QTimer::timeout, this, [&] {
         QTest::mouseClick(&widget, Qt::LeftButton);
         QTest::keyClick(&widget, Qt::Key_A);
-        startOn(pool, item); // the wait below can't end without the timer
+        if (++ticks == 1) {
+            startOn(pool, item);
+        }
+        ticksSinceStart += item.isStarted();
+        go = ticksSinceStart > 2; // the wait has seen the start in between
     });
+    timer.start(5);
     item.waitExecuteNonBlocking(true);
+    timer.stop();
     QCOMPARE(presses.count, 0);
     QTest::mouseClick(&widget, Qt::LeftButton);
     QCOMPARE(presses.count, 1);
-    QVERIFY(pool.waitForDone(30000));
+    QVERIFY(finishOn(pool));
 }
 
 void RunnableItemTest::reenteredItem()
@@ -281,7 +290,7 @@ void RunnableItemTest::reenteredItem()
     item.stop();
     item.waitFinishBlocking();
     QCOMPARE(item.entriesCounter(), 0);
-    QVERIFY(pool.waitForDone(30000));
+    QVERIFY(finishOn(pool));
 }
 
 void RunnableItemTest::thousandItemsStoppedByManyThreads()
@@ -311,7 +320,7 @@ void RunnableItemTest::thousandItemsStoppedByManyThreads()
     for (auto& thread : threads) {
         thread.join();
     }
-    QVERIFY(pool.waitForDone(60000));
+    QVERIFY(finishOn(pool));
     QCOMPARE(finished.load(), worked.load());
     for (const auto& item : items) {
         QCOMPARE(item->entriesCounter(), 0);

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QMutex>
 #include <QPointer>
 #include <QThread>
 #include <QThreadStorage>
@@ -13,7 +12,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <map>
+#include <mutex>
 #include <vector>
 
 using TOLVAN_NAMESPACE::Logging::reportAssertion;
@@ -22,13 +23,13 @@ namespace
 {
 
 constexpr int maxArguments = 9;
-constexpr int unloadLimit = 1000; // milliseconds
+constexpr std::chrono::milliseconds unloadLimit{1000};
 
 class CDelayedInvoker;
 
 /// The invokers of all threads. Locked when a thread gets or loses its invoker, never for a call.
 struct InvokerRegistry {
-    QMutex mutex;
+    std::timed_mutex mutex;
     QVector<CDelayedInvoker*> invokers;
 };
 
@@ -72,13 +73,13 @@ private:
 CDelayedInvoker::CDelayedInvoker(InvokerRegistry& registry)
     : m_registry(registry)
 {
-    const QMutexLocker lock(&m_registry.mutex);
+    const std::lock_guard lock(m_registry.mutex);
     m_registry.invokers.append(this);
 }
 
 CDelayedInvoker::~CDelayedInvoker()
 {
-    const QMutexLocker lock(&m_registry.mutex);
+    const std::lock_guard lock(m_registry.mutex);
     m_registry.invokers.removeOne(this);
 }
 
@@ -251,7 +252,8 @@ CDelayedCall::Store::~Store()
 void CDelayedCall::Store::endOtherThreads()
 {
     QDeadlineTimer limit(unloadLimit);
-    if (!m_registry.mutex.tryLock(unloadLimit)) {
+    std::unique_lock lock(m_registry.mutex, unloadLimit);
+    if (!lock.owns_lock() || m_registry.invokers.isEmpty()) {
         return;
     }
     // A probe is deleted by the toolkit's code alone, behind the invoker: when it is gone, its thread has
@@ -264,16 +266,15 @@ void CDelayedCall::Store::endOtherThreads()
         probes.back()->moveToThread(invoker->thread());
         probes.back()->deleteLater();
     }
-    m_registry.mutex.unlock();
+    lock.unlock();
     const auto isGone = [](const QPointer<QObject>& probe) { return probe.isNull(); };
     while (!std::all_of(probes.begin(), probes.end(), isGone) && !limit.hasExpired()) {
         QThread::msleep(1);
     }
-    if (m_registry.mutex.tryLock(unloadLimit)) {
+    if (lock.try_lock_for(unloadLimit)) {
         for (CDelayedInvoker* invoker : qAsConst(m_registry.invokers)) {
             QCoreApplication::removePostedEvents(invoker);
         }
-        m_registry.mutex.unlock();
     }
 }
 

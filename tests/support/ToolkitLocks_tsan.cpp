@@ -1,0 +1,54 @@
+// Shows the toolkit's read-write lock to the thread sanitizer, which sees only code that was built with it:
+// the calls of the program and of the library come through here on their way to the toolkit. Only in builds
+// with that sanitizer.
+
+#include <QReadWriteLock>
+#include <QVector>
+
+#include <dlfcn.h>
+
+extern "C" void __tsan_acquire(void* address);
+extern "C" void __tsan_release(void* address);
+
+namespace
+{
+
+/// What the lock orders: a writer behind all earlier holders, a reader behind the earlier writers only.
+void* writers(QReadWriteLock* lock)
+{
+    return lock;
+}
+void* readers(QReadWriteLock* lock)
+{
+    return reinterpret_cast<char*>(lock) + 1;
+}
+
+thread_local QVector<const QReadWriteLock*> heldForWrite;
+
+void callToolkit(const char* symbol, QReadWriteLock* lock)
+{
+    using Operation = void (*)(QReadWriteLock*);
+    reinterpret_cast<Operation>(dlsym(RTLD_NEXT, symbol))(lock);
+}
+
+} // namespace
+
+void QReadWriteLock::lockForRead()
+{
+    callToolkit("_ZN14QReadWriteLock11lockForReadEv", this);
+    __tsan_acquire(writers(this));
+}
+
+void QReadWriteLock::lockForWrite()
+{
+    callToolkit("_ZN14QReadWriteLock12lockForWriteEv", this);
+    heldForWrite.append(this);
+    __tsan_acquire(writers(this));
+    __tsan_acquire(readers(this));
+}
+
+void QReadWriteLock::unlock()
+{
+    __tsan_release(heldForWrite.removeOne(this) ? writers(this) : readers(this));
+    callToolkit("_ZN14QReadWriteLock6unlockEv", this);
+}
