@@ -57,9 +57,6 @@ try {
     m_sink.reset();
     m_opened = false;
     try {
-        if (folder.empty()) {
-            throw std::invalid_argument("no folder is given");
-        }
         if (!isPlainFileName(name)) {
             throw std::invalid_argument("the name is not a plain file name");
         }
