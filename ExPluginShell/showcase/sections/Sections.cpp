@@ -7,5 +7,7 @@ QVector<Section> sections()
         {"Storage locations", &showStorage},
         {"Settings", &showSettings},
         {"Application state and process", &showState},
+        {"Resource bundles", &showBundles},
+        {"Languages", &showLanguages},
     };
 }

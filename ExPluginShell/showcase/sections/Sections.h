@@ -17,3 +17,5 @@ void showLogging(Report& report);
 void showStorage(Report& report);
 void showSettings(Report& report);
 void showState(Report& report);
+void showBundles(Report& report);
+void showLanguages(Report& report);
