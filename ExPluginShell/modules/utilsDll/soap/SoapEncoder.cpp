@@ -1,0 +1,108 @@
+#include "SoapEncoder.h"
+
+#include "SoapText.h"
+#include "SoapUris.h"
+
+#include <typeinfo>
+
+namespace TOLVAN_NAMESPACE
+{
+
+namespace
+{
+
+constexpr QLatin1String xsi("xsi");
+constexpr QLatin1String encodingPrefix("SOAP-ENC");
+constexpr SoapAttributeName typeAttribute{xsi, QLatin1String("type"), SoapUris::SchemaInstance};
+constexpr SoapAttributeName nilAttribute{xsi, QLatin1String("nil"), SoapUris::SchemaInstance};
+constexpr SoapAttributeName arrayTypeAttribute{encodingPrefix, QLatin1String("arrayType"),
+                                               SoapUris::Encoding};
+constexpr SoapAttributeName positionAttribute{encodingPrefix, QLatin1String("position"), SoapUris::Encoding};
+
+QString bracketed(const QVector<int>& numbers)
+{
+    QStringList texts;
+    for (const int number : numbers)
+        texts.append(QString::number(number));
+    return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
+}
+
+} // namespace
+
+void SoapEncoder::open(const QtSoapType& value, const QString* position)
+{
+    const QtSoapQName name = value.name();
+    m_sink.open(SoapText::elementName(name.name(), QStringLiteral("item")), name.uri());
+    if (position)
+        m_sink.attribute(positionAttribute, *position);
+    if (const QString id = value.id(); !id.isEmpty())
+        m_sink.plainAttribute(QLatin1String("id"), id);
+    if (const QString href = value.href(); !href.isEmpty())
+        m_sink.plainAttribute(QLatin1String("href"), href);
+}
+
+void SoapEncoder::encode(const QtSoapSimpleType& value, const QString* position)
+{
+    open(value, position);
+    const QVariant content = value.value();
+    if (content.isValid()) {
+        const QString typeName = QtSoapType::typeToName(value.type());
+        if (!typeName.isEmpty())
+            m_sink.attribute(typeAttribute, QLatin1String("xsd:") + typeName);
+        m_sink.text(value.toString());
+    } else if (value.href().isEmpty()) {
+        m_sink.attribute(nilAttribute, QStringLiteral("true"));
+    }
+    m_sink.close();
+}
+
+void SoapEncoder::encode(const QtSoapStruct& value, const QString* position)
+{
+    open(value, position);
+    writeChildren(value);
+    m_sink.close();
+}
+
+void SoapEncoder::writeChildren(const QtSoapStruct& value)
+{
+    for (const auto& child : value.dict)
+        write(*child);
+}
+
+void SoapEncoder::encode(const QtSoapArray& value, const QString* position)
+{
+    open(value, position);
+    m_sink.attribute(typeAttribute, QStringLiteral("SOAP-ENC:Array"));
+    m_sink.attribute(arrayTypeAttribute, value.arrayTypeString() + value.arraySizeString());
+    const bool gaps = value.hasGaps();
+    const QVector<int> order = value.positions();
+    for (const int place : order) {
+        const QString text = gaps ? bracketed(value.coordinates(place)) : QString();
+        write(value.find(place), gaps ? &text : nullptr);
+    }
+    m_sink.close();
+}
+
+void SoapEncoder::write(const QtSoapType& value)
+{
+    write(value, nullptr);
+}
+
+void SoapEncoder::write(const QtSoapType& value, const QString* position)
+{
+    const std::type_info& type = typeid(value);
+    if (type == typeid(QtSoapSimpleType)) {
+        encode(static_cast<const QtSoapSimpleType&>(value), position);
+    } else if (type == typeid(QtSoapStruct)) {
+        encode(static_cast<const QtSoapStruct&>(value), position);
+    } else if (type == typeid(QtSoapArray)) {
+        encode(static_cast<const QtSoapArray&>(value), position);
+    } else {
+        QDomElement element = value.toDomElement(m_sink.document());
+        if (position && !element.isNull())
+            element.setAttributeNS(positionAttribute.uri, QStringLiteral("SOAP-ENC:position"), *position);
+        m_sink.tree(element);
+    }
+}
+
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,136 @@
+#include "SoapStreamCursor.h"
+
+#include "SoapDocumentCheck.h"
+#include "SoapLimits.h"
+
+#include <QDomDocument>
+
+namespace TOLVAN_NAMESPACE
+{
+
+SoapStreamCursor::SoapStreamCursor(const QByteArray& document)
+{
+    QString unicode;
+    const QString refused = checkSoapDocument(document, &unicode);
+    if (!refused.isEmpty())
+        fail(refused);
+    else if (m_decoded = !unicode.isNull(); m_decoded)
+        m_reader.addData(unicode);
+    else
+        m_reader.addData(document);
+}
+
+SoapXmlCursor::Token SoapStreamCursor::failHere(const QString& error)
+{
+    return fail(QStringLiteral("Line %1, column %2: %3")
+                    .arg(m_reader.lineNumber())
+                    .arg(m_reader.columnNumber())
+                    .arg(error));
+}
+
+QString SoapStreamCursor::shared(const QStringRef& name)
+{
+    constexpr int MaximumShared = 4096; // a document of ever new names shall not fill the table
+    const QString key = QString::fromRawData(name.unicode(), name.size());
+    const auto known = m_names.constFind(key);
+    if (known != m_names.constEnd())
+        return *known;
+    const QString copy = name.toString();
+    if (m_names.size() < MaximumShared)
+        m_names.insert(copy, copy);
+    return copy;
+}
+
+SoapXmlCursor::Token SoapStreamCursor::start()
+{
+    if (!enter())
+        return failHere(m_error);
+    const int declared = m_reader.namespaceDeclarations().size();
+    m_declarations.append(declared);
+    m_namespaces += declared;
+    if (m_namespaces > SoapLimits::Namespaces)
+        return failHere(QStringLiteral("More than %1 namespaces are declared").arg(SoapLimits::Namespaces));
+    return Token::StartElement;
+}
+
+/// One step of the reader, with the checks that hold for values and for trees.
+SoapXmlCursor::Token SoapStreamCursor::advance()
+{
+    while (m_error.isEmpty()) {
+        switch (m_reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            return start();
+        case QXmlStreamReader::EndElement:
+            leave();
+            m_namespaces -= m_declarations.takeLast();
+            return Token::EndElement;
+        case QXmlStreamReader::Characters:
+            return Token::Text;
+        case QXmlStreamReader::EndDocument:
+            return Token::End;
+        case QXmlStreamReader::StartDocument:
+            if (!m_decoded && !isSoapEncoding(m_reader.documentEncoding()))
+                return failHere(
+                    QStringLiteral("The encoding \"%1\" is not supported").arg(m_reader.documentEncoding()));
+            break;
+        case QXmlStreamReader::DTD:
+            return failHere(QStringLiteral("A document type declaration is not allowed in a SOAP message"));
+        case QXmlStreamReader::EntityReference:
+            return failHere(QStringLiteral("The entity \"%1\" is not defined").arg(m_reader.name()));
+        case QXmlStreamReader::Invalid:
+            return failHere(m_reader.errorString());
+        default: // comments and processing instructions
+            break;
+        }
+    }
+    return Token::Error;
+}
+
+SoapXmlCursor::Token SoapStreamCursor::next()
+{
+    const Token token = advance();
+    if (token != Token::StartElement)
+        return token;
+    m_element = SoapElement();
+    m_element.name = shared(m_reader.name());
+    m_element.uri = shared(m_reader.namespaceUri());
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    for (const QXmlStreamAttribute& attribute : attributes)
+        m_element.setAttribute(shared(attribute.namespaceUri()), shared(attribute.name()),
+                               shared(attribute.value()));
+    return token;
+}
+
+QDomElement SoapStreamCursor::takeElement()
+{
+    QDomDocument document;
+    const auto open = [&] {
+        QDomElement element =
+            document.createElementNS(m_reader.namespaceUri().toString(), m_reader.qualifiedName().toString());
+        const QXmlStreamAttributes attributes = m_reader.attributes();
+        for (const QXmlStreamAttribute& attribute : attributes)
+            element.setAttributeNS(attribute.namespaceUri().toString(), attribute.qualifiedName().toString(),
+                                   attribute.value().toString());
+        return element;
+    };
+    QDomElement top = open();
+    document.appendChild(top);
+    for (QDomElement current = top; !current.isNull();) {
+        switch (advance()) {
+        case Token::StartElement:
+            current = current.appendChild(open()).toElement();
+            break;
+        case Token::Text:
+            current.appendChild(document.createTextNode(text()));
+            break;
+        case Token::EndElement:
+            current = current.parentNode().toElement();
+            break;
+        default:
+            return QDomElement();
+        }
+    }
+    return top;
+}
+
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "SoapXmlCursor.h"
+
+#include <QHash>
+#include <QVector>
+#include <QXmlStreamReader>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/// Internal: walks a document as it is read, within SoapLimits; nothing is kept of what was passed.
+class SoapStreamCursor : public SoapXmlCursor
+{
+public:
+    explicit SoapStreamCursor(const QByteArray& document);
+
+    Token next() override;
+    QString text() const override { return m_reader.text().toString(); }
+    QDomElement takeElement() override;
+
+private:
+    Token start();
+    Token advance();
+    Token failHere(const QString& error);
+    QString shared(const QStringRef& name);
+
+    QXmlStreamReader m_reader;
+    bool m_decoded = false;          ///< the encoding was recognised by the first bytes
+    QHash<QString, QString> m_names; ///< element names and URIs repeat: one copy of each
+    QVector<int> m_declarations;     ///< number of namespace declarations, by level
+    int m_namespaces = 0;            ///< their sum
+};
+
+} // namespace TOLVAN_NAMESPACE

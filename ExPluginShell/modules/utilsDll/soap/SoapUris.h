@@ -1,0 +1,25 @@
+#pragma once
+
+#include "qtsoapuris.h"
+
+#include <QLatin1String>
+
+/// Internal: the namespaces as they are written and recognised.
+namespace TOLVAN_NAMESPACE::SoapUris
+{
+
+inline constexpr QLatin1String Envelope(SOAPv11_ENVELOPE);
+inline constexpr QLatin1String Encoding(SOAPv11_ENCODING);
+inline constexpr QLatin1String Xml(XML_NAMESPACE);
+inline constexpr QLatin1String Schema("http://www.w3.org/2001/XMLSchema");
+inline constexpr QLatin1String SchemaInstance("http://www.w3.org/2001/XMLSchema-instance");
+
+/// Whether @p uri is one of the namespaces of `xsi:type`: those of 1999, 2000 and 2001.
+template <class Text>
+bool isSchemaInstance(const Text& uri)
+{
+    return uri == SchemaInstance || uri == QLatin1String(XML_SCHEMA_INSTANCE) ||
+           uri == QLatin1String("http://www.w3.org/2000/10/XMLSchema-instance");
+}
+
+} // namespace TOLVAN_NAMESPACE::SoapUris

@@ -1,0 +1,238 @@
+#include "SoapValueReader.h"
+
+#include "qtsoaptypefactory.h"
+#include "SoapLimits.h"
+#include "SoapText.h"
+#include "SoapUris.h"
+
+namespace TOLVAN_NAMESPACE
+{
+
+namespace
+{
+
+using Token = SoapXmlCursor::Token;
+
+bool isBlank(const QString& text)
+{
+    for (const QChar c : text) {
+        if (!c.isSpace())
+            return false;
+    }
+    return true;
+}
+
+/// The name of an element's type; elements of the encoding's namespace are named after theirs.
+QString typeNameOf(const SoapElement& element)
+{
+    return element.typeName.isEmpty() && element.uri == SoapUris::Encoding ? element.name : element.typeName;
+}
+
+bool isArray(const SoapElement& element)
+{
+    return !element.arrayType.isEmpty() || QtSoapType::nameToType(typeNameOf(element)) == QtSoapType::Array;
+}
+
+} // namespace
+
+bool SoapValueReader::fail(const QString& error)
+{
+    if (errorString().isEmpty())
+        m_error = error;
+    return false;
+}
+
+void SoapValueReader::note(const SoapElement& element)
+{
+    m_encoded = m_encoded || element.encoded;
+    if (!element.id.isEmpty() && m_ids.contains(element.id))
+        m_repeatedIds.insert(element.id);
+    if (!element.id.isEmpty())
+        m_ids.insert(element.id);
+    if (element.href.startsWith(QLatin1Char('#')))
+        m_references.insert(element.href.mid(1));
+}
+
+bool SoapValueReader::checkIdentities()
+{
+    // in messages that are not encoded "id" is a name like any other, unless something refers to it
+    for (const QString& id : qAsConst(m_repeatedIds)) {
+        if (m_encoded || m_references.contains(id))
+            return fail(QStringLiteral("The id \"%1\" is given to several elements").arg(id.left(80)));
+    }
+    return true;
+}
+
+void SoapValueReader::name(QtSoapType& value, const SoapElement& element) const
+{
+    value.n = QtSoapQName(element.name, element.uri);
+    value.i = element.id;
+    value.h = element.href;
+}
+
+void SoapValueReader::simple(QtSoapSimpleType& value, const SoapElement& element, QtSoapType::Type type,
+                             const QString& text) const
+{
+    name(value, element);
+    value.t = type < QtSoapType::Array ? type : QtSoapType::String;
+    const bool empty = element.nil || (!element.href.isEmpty() && text.isEmpty());
+    value.v = empty ? QVariant() : SoapText::toVariant(value.t, text);
+}
+
+/// Reads up to the end of the current element.
+bool SoapValueReader::contents(QString* text, Values* children)
+{
+    for (;;) {
+        switch (m_cursor.next()) {
+        case Token::Text:
+            *text += m_cursor.text();
+            break;
+        case Token::StartElement:
+            children->append(value());
+            if (children->last().isNull())
+                return false;
+            break;
+        case Token::EndElement:
+            return true;
+        default:
+            return fail(QStringLiteral("The document ends too early"));
+        }
+    }
+}
+
+QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
+{
+    const SoapElement element = m_cursor.element();
+    note(element);
+    const QString typeName = typeNameOf(element);
+    if (QtSoapTypeConstructorBase* const handler = QtSoapTypeFactory::instance().handler(typeName)) {
+        const QDomElement tree = m_cursor.takeElement();
+        QtSmartPtr<QtSoapType> made(tree.isNull() ? nullptr : handler->createObject(tree));
+        if (made.isNull())
+            fail(QStringLiteral("\"%1\" cannot be read as %2: %3")
+                     .arg(element.name, typeName, handler->errorString()));
+        return made;
+    }
+    if (isArray(element) || (untyped == QtSoapType::Array && typeName.isEmpty())) {
+        const QtSmartPtr<QtSoapType> made(new QtSoapArray);
+        return array(static_cast<QtSoapArray&>(*made)) ? made : QtSmartPtr<QtSoapType>();
+    }
+    QString text;
+    Values children;
+    if (!contents(&text, &children))
+        return {};
+    const QtSoapType::Type known = QtSoapType::nameToType(typeName);
+    const QtSoapType::Type type = known == QtSoapType::Other ? untyped : known;
+    if (children.isEmpty() && (type != QtSoapType::Struct || !isBlank(text))) {
+        const QtSmartPtr<QtSoapType> made(new QtSoapSimpleType);
+        simple(static_cast<QtSoapSimpleType&>(*made), element, type, text);
+        return made;
+    }
+    const QtSmartPtr<QtSoapType> made(new QtSoapStruct);
+    name(*made, element);
+    static_cast<QtSoapStruct&>(*made).dict = children;
+    return made;
+}
+
+bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
+{
+    qint64 next = 0;
+    const qint64 capacity = result.capacity() < 0 ? SoapLimits::ArrayItems : result.capacity();
+    if (!m_cursor.element().offset.isEmpty()) {
+        next = result.absolute(SoapArrayType::numbers(m_cursor.element().offset));
+        if (next < 0 || next >= capacity)
+            return fail(QStringLiteral("The offset %1 is outside the array \"%2\"")
+                            .arg(m_cursor.element().offset.left(80), result.n.name()));
+    }
+    for (;;) {
+        const Token token = m_cursor.next();
+        if (token == Token::EndElement)
+            return true;
+        if (token == Token::Text && isBlank(m_cursor.text()))
+            continue;
+        if (token != Token::StartElement)
+            return fail(
+                token == Token::Text
+                    ? QStringLiteral("The array \"%1\" holds a text beside its items").arg(result.n.name())
+                    : QStringLiteral("The document ends too early"));
+        const QString position = m_cursor.element().position;
+        if (!position.isEmpty())
+            next = result.absolute(SoapArrayType::numbers(position));
+        if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next)))
+            return fail(QStringLiteral("The array \"%1\" has no place for an item %2")
+                            .arg(result.n.name(), position.isEmpty()
+                                                      ? QStringLiteral("more")
+                                                      : QStringLiteral("at ") + position.left(80)));
+        const QtSmartPtr<QtSoapType> item = value(itemType);
+        if (item.isNull())
+            return false;
+        result.store(static_cast<int>(next++), item);
+    }
+}
+
+bool SoapValueReader::array(QtSoapArray& result)
+{
+    const SoapElement element = m_cursor.element();
+    SoapArrayType type;
+    if (element.arrayType.isEmpty())
+        type.sizes = {-1};
+    else
+        type = SoapArrayType::fromAttribute(element.arrayType);
+    if (!type.error.isEmpty())
+        return fail(type.error);
+    name(result, element);
+    result.t = QtSoapType::Array;
+    result.array.clear();
+    result.lastIndex = -1;
+    result.m_sizes = type.sizes;
+    result.m_itemType =
+        type.itemType.endsWith(QLatin1Char(']')) ? QtSoapType::Array : QtSoapType::nameToType(type.itemType);
+    result.m_mixed = result.m_itemType == QtSoapType::Other;
+    return items(result, result.m_itemType);
+}
+
+bool SoapValueReader::start()
+{
+    return m_cursor.next() == Token::StartElement || fail(QStringLiteral("There is no element to read"));
+}
+
+bool SoapValueReader::fill(QtSoapSimpleType& result)
+{
+    if (!start())
+        return false;
+    const SoapElement element = m_cursor.element();
+    const QtSoapType::Type type = QtSoapType::nameToType(typeNameOf(element));
+    QString text;
+    Values children;
+    if (isArray(element) || type == QtSoapType::Struct)
+        return fail(QStringLiteral("\"%1\" is not a simple value").arg(element.name));
+    if (!contents(&text, &children))
+        return false;
+    if (!children.isEmpty())
+        return fail(QStringLiteral("\"%1\" has child elements and is not a simple value").arg(element.name));
+    simple(result, element, type, text);
+    return true;
+}
+
+bool SoapValueReader::fill(QtSoapStruct& result)
+{
+    if (!start())
+        return false;
+    const SoapElement element = m_cursor.element();
+    QString text;
+    Values children;
+    if (!contents(&text, &children))
+        return false;
+    if (children.isEmpty() && !isBlank(text))
+        return fail(QStringLiteral("\"%1\" holds a text and is not a struct").arg(element.name));
+    name(result, element);
+    result.dict = children;
+    return true;
+}
+
+bool SoapValueReader::fill(QtSoapArray& result)
+{
+    return start() && array(result);
+}
+
+} // namespace TOLVAN_NAMESPACE

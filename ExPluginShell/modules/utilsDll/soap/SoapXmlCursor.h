@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QDomElement>
+#include <QString>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/// Internal: a start tag, reduced to what SOAP looks at.
+struct SoapElement {
+    QString name;
+    QString uri;
+    QString typeName;  ///< local part of `xsi:type`
+    QString arrayType; ///< of the encoding's namespace, as the next two
+    QString offset;
+    QString position;
+    QString id;
+    QString href;
+    bool nil = false;
+    bool encoded = false; ///< carries the SOAP encoding as its `encodingStyle`
+
+    /// Takes over one attribute if SOAP knows it.
+    void setAttribute(const QString& uri, const QString& name, const QString& value);
+};
+
+/**
+ * Internal: walks the elements and texts of a document; behind it is either a byte stream or a tree.
+ *
+ * Refuses document types and too deep nesting. Comments and processing instructions are passed over.
+ */
+class SoapXmlCursor
+{
+public:
+    enum class Token { StartElement, EndElement, Text, End, Error };
+
+    virtual ~SoapXmlCursor() = default;
+
+    /// Goes on by one. Error is final.
+    virtual Token next() = 0;
+
+    /// The start tag of the latest StartElement.
+    const SoapElement& element() const { return m_element; }
+
+    /// The piece of text of the latest Text.
+    virtual QString text() const = 0;
+
+    /// The current element as a tree, with all it holds; the cursor stands on its end then. Null on an error.
+    virtual QDomElement takeElement() = 0;
+
+    /// What went wrong, with the place.
+    QString errorString() const { return m_error; }
+
+protected:
+    /// Counts a level; false, with an error, when there are too many.
+    bool enter();
+    void leave() { --m_depth; }
+    Token fail(const QString& error);
+
+    SoapElement m_element;
+    QString m_error;
+    int m_depth = 0;
+};
+
+/// The part of @p qualifiedName behind the prefix.
+QString soapLocalPart(const QString& qualifiedName);
+
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QDomDocument>
+#include <QString>
+#include <QVector>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/// Internal: an attribute that SOAP knows; the names are literals.
+struct SoapAttributeName {
+    QLatin1String prefix;
+    QLatin1String name;
+    QLatin1String uri;
+};
+
+/// Internal: takes the elements of a message in the order of the document; what they become is up to the
+/// derived class.
+class SoapXmlSink
+{
+public:
+    virtual ~SoapXmlSink() = default;
+
+    /// Begins an element; a @p uri without registered prefix becomes the default namespace.
+    virtual void open(const QString& name, const QString& uri) = 0;
+    virtual void attribute(const SoapAttributeName& name, const QString& value) = 0;
+    virtual void plainAttribute(QLatin1String name, const QString& value) = 0;
+    virtual void text(const QString& text) = 0;
+    virtual void close() = 0;
+
+    /// Adds an element that a class derived outside the library made; it may be null.
+    virtual void tree(const QDomElement& element) = 0;
+
+    /// The document in which such an element is to be made.
+    virtual QDomDocument document() = 0;
+};
+
+/// Internal: writes the text of a document.
+class SoapTextSink : public SoapXmlSink
+{
+public:
+    /// Appends to @p xml; with an @p indent above 0 each element begins a line.
+    SoapTextSink(QString& xml, int indent)
+        : m_xml(xml)
+        , m_indent(indent)
+    {
+    }
+
+    void open(const QString& name, const QString& uri) override;
+    void attribute(const SoapAttributeName& name, const QString& value) override;
+    void plainAttribute(QLatin1String name, const QString& value) override;
+    void text(const QString& text) override;
+    void close() override;
+    void tree(const QDomElement& element) override;
+    QDomDocument document() override { return m_document; }
+
+    /// Declares @p prefix on the element just begun, for all it holds.
+    void declare(QLatin1String prefix, QLatin1String uri);
+
+private:
+    struct Level {
+        QString prefix;
+        QString name;
+        QString defaultUri;
+        int declared = 0; ///< number of declarations in force outside
+        bool hasElements = false;
+    };
+    void appendAttribute(QLatin1String name, const QString& value);
+    void finishTag();
+    void newLine(int level);
+    bool isDeclared(const QString& uri) const;
+
+    QString& m_xml;
+    int m_indent;
+    QVector<Level> m_levels;
+    QVector<QString> m_declared; ///< URIs with a prefix in force
+    bool m_tagOpen = false;
+    QDomDocument m_document;
+};
+
+/// Internal: builds a tree in a document of the caller.
+class SoapDomSink : public SoapXmlSink
+{
+public:
+    explicit SoapDomSink(const QDomDocument& document)
+        : m_document(document)
+    {
+    }
+
+    void open(const QString& name, const QString& uri) override;
+    void attribute(const SoapAttributeName& name, const QString& value) override;
+    void plainAttribute(QLatin1String name, const QString& value) override;
+    void text(const QString& text) override;
+    void close() override;
+    void tree(const QDomElement& element) override;
+    QDomDocument document() override { return m_document; }
+
+    /// The outermost element.
+    QDomElement root() const { return m_root; }
+
+private:
+    QDomDocument m_document;
+    QDomElement m_root;
+    QDomElement m_current;
+};
+
+} // namespace TOLVAN_NAMESPACE

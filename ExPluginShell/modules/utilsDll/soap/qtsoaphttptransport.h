@@ -1,0 +1,111 @@
+#pragma once
+
+#include "qtsoapmessage.h"
+
+#include <QList>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/**
+ * @brief Sends messages to a service over HTTP or HTTPS and hands over its answers.
+ *
+ * Everything is asynchronous and happens in the thread of the object, which needs an event loop. Each
+ * submitRequest() is answered by exactly one pair of responseReady() signals, whatever goes wrong on the way;
+ * a transport destroyed before that sends none. Requests may overlap, but getResponse() and networkReply()
+ * then tell of the latest one: use one transport per call where that matters.
+ *
+ * What cannot be read as a message becomes a fault: with the code of the failed setContent() when a 2xx
+ * answer is not SOAP, else with the code Other; its text names the cause (the status of the server, the error
+ * of the network, the time-out). An empty answer with status 202 or 204 is an empty message, no fault.
+ * Redirections are not followed.
+ *
+ * Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
+ * the request fail unless a slot on that manager's `sslErrors` ignores them.
+ *
+ * @code
+ * QtSoapMessage request;
+ * request.setMethod("convertLength", "urn:example:units");
+ * request.addMethodArgument("amount", "", 12);
+ * transport.setAction("urn:example:units#convertLength");
+ * transport.setHost("soap.example.org", true);
+ * transport.submitRequest(request, "/units");
+ * @endcode
+ */
+class UTILSDLL_EXPORT QtSoapHttpTransport : public QObject
+{
+    Q_OBJECT
+    /// Milliseconds, see setTimeout().
+    Q_PROPERTY(int timeout READ timeout WRITE setTimeout)
+
+public:
+    /// A transport without host, owned by @p parent.
+    QtSoapHttpTransport(QObject* parent = nullptr);
+
+    /// Aborts what is under way; no signal follows.
+    ~QtSoapHttpTransport() override;
+
+    /// Sends to @p host from now on, over HTTPS if @p useSecureHTTP; port 0 is 80, or 443 for HTTPS.
+    void setHost(const QString& host, bool useSecureHTTP = false, int port = 0);
+
+    /// Sends to @p host and @p port over HTTP. Kept for older callers.
+    void setHost(const QString& host, int port);
+
+    /// Sets the SOAPAction of this and later requests; quotes are added where the caller did not.
+    void setAction(const QString& action);
+
+    /**
+     * @brief Posts @p request to @p path on the host, and returns at once.
+     * @param request is not kept
+     * @param path begins with a slash; what follows a question mark is the query
+     */
+    void submitRequest(QtSoapMessage& request, const QString& path);
+
+    /// The latest answer, overwritten by the next one; an empty message before the first. It may be a fault.
+    const QtSoapMessage& getResponse() const;
+
+    /// The manager in use, owned by the transport: for its signals, its proxy, its cookies.
+    QNetworkAccessManager* networkAccessManager();
+
+    /// The reply of the latest request, valid until the next one is sent; null before the first. Its body has
+    /// been read.
+    QNetworkReply* networkReply();
+
+    /// The time-out in milliseconds; 60,000 unless set.
+    int timeout() const;
+
+    /**
+     * @brief Sets after how many milliseconds without a byte moving a request is given up; 0 turns the
+     * time-out off.
+     *
+     * A request that keeps moving is given up after ten times as long, so a service that answers byte by byte
+     * cannot hold its caller for ever. Holds for requests submitted from now on.
+     */
+    void setTimeout(int msec);
+
+Q_SIGNALS:
+    /// An answer is there: see getResponse().
+    void responseReady();
+
+    /// An answer is there; sent right behind the form without argument.
+    void responseReady(const QtSoapMessage& response);
+
+private Q_SLOTS:
+    void readResponse(QNetworkReply* reply);
+
+private:
+    QNetworkAccessManager m_manager;
+    QPointer<QNetworkReply> m_reply;
+    QList<QPointer<QNetworkReply>> m_pending; ///< children of the manager, those already read excluded
+    QUrl m_url;
+    QString m_action;
+    QtSoapMessage m_response;
+    int m_timeout;
+};
+
+} // namespace TOLVAN_NAMESPACE

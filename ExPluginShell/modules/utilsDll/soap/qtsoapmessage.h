@@ -1,0 +1,152 @@
+#pragma once
+
+#include "qtsoapstruct.h"
+
+#include <optional>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/**
+ * @brief A SOAP 1.1 message: built to be sent, or read from what a service answered.
+ *
+ * A copy is a message of its own. Items handed over as pointers come from `new` and belong to the message
+ * from then on.
+ *
+ * Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
+ * 64 MiB, more than 256 levels of nesting, tags of more than 64 KiB, arrays that claim more than 16,777,216
+ * items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and Windows 125x. The checks are made
+ * while the text is read, before anything is built from it.
+ */
+class UTILSDLL_EXPORT QtSoapMessage
+{
+public:
+    /// An envelope with neither header nor body.
+    QtSoapMessage();
+    QtSoapMessage(const QtSoapMessage& copy);
+    ~QtSoapMessage();
+    QtSoapMessage& operator=(const QtSoapMessage& copy);
+
+    /**
+     * @brief Replaces the message by the one in @p buffer, XML with or without declaration.
+     * @return true on success. On failure false, errorString() says what is wrong, with line and column where
+     * the XML is, and the message is a fault with that text: VersionMismatch for an envelope of another SOAP
+     * version, else Client.
+     */
+    bool setContent(const QByteArray& buffer);
+
+    /// Replaces the message by the one in @p d, which was parsed with namespace processing; result as above.
+    bool setContent(QDomDocument& d);
+
+    /// Appends @p item to the body.
+    void addBodyItem(QtSoapType* item);
+
+    /// Appends @p item to the header.
+    void addHeaderItem(QtSoapType* item);
+
+    /// The method element of a request or an answer: the first item of the body; invalid in a fault.
+    const QtSoapType& method() const;
+
+    /// The result that an answer carries: the first child of method(), whatever its name; invalid when there
+    /// is none.
+    const QtSoapType& returnValue() const;
+
+    /// Makes this a request for @p method; what the body held goes, the header stays.
+    void setMethod(const QtSoapQName& method);
+
+    /// Makes this a request for the method @p name in the namespace @p uri.
+    void setMethod(const QString& name, const QString& uri = QString());
+
+    /**
+     * @brief Appends @p arg to the arguments of the method.
+     *
+     * setMethod() comes first; without it the argument becomes an item of the body, and a warning is written.
+     */
+    void addMethodArgument(QtSoapType* arg);
+
+    /// Appends a String argument @p name in the namespace @p uri.
+    void addMethodArgument(const QString& name, const QString& uri, const QString& value);
+
+    /// Appends a Boolean argument; @p dummy only selects the overload, pass 0.
+    void addMethodArgument(const QString& name, const QString& uri, bool value, int dummy);
+
+    /// Appends an Int argument; three arguments with a `bool` select this one too.
+    void addMethodArgument(const QString& name, const QString& uri, int value);
+
+    /// What went wrong, as the protocol classes it.
+    enum FaultCode {
+        VersionMismatch, ///< the envelope is of another version
+        MustUnderstand,  ///< a mandatory header entry was not understood
+        Client,          ///< the message or the way it was sent is at fault
+        Server,          ///< the service could not process a good message
+        Other            ///< anything else, failures of the transport among them
+    };
+
+    /// Whether the message carries a fault.
+    bool isFault() const;
+
+    /// The class of the fault: of a dotted code its first component; Other when there is no fault.
+    FaultCode faultCode() const;
+
+    /// The text of the fault; an invalid value when there is none.
+    const QtSoapType& faultString() const;
+
+    /// The `detail` of the fault with its entries as children; an invalid value when there is none.
+    const QtSoapType& faultDetail() const;
+
+    /// Sets the class of the fault. This and the next two make the message a fault; what the body held goes.
+    void setFaultCode(FaultCode code);
+
+    /// Sets the text of the fault.
+    void setFaultString(const QString& fstring);
+
+    /// Appends @p detail to the detail of the fault.
+    void addFaultDetail(QtSoapType* detail);
+
+    /// Makes this an envelope with neither header nor body.
+    void clear();
+
+    /**
+     * @brief The message as XML, without declaration.
+     * @param indent number of blanks per level; with 0 all is on one line
+     *
+     * Characters that XML cannot carry at all (U+0000 to U+001F but for tab and line ends, U+FFFE, U+FFFF,
+     * half surrogate pairs) are written as U+FFFD. Send the text as UTF-8.
+     */
+    QString toXmlString(int indent = 0) const;
+
+    /// Why the latest setContent() failed; empty when it did not.
+    QString errorString() const;
+
+protected:
+    /// What the message is, as far as its contents tell.
+    enum MessageType { Fault, MethodRequest, MethodResponse, OtherType };
+
+    /// Whether @p candidate is a SOAP 1.1 message that setContent() would take; errorString() tells why not.
+    bool isValidSoapMessage(const QDomDocument& candidate);
+
+    /// The items of the body, which is made when there is none.
+    QtSoapStruct& body() const;
+
+    /// The items of the header, which is made when there is none.
+    QtSoapStruct& header() const;
+
+    /// Brings the message back to the state of a new one.
+    void init();
+
+private:
+    friend class QtSoapHttpServer;
+
+    bool take(class SoapMessageReader& reader);
+    QtSoapStruct& faultStruct();
+    const QtSoapType& faultEntry(const QString& name) const;
+
+    MessageType m_type = OtherType;
+    QString m_error;
+    mutable std::optional<QtSoapStruct> m_header;
+    mutable std::optional<QtSoapStruct> m_body;
+};
+
+} // namespace TOLVAN_NAMESPACE
+
+Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapMessage)

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "../utilsdll_global.h"
+
+#include <QString>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/**
+ * @brief A local name and the URI of its namespace; either may be empty.
+ *
+ * A name without URI takes the default namespace in force where it is written: an argument without URI ends
+ * up in the namespace of its method.
+ */
+class UTILSDLL_EXPORT QtSoapQName
+{
+public:
+    /// The name @p name in the namespace @p uri.
+    QtSoapQName(const QString& name = QString(), const QString& uri = QString());
+    QtSoapQName(const QtSoapQName&) = default;
+    ~QtSoapQName();
+    QtSoapQName& operator=(const QtSoapQName&) = default;
+
+    /// Sets the name to @p s and empties the URI.
+    QtSoapQName& operator=(const QString& s);
+
+    /// The local name.
+    QString name() const { return m_name; }
+
+    /// The namespace's URI.
+    QString uri() const { return m_uri; }
+
+private:
+    QString m_name;
+    QString m_uri;
+};
+
+/**
+ * @brief Whether @p n1 is what the key @p n2 asks for; case does not matter.
+ *
+ * The comparison is not symmetric: a key without URI matches the name in any namespace, a key with a URI is
+ * compared as URI and name joined.
+ */
+UTILSDLL_EXPORT bool operator==(const QtSoapQName& n1, const QtSoapQName& n2);
+
+/// The order that goes with `operator==`: by name alone when @p n2 has no URI, else by URI and name joined.
+UTILSDLL_EXPORT bool operator<(const QtSoapQName& n1, const QtSoapQName& n2);
+
+} // namespace TOLVAN_NAMESPACE

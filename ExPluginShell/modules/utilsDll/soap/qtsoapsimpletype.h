@@ -1,0 +1,80 @@
+#pragma once
+
+#include "qtsoaptype.h"
+
+namespace TOLVAN_NAMESPACE
+{
+
+/**
+ * @brief A value without children: a text, a number, a date.
+ *
+ * What value() holds after reading, by type:
+ *
+ * | type | variant |
+ * |---|---|
+ * | Boolean | `bool`, from "true", "false", "1", "0" |
+ * | Int, Short, Byte | `int` |
+ * | UnsignedInt, UnsignedShort, UnsignedByte | `uint` |
+ * | Long · UnsignedLong | `qlonglong` · `qulonglong` |
+ * | Float, Double | `double`, also from "INF", "-INF", "NaN" |
+ * | every other one, Decimal, dates and base64 among them | the text, `QString` |
+ *
+ * A text that is not of its type stays a text rather than being lost. A nil value, and one that only refers
+ * to another by `href`, is valid and holds an invalid variant.
+ */
+class UTILSDLL_EXPORT QtSoapSimpleType : public QtSoapType
+{
+public:
+    /// A nil value of type Other.
+    QtSoapSimpleType();
+
+    /// A nil value of type Other called @p name.
+    QtSoapSimpleType(const QtSoapQName& name);
+
+    /// An Int. A `bool` passed as @p n selects this overload too; a Boolean takes the next one.
+    QtSoapSimpleType(const QtSoapQName& name, int n);
+
+    /// A Boolean; @p dummy only selects the overload, pass 0.
+    QtSoapSimpleType(const QtSoapQName& name, bool n, int dummy);
+
+    /// A String.
+    QtSoapSimpleType(const QtSoapQName& name, const QString& n);
+    QtSoapSimpleType(const QtSoapSimpleType& copy);
+    QtSoapSimpleType& operator=(const QtSoapSimpleType& copy);
+    ~QtSoapSimpleType() override;
+
+    /// Makes the value nil; name and type stay.
+    void clear() override;
+
+    /// Reads the element @p node; false for one that has child elements, or is an array or a struct by its
+    /// type.
+    bool parse(QDomNode node) override;
+
+    /// Always true.
+    bool isValid() const override;
+
+    /// The value as XML Schema writes it: "true", "30.48", "-INF"; a null string for nil.
+    QString toString() const override;
+
+    /// The variant as `int`; 0 when it is no number. A Long outside the range of `int` is cut off: use
+    /// value().
+    int toInt() const override;
+
+    /// The variant as `bool`.
+    bool toBool() const override;
+
+    /// The variant; invalid for nil.
+    QVariant value() const override;
+
+    /// `<name xsi:type="xsd:TYPE">text</name>`; no type is written for Other, `xsi:nil` for nil.
+    QDomElement toDomElement(QDomDocument doc) const override;
+
+protected:
+    QVariant v; ///< the value
+
+private:
+    friend class QtSoapMessage;
+    friend class SoapValueReader;
+};
+
+} // namespace TOLVAN_NAMESPACE

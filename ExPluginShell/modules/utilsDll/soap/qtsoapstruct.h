@@ -1,0 +1,76 @@
+#pragma once
+
+#include "qtsoaptype.h"
+
+#include <QList>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/**
+ * @brief A collection of named values of any type.
+ *
+ * Children are kept in the order in which they came. A struct read from a message keeps repeated children
+ * too, as services write lists that way; use positions or the iterator to see them all.
+ */
+class UTILSDLL_EXPORT QtSoapStruct : public QtSoapType
+{
+public:
+    /// An empty struct without name.
+    QtSoapStruct();
+
+    /// An empty struct called @p name.
+    QtSoapStruct(const QtSoapQName& name);
+    QtSoapStruct(const QtSoapStruct& copy);
+    QtSoapStruct& operator=(const QtSoapStruct& copy);
+    ~QtSoapStruct() override;
+
+    /// Removes all children.
+    void clear() override;
+
+    /// Reads the element @p node; false for one that holds a text and no child elements.
+    bool parse(QDomNode node) override;
+
+    /// Always true.
+    bool isValid() const override;
+
+    /// Number of children.
+    int count() const override;
+
+    /// The child called @p key, see `operator[](const QtSoapQName&)` of the base class.
+    QtSoapType& at(const QtSoapQName& key);
+
+    /// @copydoc at(const QtSoapQName&)
+    const QtSoapType& at(const QtSoapQName& key) const;
+    QtSoapType& operator[](int i) override;
+    const QtSoapType& operator[](int i) const override;
+    QtSoapType& operator[](const QtSoapQName& key) override;
+    const QtSoapType& operator[](const QtSoapQName& key) const override;
+    QtSoapType& operator[](const QString& key) override;
+    const QtSoapType& operator[](const QString& key) const override;
+
+    /**
+     * @brief Adds @p item and takes ownership of it.
+     *
+     * The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
+     */
+    void insert(QtSoapType* item);
+
+    /// The element with the children in order.
+    QDomElement toDomElement(QDomDocument doc) const override;
+
+protected:
+    QList<QtSmartPtr<QtSoapType>> dict; ///< the children
+
+private:
+    friend class QtSoapMessage;
+    friend class QtSoapStructIterator;
+    friend class SoapEncoder;
+    friend class SoapValueReader;
+
+    /// Index of the child for @p key, -1 when there is none.
+    int indexOf(const QtSoapQName& key) const;
+    void append(QtSoapType* item);
+};
+
+} // namespace TOLVAN_NAMESPACE
