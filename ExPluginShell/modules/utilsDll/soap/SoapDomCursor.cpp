@@ -1,5 +1,7 @@
 #include "SoapDomCursor.h"
 
+#include "SoapUris.h"
+
 #include <QDomAttr>
 #include <QDomDocument>
 #include <QDomNamedNodeMap>
@@ -21,6 +23,20 @@ QDomNode relevant(QDomNode node)
 QString localName(const QDomNode& node)
 {
     return node.localName().isEmpty() ? soapLocalPart(node.nodeName()) : node.localName();
+}
+
+/// Qt's reader leaves a prefix unresolved that is declared behind its use in the same tag; the usual ones are
+/// known.
+QString uriOf(const QDomAttr& attribute)
+{
+    if (!attribute.namespaceURI().isEmpty())
+        return attribute.namespaceURI();
+    const QString name = attribute.name();
+    if (name.startsWith(QLatin1String("SOAP-ENC:")))
+        return SoapUris::Encoding;
+    if (name.startsWith(QLatin1String("xsi:")))
+        return SoapUris::SchemaInstance;
+    return name.startsWith(QLatin1String("SOAP-ENV:")) ? QString(SoapUris::Envelope) : QString();
 }
 
 } // namespace
@@ -49,7 +65,7 @@ SoapXmlCursor::Token SoapDomCursor::start(const QDomElement& element)
     const QDomNamedNodeMap attributes = element.attributes();
     for (int k = 0; k < attributes.count(); ++k) {
         const QDomAttr attribute = attributes.item(k).toAttr();
-        m_element.setAttribute(attribute.namespaceURI(), localName(attribute), attribute.value());
+        m_element.setAttribute(uriOf(attribute), localName(attribute), attribute.value());
     }
     return Token::StartElement;
 }

@@ -1,0 +1,424 @@
+#include "TestMain.h"
+
+#include <utilsDll/soap/qtsoap.h>
+
+#include <QTextCodec>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+const QString xsd = QStringLiteral("http://www.w3.org/2001/XMLSchema");
+const QString xsi = QStringLiteral("http://www.w3.org/2001/XMLSchema-instance");
+const QString enc = QStringLiteral(SOAPv11_ENCODING);
+
+/// An envelope as a service of another make writes it.
+QByteArray envelope(const QString& body, const QString& schemaInstance = xsi)
+{
+    return QStringLiteral("<s:Envelope xmlns:s='%1' xmlns:i='%2' xmlns:d='%3' "
+                          "xmlns:c='%4'><s:Body>%5</s:Body></s:Envelope>")
+        .arg(QStringLiteral(SOAPv11_ENVELOPE), schemaInstance, xsd, enc, body)
+        .toUtf8();
+}
+
+QDomElement written(const QtSoapMessage& message)
+{
+    QDomDocument document;
+    QString error;
+    if (!document.setContent(message.toXmlString(), true, &error))
+        qWarning("%s", qPrintable(error));
+    return document.documentElement();
+}
+
+/// Gives access to what derived classes see.
+class Message : public QtSoapMessage
+{
+public:
+    using QtSoapMessage::body;
+    using QtSoapMessage::header;
+    using QtSoapMessage::isValidSoapMessage;
+};
+
+} // namespace
+
+/// Messages: what is written, what is read, and that both agree.
+class SoapMessagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void requestAsWritten();
+    void namespacesAsWritten();
+    void texts_data();
+    void texts();
+    void namesThatXmlForbids();
+    void literalAnswer();
+    void encodedAnswer();
+    void arrays_data();
+    void arrays();
+    void arraysComeBack();
+    void faults();
+    void faultsOfOthers_data();
+    void faultsOfOthers();
+    void headerAndBody();
+    void encodings_data();
+    void encodings();
+    void treeOfTheCaller();
+    void copiesAndReuse();
+};
+
+void SoapMessagesTest::requestAsWritten()
+{
+    QtSoapMessage message;
+    QVERIFY(!written(message).hasChildNodes());
+    message.setMethod(QStringLiteral("convertLength"), QStringLiteral("urn:example:units"));
+    message.addMethodArgument(QStringLiteral("amount"), QString(), 12);
+    message.addMethodArgument(QStringLiteral("unit"), QString(), QStringLiteral("inch"));
+    message.addMethodArgument(QStringLiteral("round"), QString(), true, 0);
+    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nothing"))));
+    const QDomElement root = written(message);
+    QCOMPARE(root.namespaceURI() + root.localName(), QStringLiteral(SOAPv11_ENVELOPE "Envelope"));
+    QCOMPARE(root.attributeNS(QStringLiteral(SOAPv11_ENVELOPE), QStringLiteral("encodingStyle")), enc);
+    QCOMPARE(root.childNodes().size(), 1); // no empty header
+    const QDomElement method = root.firstChildElement().firstChildElement();
+    QCOMPARE(method.namespaceURI() + method.localName(), QStringLiteral("urn:example:unitsconvertLength"));
+    const QStringList expected{QStringLiteral("amount xsd:int 12"), QStringLiteral("unit xsd:string inch"),
+                               QStringLiteral("round xsd:boolean true"), QStringLiteral("nothing  nil")};
+    QStringList arguments;
+    for (QDomElement e = method.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        QCOMPARE(e.namespaceURI(), QStringLiteral("urn:example:units")); // inherited
+        const bool nil = e.attributeNS(xsi, QStringLiteral("nil")) == QStringLiteral("true");
+        arguments += e.localName() + QLatin1Char(' ') + e.attributeNS(xsi, QStringLiteral("type")) +
+                     QLatin1Char(' ') + (nil ? QStringLiteral("nil") : e.text());
+    }
+    QCOMPARE(arguments, expected);
+    QCOMPARE(message.toXmlString().count(QLatin1Char('\n')), 0);
+    QVERIFY(
+        message.toXmlString(2).contains(QStringLiteral("\n  <SOAP-ENV:Body>\n    <convertLength xmlns=")));
+    QVERIFY(message.setContent(message.toXmlString(3).toUtf8()));
+    QCOMPARE(message.method().count(), 4);
+}
+
+void SoapMessagesTest::namespacesAsWritten()
+{
+    QtSoapNamespaces::instance().registerNamespace(QStringLiteral("st"), QStringLiteral("urn:example:grid"));
+    QtSoapMessage message;
+    message.setMethod(QtSoapQName(QStringLiteral("store"), QStringLiteral("urn:example:grid")));
+    message.addMethodArgument(QStringLiteral("own"), QStringLiteral("urn:example:grid"), 1);
+    message.addMethodArgument(QStringLiteral("none"), QString(), 2);
+    auto* const other = new QtSoapStruct(QtSoapQName(QStringLiteral("other"), QStringLiteral("urn:a&b")));
+    other->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("inherits")), 3));
+    message.addMethodArgument(other);
+    message.addMethodArgument(QStringLiteral("outside"), QString(), 4);
+    QStringList uris;
+    const QDomElement method = written(message).firstChildElement().firstChildElement();
+    for (QDomElement e = method.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        uris += e.namespaceURI();
+    QCOMPARE(uris, QStringList({QStringLiteral("urn:example:grid"), QString(), QStringLiteral("urn:a&b"),
+                                QString()}));
+    QCOMPARE(method.elementsByTagName(QStringLiteral("inherits")).item(0).namespaceURI(),
+             QStringLiteral("urn:a&b"));
+    QCOMPARE(message.toXmlString().count(QStringLiteral("xmlns:st=")), 1);
+}
+
+void SoapMessagesTest::texts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("arrives");
+    const auto same = [](const char* row, const QString& text) { QTest::newRow(row) << text << text; };
+    same("markup", QStringLiteral("a<b>&amp;\"c\"'d'<![CDATA[x]]>"));
+    same("blanks only", QStringLiteral("   "));
+    same("line ends", QStringLiteral("a\r\nb\rc\n\td\n"));
+    same("beyond ASCII", QStringLiteral("äöß 日本 \U0001F5BC"));
+    same("empty", QString(QLatin1String("")));
+    same("long", QString(300000, QLatin1Char('x')));
+    QTest::newRow("what XML cannot carry")
+        << QString(QStringLiteral("a\x01") + QChar(0xFFFE) + QChar(0xD800) + QLatin1Char('b') + QChar(0xDC00))
+        << QStringLiteral("a\uFFFD\uFFFD\uFFFDb\uFFFD");
+}
+
+void SoapMessagesTest::texts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, arrives);
+    QtSoapMessage message, read;
+    message.setMethod(QStringLiteral("m"));
+    message.addMethodArgument(QStringLiteral("t"), QString(), text);
+    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nil"))));
+    for (const int indent : {0, 4}) {
+        QVERIFY2(read.setContent(message.toXmlString(indent).toUtf8()), qPrintable(read.errorString()));
+        QCOMPARE(read.returnValue().toString(), arrives);
+        QVERIFY(read.returnValue().value().isValid() && !read.method()[1].value().isValid());
+    }
+}
+
+void SoapMessagesTest::namesThatXmlForbids()
+{
+    QtSoapMessage message, read;
+    message.setMethod(QStringLiteral("a b><x/>"), QStringLiteral("urn:\"x"));
+    message.addMethodArgument(QString(), QString(), 1);
+    message.addMethodArgument(QStringLiteral("1st"), QString(), 2);
+    auto* const item = new QtSoapSimpleType(QtSoapQName(QStringLiteral("i")), 3);
+    item->setId(QStringLiteral("\"<&"));
+    message.addMethodArgument(item);
+    QVERIFY2(read.setContent(message.toXmlString().toUtf8()), qPrintable(read.errorString()));
+    QCOMPARE(read.method().name().name(), QStringLiteral("a_x0020_b_x003e__x003c_x_x002f__x003e_"));
+    QCOMPARE(read.method().name().uri(), QStringLiteral("urn:\"x"));
+    QCOMPARE(read.method()[1].name().name(), QStringLiteral("_x0031_st"));
+    QCOMPARE(read.method()[2].id(), QStringLiteral("\"<&"));
+}
+
+void SoapMessagesTest::literalAnswer()
+{
+    QtSoapMessage message;
+    QVERIFY(message.setContent(envelope(QStringLiteral(
+        "<!-- c --><convertLengthResponse xmlns='urn:u'><?pi x?><convertLengthResult><cm>30.48</cm>"
+        "<at>2021-03-04T05:06:07</at><raw><![CDATA[<&>]]> "
+        "tail</raw><row>1</row><row>2</row></convertLengthResult>"
+        "</convertLengthResponse>"))));
+    const QtSoapType& value = message.returnValue();
+    QCOMPARE(message.method().name().name(), QStringLiteral("convertLengthResponse"));
+    QCOMPARE(value[QStringLiteral("cm")].value().toDouble(), 30.48);
+    QCOMPARE(value[QStringLiteral("at")].toString(), QStringLiteral("2021-03-04T05:06:07"));
+    QCOMPARE(value[QStringLiteral("raw")].toString(), QStringLiteral("<&> tail"));
+    QCOMPARE(value.count(), 5); // both rows
+    QVERIFY(!value[QStringLiteral("x")].isValid() && !message.isFault());
+    QCOMPARE(message.faultCode(), QtSoapMessage::Other);
+    QVERIFY(!message.faultString().isValid());
+    QVERIFY(message.setContent(envelope(QStringLiteral("<pingResponse xmlns='urn:u'/>"))));
+    QVERIFY(!message.returnValue().isValid() && message.method().isValid());
+    QVERIFY(message.setContent(envelope(QString())) && !message.method().isValid());
+}
+
+void SoapMessagesTest::encodedAnswer()
+{
+    for (const QString& uri : {xsi, QStringLiteral(XML_SCHEMA_INSTANCE),
+                               QStringLiteral("http://www.w3.org/2000/10/XMLSchema-instance")}) {
+        QtSoapMessage message;
+        QVERIFY(message.setContent(envelope(
+            QStringLiteral(
+                "<g:storeResponse xmlns:g='urn:g'><return><ids i:type='c:Array' c:arrayType='d:int[3]'>"
+                "<item>7</item><item>8</item><item>9</item></ids><note i:nil='true'/><c:long>5</c:long>"
+                "<odd i:type='d:int'><a/></odd><empty i:type='c:Struct'/></return></g:storeResponse>"),
+            uri)));
+        const QtSoapType& value = message.returnValue();
+        QCOMPARE(value[QStringLiteral("ids")].count(), 3);
+        QCOMPARE(value[QStringLiteral("ids")][2].value(), QVariant(9));
+        QVERIFY(value[QStringLiteral("note")].isValid() && !value[QStringLiteral("note")].value().isValid());
+        QCOMPARE(value[2].value(), QVariant(5LL));
+        QCOMPARE(value[3].type(), QtSoapType::Struct); // nothing is lost of a value that contradicts its type
+        QCOMPARE(value[QStringLiteral("empty")].type(), QtSoapType::Struct);
+    }
+}
+
+void SoapMessagesTest::arrays_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QString>("items");
+    QTest::addColumn<QString>("positions"); // "position:text ..."
+    const auto row = [](const char* name, const char* attributes, const char* items, const char* positions) {
+        QTest::newRow(name) << QString::fromLatin1(attributes) << QString::fromLatin1(items)
+                            << QString::fromLatin1(positions);
+    };
+    row("one dimension", "c:arrayType='d:int[2]'", "<i>1</i> <i>2</i>", "0:1 1:2");
+    row("open size", "c:arrayType='d:int[]'", "<i>1</i><j>2</j>", "0:1 1:2");
+    row("no size at all", "i:type='c:Array'", "<i>1</i><i>2</i>", "0:1 1:2");
+    row("empty", "c:arrayType='d:int[0]'", "", "");
+    row("two dimensions", "c:arrayType='d:int[2,2]'", "<i>1</i><i>2</i><i>3</i>", "0:1 1:2 2:3");
+    row("three, by position", "c:arrayType='d:int[2,2,3]'", "<i c:position='[1,0,2]'>1</i><i>2</i>",
+        "8:1 9:2");
+    row("four", "c:arrayType='d:int[2,2,2,2]'", "<i c:position='[1,1,1,1]'>1</i>", "15:1");
+    row("open outer dimension", "c:arrayType='d:int[,2]'", "<i c:position='[2,1]'>1</i>", "5:1");
+    row("offset", "c:arrayType='d:int[5]' c:offset='[2]'", "<i>1</i><i>2</i>", "2:1 3:2");
+    row("offset in two", "c:arrayType='d:int[2,2]' c:offset='[1,0]'", "<i>1</i>", "2:1");
+    row("sparse, unordered", "c:arrayType='d:int[9]'", "<i c:position='[7]'>1</i><i c:position='[2]'>2</i>",
+        "2:2 7:1");
+    row("any type", "c:arrayType='d:anyType[2]'", "<i i:type='d:int'>1</i><i i:type='d:string'>2</i>",
+        "0:1 1:2");
+    row("blanks in sizes", "c:arrayType='d:int[ 2 , 2 ]'", "<i>1</i>", "0:1");
+}
+
+void SoapMessagesTest::arrays()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, items);
+    QFETCH(QString, positions);
+    QtSoapMessage message;
+    QVERIFY2(message.setContent(envelope(QStringLiteral("<r><a %1>%2</a></r>").arg(attributes, items))),
+             qPrintable(message.errorString()));
+    const auto read = [](const QtSoapMessage& m) {
+        QtSoapArray array(dynamic_cast<const QtSoapArray&>(m.returnValue()));
+        QStringList found;
+        for (QtSoapArrayIterator it(array); !it.atEnd(); ++it)
+            found += QStringLiteral("%1:%2").arg(it.pos()).arg(it.current()->toString());
+        return found.join(QLatin1Char(' '));
+    };
+    QCOMPARE(read(message), positions);
+    QtSoapMessage again; // and as written by the library
+    QVERIFY2(again.setContent(message.toXmlString().toUtf8()), qPrintable(again.errorString()));
+    QCOMPARE(read(again), positions);
+}
+
+void SoapMessagesTest::arraysComeBack()
+{
+    QtSoapMessage message, read;
+    message.setMethod(QStringLiteral("m"));
+    auto* const nested = new QtSoapArray(QtSoapQName(QStringLiteral("nested")));
+    for (int k = 0; k < 2; ++k) {
+        auto* const row = new QtSoapArray(QtSoapQName());
+        row->append(new QtSoapSimpleType(QtSoapQName(QStringLiteral("x")), k));
+        nested->append(row);
+    }
+    message.addMethodArgument(nested);
+    QVERIFY(read.setContent(message.toXmlString().toUtf8()));
+    QCOMPARE(read.returnValue()[1][0].toInt(), 1);
+    QCOMPARE(read.returnValue()[1].type(), QtSoapType::Array);
+    QVERIFY(read.setContent(envelope(QStringLiteral(
+        "<r><a c:arrayType='d:int[][2]'><i c:arrayType='d:int[1]'><j>4</j></i><i><j>5</j></i></a></r>"))));
+    QCOMPARE(read.returnValue()[0][0].value(), QVariant(4));
+    QCOMPARE(read.returnValue()[1].type(), QtSoapType::Array);
+}
+
+void SoapMessagesTest::faults()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("m"));
+    message.setFaultString(QStringLiteral("Door 4 is <locked>"));
+    QVERIFY(message.isFault() && !message.method().isValid() && !message.returnValue().isValid());
+    QCOMPARE(message.faultCode(), QtSoapMessage::Other);
+    QVERIFY(!message.faultDetail().isValid());
+    for (const auto code : {QtSoapMessage::VersionMismatch, QtSoapMessage::MustUnderstand,
+                            QtSoapMessage::Client, QtSoapMessage::Server, QtSoapMessage::Other}) {
+        message.setFaultCode(code);
+        message.addFaultDetail(new QtSoapSimpleType(QtSoapQName(QStringLiteral("code")), int(code)));
+        QtSoapMessage read;
+        QVERIFY(read.setContent(message.toXmlString().toUtf8()));
+        QVERIFY(read.isFault());
+        QCOMPARE(read.faultCode(), code);
+        QCOMPARE(read.faultString().toString(), QStringLiteral("Door 4 is <locked>"));
+        QCOMPARE(read.faultDetail().count(), int(code) + 1); // appended, not replaced
+    }
+    QStringList order;
+    const QDomElement fault = written(message).firstChildElement().firstChildElement();
+    for (QDomElement e = fault.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        order += e.namespaceURI() + e.localName();
+    QCOMPARE(order, QStringList({QStringLiteral("faultcode"), QStringLiteral("faultstring"),
+                                 QStringLiteral("detail")}));
+    message.setMethod(QStringLiteral("m"));
+    QVERIFY(!message.isFault() && message.method().isValid());
+}
+
+void SoapMessagesTest::faultsOfOthers_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("prefixed") << "s:Server" << int(QtSoapMessage::Server);
+    QTest::newRow("dotted") << "s:Client.Locked" << int(QtSoapMessage::Client);
+    QTest::newRow("bare") << " MustUnderstand " << int(QtSoapMessage::MustUnderstand);
+    QTest::newRow("of the service") << "d:ServerBusy" << int(QtSoapMessage::Other);
+}
+
+void SoapMessagesTest::faultsOfOthers()
+{
+    QFETCH(QString, code);
+    QFETCH(int, expected);
+    QtSoapMessage message;
+    QVERIFY(message.setContent(envelope(
+        QStringLiteral(
+            "<s:Fault><faultcode>%1</faultcode><faultstring xml:lang='en'>Door 4 is locked</faultstring>"
+            "<detail><l:lockInfo xmlns:l='urn:l'>by "
+            "<l:holder>desk</l:holder></l:lockInfo></detail></s:Fault>")
+            .arg(code))));
+    QVERIFY(message.isFault());
+    QCOMPARE(int(message.faultCode()), expected);
+    QCOMPARE(message.faultString().toString(), QStringLiteral("Door 4 is locked"));
+    QCOMPARE(message.faultDetail()[QStringLiteral("lockInfo")][QStringLiteral("holder")].toString(),
+             QStringLiteral("desk"));
+}
+
+void SoapMessagesTest::headerAndBody()
+{
+    Message message;
+    message.addHeaderItem(new QtSoapSimpleType(QtSoapQName(QStringLiteral("h"), QStringLiteral("urn:h")), 1));
+    message.addHeaderItem(new QtSoapSimpleType(QtSoapQName(QStringLiteral("h"), QStringLiteral("urn:h")), 2));
+    QTest::ignoreMessage(QtWarningMsg, "SOAP: An argument was added before a method was set");
+    message.addMethodArgument(QStringLiteral("a"), QString(), 3);
+    message.addBodyItem(new QtSoapSimpleType(QtSoapQName(QStringLiteral("b")), 4));
+    Message read;
+    QVERIFY(read.setContent(message.toXmlString().toUtf8()));
+    QCOMPARE(read.header().count(), 2);
+    QCOMPARE(read.header()[1].toInt(), 2);
+    QCOMPARE(read.body()[1].toInt(), 4);
+    QDomDocument good, bad;
+    QVERIFY(good.setContent(envelope(QString()), true) && bad.setContent(QByteArrayLiteral("<a/>"), true));
+    QVERIFY(read.isValidSoapMessage(good) && !read.isValidSoapMessage(bad));
+    QVERIFY(!read.errorString().isEmpty() && read.body().count() == 2);
+    read.clear();
+    QVERIFY(!written(read).hasChildNodes());
+}
+
+void SoapMessagesTest::encodings_data()
+{
+    QTest::addColumn<QByteArray>("codec");
+    QTest::addColumn<QString>("declared");
+    QTest::newRow("UTF-8, undeclared") << QByteArray("UTF-8") << QString();
+    QTest::newRow("Latin 1") << QByteArray("ISO-8859-1") << "iso-8859-1";
+    QTest::newRow("Windows") << QByteArray("windows-1252") << "windows-1252";
+    QTest::newRow("UTF-16") << QByteArray("UTF-16") << "utf-16";
+    QTest::newRow("UTF-16 without mark") << QByteArray("UTF-16BE") << "UTF-16";
+}
+
+void SoapMessagesTest::encodings()
+{
+    QFETCH(QByteArray, codec);
+    QFETCH(QString, declared);
+    QString text = QString::fromUtf8(envelope(QStringLiteral("<r><a>Größe</a></r>")));
+    if (!declared.isEmpty())
+        text.prepend(QStringLiteral("<?xml version='1.0' encoding='%1'?>").arg(declared));
+    QtSoapMessage message;
+    QVERIFY2(message.setContent(QTextCodec::codecForName(codec)->fromUnicode(text)),
+             qPrintable(message.errorString()));
+    QCOMPARE(message.returnValue().toString(), QStringLiteral("Größe"));
+}
+
+void SoapMessagesTest::treeOfTheCaller()
+{
+    QDomDocument document;
+    const QByteArray text =
+        envelope(QStringLiteral("<r><a c:arrayType='d:int[2]'><i>1</i><i>2</i></a><b><c>x</c>y</b></r>"));
+    QVERIFY(document.setContent(text, true));
+    QtSoapMessage fromTree, fromText;
+    QVERIFY2(fromTree.setContent(document), qPrintable(fromTree.errorString()));
+    QVERIFY(fromText.setContent(text));
+    QCOMPARE(fromTree.toXmlString(), fromText.toXmlString());
+    QVERIFY(document.setContent(QByteArrayLiteral("<!DOCTYPE a><a/>"), true));
+    QVERIFY(!fromTree.setContent(document) && fromTree.isFault());
+    QVERIFY(fromTree.errorString().contains(QStringLiteral("document type")));
+    QDomDocument deep;
+    deep.createElement(QStringLiteral("first")); // a document is null before that
+    QDomNode node = deep;
+    for (int k = 0; k < 2000; ++k)
+        node = node.appendChild(deep.createElementNS(
+            QStringLiteral(SOAPv11_ENVELOPE), k == 0 ? QStringLiteral("Envelope") : QStringLiteral("Body")));
+    QVERIFY(!fromTree.setContent(deep));
+    QVERIFY(fromTree.errorString().contains(QStringLiteral("levels")));
+}
+
+void SoapMessagesTest::copiesAndReuse()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("m"));
+    message.addMethodArgument(QStringLiteral("a"), QString(), 1);
+    QtSoapMessage copy(message);
+    message.addMethodArgument(QStringLiteral("b"), QString(), 2);
+    QCOMPARE(copy.method().count(), 1);
+    copy = message;
+    QVERIFY(!message.setContent(QByteArray()));
+    QVERIFY(message.isFault() && copy.method().count() == 2 && !message.errorString().isEmpty());
+    QCOMPARE(message.faultString().toString(), message.errorString());
+    QVERIFY(message.setContent(copy.toXmlString().toUtf8()) && message.errorString().isEmpty());
+}
+
+TOLVAN_CORE_TEST_MAIN(SoapMessagesTest)
+#include "tst_soap_messages.moc"

@@ -1,0 +1,477 @@
+#include "TestMain.h"
+
+#include <utilsDll/soap/qtsoap.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+QDomElement parsed(const QString& attributesAndContents, const QString& end = QStringLiteral("</v>"))
+{
+    QDomDocument document;
+    const QString text =
+        QStringLiteral("<v xmlns:xsi='%1' xmlns:xsd='http://www.w3.org/2001/XMLSchema' xmlns:e='%2' ")
+            .arg(QStringLiteral(XML_SCHEMA_INSTANCE), QStringLiteral(SOAPv11_ENCODING)) +
+        attributesAndContents + end;
+    QString error;
+    if (!document.setContent(text, true, &error))
+        qFatal("%s", qPrintable(error));
+    return document.documentElement();
+}
+
+QtSoapSimpleType* number(int value)
+{
+    return new QtSoapSimpleType(QtSoapQName(QStringLiteral("n")), value);
+}
+
+/// A value class of a client: a point written as "x;y".
+class Point : public QtSoapSimpleType
+{
+public:
+    bool parse(QDomNode node) override
+    {
+        const QStringList parts = node.toElement().text().split(QLatin1Char(';'));
+        errorStr = QStringLiteral("no point");
+        x = parts.value(0).toInt();
+        y = parts.value(1).toInt();
+        n = QtSoapQName(node.localName());
+        return parts.size() == 2;
+    }
+    QDomElement toDomElement(QDomDocument document) const override
+    {
+        QDomElement element = document.createElement(n.name());
+        element.appendChild(document.createTextNode(QStringLiteral("%1;%2").arg(x).arg(y)));
+        return element;
+    }
+    int x = 0;
+    int y = 0;
+};
+
+} // namespace
+
+/// Values on their own: conversions, lookups, arrays, iterators, ownership.
+class SoapTypesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesOfTypes();
+    void qualifiedNames_data();
+    void qualifiedNames();
+    void simpleValues_data();
+    void simpleValues();
+    void nilAndReferences();
+    void constructorsOfSimpleValues();
+    void failingLookupsAreSafe();
+    void structKeepsOrderAndReplaces();
+    void copiesAreIndependent();
+    void arrayPositions();
+    void arrayRefuses_data();
+    void arrayRefuses();
+    void arrayIteratorVisitsInOrder();
+    void parseTellsClassesApart();
+    void elementsCanBeReadBack();
+    void smartPointer();
+    void clientClasses();
+    void prefixes();
+};
+
+void SoapTypesTest::namesOfTypes()
+{
+    for (int t = 0; t < QtSoapType::Other; ++t) {
+        const auto type = static_cast<QtSoapType::Type>(t);
+        QVERIFY(!QtSoapType::typeToName(type).isEmpty());
+        QCOMPARE(QtSoapType::nameToType(QtSoapType::typeToName(type)), type);
+    }
+    const QMap<int, QString> fixed{{0, QStringLiteral("duration")},      {9, QStringLiteral("boolean")},
+                                   {14, QStringLiteral("anyURI")},       {17, QStringLiteral("string")},
+                                   {27, QStringLiteral("decimal")},      {32, QStringLiteral("int")},
+                                   {40, QStringLiteral("unsignedByte")}, {41, QStringLiteral("Array")},
+                                   {42, QStringLiteral("Struct")}};
+    for (auto it = fixed.begin(); it != fixed.end(); ++it)
+        QCOMPARE(int(QtSoapType::nameToType(it.value())), it.key());
+    QCOMPARE(QtSoapType::nameToType(QStringLiteral("INT")), QtSoapType::Other);
+    QCOMPARE(QtSoapType::nameToType(QStringLiteral("base64")), QtSoapType::Base64Binary);
+    QCOMPARE(int(QtSoapType::Other), 43);
+}
+
+void SoapTypesTest::qualifiedNames_data()
+{
+    QTest::addColumn<QtSoapQName>("left");
+    QTest::addColumn<QtSoapQName>("right");
+    QTest::addColumn<bool>("equal");
+    const QString a = QStringLiteral("a"), upper = QStringLiteral("A"), b = QStringLiteral("b"),
+                  u = QStringLiteral("u:1");
+    QTest::newRow("a key without URI matches any namespace") << QtSoapQName(a, u) << QtSoapQName(a) << true;
+    QTest::newRow("a key with URI wants it") << QtSoapQName(a) << QtSoapQName(a, u) << false;
+    QTest::newRow("case does not matter") << QtSoapQName(upper, u) << QtSoapQName(a, u) << true;
+    QTest::newRow("other name") << QtSoapQName(b, u) << QtSoapQName(a, u) << false;
+    QTest::newRow("other namespace") << QtSoapQName(a, b) << QtSoapQName(a, u) << false;
+}
+
+void SoapTypesTest::qualifiedNames()
+{
+    QFETCH(QtSoapQName, left);
+    QFETCH(QtSoapQName, right);
+    QFETCH(bool, equal);
+    QCOMPARE(left == right, equal);
+    if (equal)
+        QVERIFY(!(left < right));
+    QtSoapQName assigned(left);
+    assigned = QStringLiteral("z");
+    QCOMPARE(assigned.name() + assigned.uri(), QStringLiteral("z"));
+    QVERIFY(left < assigned);
+}
+
+void SoapTypesTest::simpleValues_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("asText");
+    const auto row = [](const char* type, const char* text, const QVariant& value,
+                        const char* asText = nullptr) {
+        QTest::addRow("%s %s", type, text) << QString::fromLatin1(type) << QString::fromUtf8(text) << value
+                                           << QString::fromUtf8(asText ? asText : text);
+    };
+    row("boolean", "true", true);
+    row("boolean", " 1 ", true, "true");
+    row("boolean", "0", false, "false");
+    row("boolean", "false", false);
+    row("boolean", "TRUE", QStringLiteral("TRUE"));
+    row("int", "-2147483648", std::numeric_limits<int>::min());
+    row("int", "2147483648", QStringLiteral("2147483648"));
+    row("int", "+5", 5, "5");
+    row("short", "12", 12);
+    row("unsignedInt", "4294967295", 4294967295U);
+    row("unsignedInt", "-1", QStringLiteral("-1"));
+    row("long", "-9223372036854775808", std::numeric_limits<qlonglong>::min());
+    row("unsignedLong", "18446744073709551615", std::numeric_limits<qulonglong>::max());
+    row("double", "30.48", 30.48);
+    row("double", "-1.7976931348623157e+308", -std::numeric_limits<double>::max());
+    row("double", "-INF", -std::numeric_limits<double>::infinity());
+    row("float", "INF", std::numeric_limits<double>::infinity());
+    row("double", "inf", QStringLiteral("inf"));
+    row("double", "1,5", QStringLiteral("1,5"));
+    row("decimal", "0.10", QStringLiteral("0.10"));
+    row("integer", "123456789012345678901234567890", QStringLiteral("123456789012345678901234567890"));
+    row("dateTime", "2021-03-04T05:06:07", QStringLiteral("2021-03-04T05:06:07"));
+    row("base64Binary", "AAEC/w==", QStringLiteral("AAEC/w=="));
+    row("string", "  ", QStringLiteral("  "));
+    row("nobodyKnowsIt", "x", QStringLiteral("x"));
+    row("string", "", QString(QLatin1String("")));
+}
+
+void SoapTypesTest::simpleValues()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, text);
+    QFETCH(QVariant, value);
+    QFETCH(QString, asText);
+    // a tree drops texts of blanks only, so the text is put into the tree instead of being parsed
+    QDomElement element = parsed(QStringLiteral("xsi:type='xsd:%1'>").arg(type));
+    element.appendChild(element.ownerDocument().createTextNode(text));
+    QtSoapSimpleType simple;
+    QVERIFY2(simple.parse(element), qPrintable(simple.errorString()));
+    QCOMPARE(simple.value(), value);
+    QCOMPARE(int(simple.value().type()), int(value.type()));
+    QCOMPARE(simple.toString(), asText);
+    QCOMPARE(simple.type(), QtSoapType::nameToType(type) == QtSoapType::Other ? QtSoapType::String
+                                                                              : QtSoapType::nameToType(type));
+}
+
+void SoapTypesTest::nilAndReferences()
+{
+    QtSoapSimpleType value;
+    for (const char* nil : {"xsi:null='1'", "xsi:nil='true'"}) {
+        QVERIFY(value.parse(parsed(QLatin1String(nil) + QStringLiteral(" xsi:type='xsd:int'>7"))));
+        QVERIFY(value.isValid() && !value.value().isValid() && value.toString().isNull());
+        QCOMPARE(value.type(), QtSoapType::Int);
+    }
+    QVERIFY(value.parse(parsed(QStringLiteral("xsi:nil='false' xsi:type='xsd:double'>NaN"))));
+    QVERIFY(std::isnan(value.value().toDouble()) && value.toString() == QStringLiteral("NaN"));
+    QVERIFY(value.parse(parsed(QStringLiteral("id='a' href='#b'/>"), QString())));
+    QCOMPARE(value.id() + value.href(), QStringLiteral("a#b"));
+    QVERIFY(!value.value().isValid());
+    QDomDocument document;
+    const QDomElement written = value.toDomElement(document);
+    QCOMPARE(written.attribute(QStringLiteral("href")), QStringLiteral("#b"));
+    QVERIFY(!written.hasAttributeNS(QStringLiteral("http://www.w3.org/2001/XMLSchema-instance"),
+                                    QStringLiteral("nil")));
+}
+
+void SoapTypesTest::constructorsOfSimpleValues()
+{
+    const QtSoapQName name(QStringLiteral("f"));
+    QCOMPARE(QtSoapSimpleType(name, true).type(), QtSoapType::Int);
+    QCOMPARE(QtSoapSimpleType(name, true, 0).type(), QtSoapType::Boolean);
+    QCOMPARE(QtSoapSimpleType(name, QStringLiteral("s")).type(), QtSoapType::String);
+    QCOMPARE(QtSoapSimpleType(name).type(), QtSoapType::Other);
+    QtSoapSimpleType value(name, 7);
+    QVERIFY(value.toInt() == 7 && value.toBool() && value.isValid());
+    value.clear();
+    QVERIFY(value.isValid() && !value.value().isValid() && value.toInt() == 0);
+    QCOMPARE(value.name().name(), QStringLiteral("f"));
+}
+
+void SoapTypesTest::failingLookupsAreSafe()
+{
+    QtSoapStruct s;
+    QtSoapType& missing = s[QStringLiteral("a")][QtSoapQName(QStringLiteral("b"))][3];
+    QVERIFY(!missing.isValid() && missing.toString().isNull() && missing.toInt() == 0 &&
+            missing.count() == 0);
+    s[QStringLiteral("a")].setName(QtSoapQName(QStringLiteral("changed")));
+    QVERIFY(s[QStringLiteral("a")].name().name().isEmpty());
+    const QtSoapArray a;
+    QVERIFY(!a.at(1, 2).isValid() && !a[-1][QStringLiteral("x")].isValid());
+    QVERIFY(!QtSoapType().isValid() && QtSoapArray().isValid() && QtSoapStruct().isValid());
+}
+
+void SoapTypesTest::structKeepsOrderAndReplaces()
+{
+    QtSoapStruct s(QtSoapQName(QStringLiteral("s")));
+    for (const char* name : {"b", "a", "c"})
+        s.insert(new QtSoapSimpleType(QtSoapQName(QLatin1String(name), QStringLiteral("urn:x")), 1));
+    s.insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("a"), QStringLiteral("urn:x")), 2));
+    QTest::ignoreMessage(QtWarningMsg, "SOAP: A struct cannot take a null item");
+    s.insert(nullptr);
+    QCOMPARE(s.count(), 3);
+    QCOMPARE(s[1].toInt(), 2);
+    QCOMPARE(s[QStringLiteral("A")].toInt(), 2);
+    QVERIFY(!s.at(QtSoapQName(QStringLiteral("a"), QStringLiteral("urn:y"))).isValid());
+    QString names;
+    QtSoapStructIterator it(s);
+    for (; it.current(); ++it)
+        names += it.key().name();
+    QCOMPARE(names, QStringLiteral("bac"));
+    QVERIFY(!it.data() && it.key().name().isEmpty() && it != QtSoapStructIterator(s));
+    // names that differ in case only: the one of the same case comes first
+    QVERIFY(s.parse(parsed(QStringLiteral("><ID>1</ID><id>2</id><id>3</id>"))));
+    QCOMPARE(s.count(), 3);
+    QCOMPARE(s[QStringLiteral("id")].toInt(), 2);
+}
+
+void SoapTypesTest::copiesAreIndependent()
+{
+    QtSoapStruct outer(QtSoapQName(QStringLiteral("outer")));
+    auto* const inner = new QtSoapArray(QtSoapQName(QStringLiteral("inner")));
+    inner->append(number(1));
+    outer.insert(inner);
+    outer.insert(new QtSoapType(QtSoapQName(QStringLiteral("bare"))));
+    QtSoapStruct copy(outer);
+    inner->at(0).setName(QtSoapQName(QStringLiteral("renamed")));
+    inner->append(number(2));
+    QCOMPARE(copy[QStringLiteral("inner")].count(), 1);
+    QCOMPARE(copy[QStringLiteral("inner")][0].name().name(), QStringLiteral("n"));
+    copy = static_cast<const QtSoapStruct&>(copy); // assigned to itself
+    QCOMPARE(copy.count(), 2);
+    *inner = QtSoapArray(*inner);
+    QCOMPARE(inner->count(), 2);
+}
+
+void SoapTypesTest::arrayPositions()
+{
+    QtSoapArray grid(QtSoapQName(QStringLiteral("grid")), QtSoapType::Int, 3, 2);
+    grid.insert(1, 1, number(11));
+    grid.insert(5, number(21));
+    grid.insert(1, 1, number(12)); // replaces
+    QCOMPARE(grid.count(), 2);
+    QCOMPARE(grid.at(3).toInt(), 12);
+    QCOMPARE(grid.at(2, 1).toInt(), 21);
+    QtSoapArray deep(QtSoapQName(QStringLiteral("deep")), QtSoapType::Int, 2, 2, 2, 2, 2);
+    deep.insert(1, 0, 1, 0, 1, number(5));
+    QCOMPARE(deep.at(0x15).toInt(), 5);
+    QCOMPARE(deep.at(1, 0, 1, 0, 1).toInt(), 5);
+    QtSoapArray line;
+    line.append(number(1));
+    line.insert(9, number(2));
+    line.append(number(3));
+    QCOMPARE(line[10].toInt(), 3);
+    QCOMPARE(line[QStringLiteral("n")].toInt(), 1);
+    line.clear();
+    QVERIFY(line.count() == 0 && line.isValid());
+    grid.clear();
+    QTest::ignoreMessage(QtWarningMsg, "SOAP: The array \"grid\" has no such position");
+    grid.insert(0, 0, number(0)); // the dimensions are gone
+    QCOMPARE(grid.count(), 0);
+}
+
+void SoapTypesTest::arrayRefuses_data()
+{
+    QTest::addColumn<int>("rank");
+    QTest::addColumn<int>("position"); // -2: appended
+    QTest::addColumn<bool>("text");
+    QTest::newRow("another type") << 0 << 1 << true;
+    QTest::newRow("a negative position") << 0 << -1 << false;
+    QTest::newRow("a position behind the end") << 2 << 4 << false;
+    QTest::newRow("appending to a grid") << 2 << -2 << false;
+    QTest::newRow("appending to a full line") << 1 << -2 << false;
+}
+
+void SoapTypesTest::arrayRefuses()
+{
+    QFETCH(int, rank);
+    QFETCH(int, position);
+    QFETCH(bool, text);
+    const QtSoapQName name(QStringLiteral("a"));
+    QtSoapArray array(name, QtSoapType::Other, rank > 0 ? (rank == 1 ? 1 : 2) : -1, rank > 1 ? 2 : -1);
+    array.insert(0, number(1));
+    QtSoapSimpleType* const item = text ? new QtSoapSimpleType(name, QStringLiteral("x")) : number(2);
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("^SOAP: The array \"a\" (has|holds)")));
+    if (position == -2)
+        array.append(item);
+    else
+        array.insert(position, item); // deleted, which the address sanitizer sees
+    QCOMPARE(array.count(), 1);
+    QVERIFY(!array.errorString().isEmpty());
+    array.insert(0, number(3));
+    QVERIFY(array.errorString().isEmpty() && array[0].toInt() == 3);
+}
+
+void SoapTypesTest::arrayIteratorVisitsInOrder()
+{
+    QtSoapArray grid(QtSoapQName(QStringLiteral("grid")), QtSoapType::Int, 40, 5);
+    for (int k = 199; k >= 0; k -= 3)
+        grid.insert(k, number(k));
+    int last = -1, visited = 0;
+    QtSoapArrayIterator it(grid);
+    for (; !it.atEnd(); ++it, ++visited) {
+        int row = -1, column = -1, beyond = -7;
+        it.pos(&row, &column, &beyond);
+        it.pos(nullptr, &column);
+        QVERIFY(it.pos() > last && beyond == -7);
+        QCOMPARE(row * 5 + column, it.pos());
+        QCOMPARE(it.current()->toInt(), it.pos());
+        last = it.pos();
+    }
+    QCOMPARE(visited, grid.count());
+    QVERIFY(!it.data() && !it.current());
+    QVERIFY(it != QtSoapArrayIterator(grid));
+}
+
+void SoapTypesTest::parseTellsClassesApart()
+{
+    QtSoapSimpleType simple;
+    QVERIFY(!simple.parse(parsed(QStringLiteral("><a/>"))));
+    QVERIFY(simple.errorString().contains(QStringLiteral("child elements")));
+    QVERIFY(!simple.parse(parsed(QStringLiteral("e:arrayType='xsd:int[0]'>"))));
+    QVERIFY(!simple.parse(QDomNode()) && !simple.errorString().isEmpty());
+    QtSoapStruct structure;
+    QVERIFY(!structure.parse(parsed(QStringLiteral(">text"))) && !structure.errorString().isEmpty());
+    QVERIFY(structure.parse(parsed(QStringLiteral(">"))) && structure.errorString().isEmpty());
+    QtSoapArray array;
+    QVERIFY(!array.parse(parsed(QStringLiteral(">text"))));
+    QVERIFY(array.parse(parsed(QStringLiteral("e:arrayType='xsd:int[]'><i>4</i>"))));
+    QVERIFY(array[0].value() == QVariant(4) && array[0].type() == QtSoapType::Int);
+    QVERIFY(!QtSoapType().parse(QDomNode()));
+}
+
+void SoapTypesTest::elementsCanBeReadBack()
+{
+    QtSoapArray array(QtSoapQName(QStringLiteral("a"), QStringLiteral("urn:x")), QtSoapType::Struct, 2, 3);
+    auto* const item = new QtSoapStruct(QtSoapQName(QStringLiteral("i")));
+    item->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("t")), QStringLiteral(" a&<>\"' \x01 ")));
+    item->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nothing"))));
+    array.insert(1, 2, item);
+    QDomDocument document;
+    document.createElement(QStringLiteral("first")); // a document is null, and no copy its equal, before that
+    document.appendChild(array.toDomElement(document));
+    const QString xml = document.toString(-1);
+    for (const bool throughText : {false, true}) {
+        QDomDocument again = document;
+        if (throughText)
+            QVERIFY(again.setContent(xml, true));
+        QtSoapArray read;
+        QVERIFY2(read.parse(again.documentElement()), qPrintable(read.errorString() + xml));
+        QCOMPARE(read.name().uri(), QStringLiteral("urn:x"));
+        QCOMPARE(read.at(1, 2)[QStringLiteral("t")].toString(), QStringLiteral(" a&<>\"' \uFFFD "));
+        QVERIFY(read.at(5)[1].isValid() && !read.at(5)[1].value().isValid());
+        QCOMPARE(read.count(), 1);
+    }
+}
+
+void SoapTypesTest::smartPointer()
+{
+    struct Counted {
+        explicit Counted(int& c)
+            : count(c)
+        {
+            ++count;
+        }
+        ~Counted() { --count; }
+        int& count;
+    };
+    int alive = 0;
+    Counted* released = nullptr;
+    {
+        QtSmartPtr<Counted> first(new Counted(alive)), second(first), empty;
+        QVERIFY(empty.isNull() && !empty.ptr() && !empty.releasedPtr());
+        first = empty;
+        QVERIFY(first.isNull() && alive == 1 && &second.ref() == second.operator->());
+        second = QtSmartPtr<Counted>(new Counted(alive));
+        QCOMPARE(alive, 1);
+        const QtSmartPtr<Counted> third(second);
+        released = third.releasedPtr();
+        QCOMPARE(second.ptr(), released);
+    }
+    QCOMPARE(alive, 1);
+    delete released;
+    QCOMPARE(alive, 0);
+}
+
+void SoapTypesTest::clientClasses()
+{
+    static QtSoapTypeConstructor<Point> constructor;
+    auto& factory = QtSoapTypeFactory::instance();
+    QVERIFY(factory.registerHandler(QStringLiteral("point"), &constructor));
+    QVERIFY(!factory.registerHandler(QStringLiteral("point"), &constructor));
+    QVERIFY(!factory.registerHandler(QStringLiteral("int"), &constructor));
+    QVERIFY(!factory.registerHandler(QStringLiteral("null"), nullptr));
+
+    const QDomElement element = parsed(QStringLiteral("><p xsi:type='g:point'>3;4</p><q>5</q>"));
+    const auto made = factory.soapType(element);
+    QVERIFY(!made.isNull());
+    const auto* const point = dynamic_cast<const Point*>(&std::as_const(*made)[0]);
+    QVERIFY(point && point->x == 3 && point->y == 4);
+    QCOMPARE(made->operator[](1).toInt(), 5);
+
+    QVERIFY(factory.soapType(parsed(QStringLiteral("xsi:type='point'>3"))).isNull());
+    QVERIFY(factory.errorString().contains(QStringLiteral("no point")));
+    QVERIFY(factory.soapType(QDomNode()).isNull());
+
+    QtSoapMessage message; // through the stream, and shared by the copies that cannot know how to copy it
+    message.setMethod(QStringLiteral("m"));
+    message.addMethodArgument(new Point(*point));
+    const QtSoapMessage copy(message);
+    QCOMPARE(&copy.method()[0], &message.method()[0]);
+    const QString xml =
+        message.toXmlString().replace(QStringLiteral("<p>"), QStringLiteral("<p xsi:type='point'>"));
+    QVERIFY2(message.setContent(xml.toUtf8()), qPrintable(message.errorString()));
+    QVERIFY(dynamic_cast<const Point*>(&message.returnValue()));
+    QCOMPARE(static_cast<const Point&>(message.returnValue()).y, 4);
+}
+
+void SoapTypesTest::prefixes()
+{
+    auto& namespaces = QtSoapNamespaces::instance();
+    QCOMPARE(namespaces.prefixFor(QStringLiteral(SOAPv11_ENVELOPE)), QStringLiteral("SOAP-ENV"));
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:a")).isEmpty());
+    namespaces.registerNamespace(QStringLiteral("p"), QStringLiteral("urn:a"));
+    namespaces.registerNamespace(QStringLiteral("p"), QStringLiteral("urn:b"));
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:a")).isEmpty());
+    QCOMPARE(namespaces.prefixFor(QStringLiteral("urn:b")), QStringLiteral("p"));
+    for (const char* prefix : {"xsi", "a:b", "", "xmlfoo"}) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot stand for \"urn:c\"")));
+        namespaces.registerNamespace(QLatin1String(prefix), QStringLiteral("urn:c"));
+    }
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:c")).isEmpty());
+}
+
+Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapQName)
+TOLVAN_CORE_TEST_MAIN(SoapTypesTest)
+#include "tst_soap_types.moc"
