@@ -31,7 +31,7 @@ QString uriOf(const QDomAttr& attribute)
 {
     if (!attribute.namespaceURI().isEmpty())
         return attribute.namespaceURI();
-    const QString name = attribute.name();
+    const QString name = attribute.nodeName();
     if (name.startsWith(QLatin1String("SOAP-ENC:")))
         return SoapUris::Encoding;
     if (name.startsWith(QLatin1String("xsi:")))
