@@ -1,0 +1,94 @@
+#include "HttpLoopback.h"
+
+#include <QPointer>
+#include <QSslSocket>
+#include <QTimer>
+
+QByteArray HttpLoopback::Request::header(const QByteArray& name) const
+{
+    const QList<QByteArray> lines = headers.split('\n');
+    for (const QByteArray& one : lines) {
+        const int colon = one.indexOf(':');
+        if (one.left(colon).trimmed().toLower() == name.toLower())
+            return one.mid(colon + 1).trimmed();
+    }
+    return QByteArray();
+}
+
+HttpLoopback::HttpLoopback()
+{
+    if (!listen(QHostAddress::LocalHost))
+        qFatal("no loopback port: %s", qPrintable(errorString()));
+}
+
+void HttpLoopback::secure(const QSslCertificate& certificate, const QSslKey& key)
+{
+    m_certificate = certificate;
+    m_key = key;
+}
+
+void HttpLoopback::incomingConnection(qintptr handle)
+{
+    ++connections;
+    auto* const socket = new QSslSocket(this);
+    socket->setSocketDescriptor(handle);
+    if (!m_key.isNull()) {
+        socket->setLocalCertificate(m_certificate);
+        socket->setPrivateKey(m_key);
+        socket->startServerEncryption();
+    }
+    connect(socket, &QSslSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
+    connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
+}
+
+void HttpLoopback::onReadyRead(QTcpSocket* socket)
+{
+    QByteArray received = socket->property("received").toByteArray() + socket->readAll();
+    socket->setProperty("received", received);
+    const int end = received.indexOf("\r\n\r\n");
+    if (end < 0)
+        return;
+    Request request;
+    request.line = received.left(received.indexOf("\r\n"));
+    request.headers = received.mid(request.line.size() + 2, end - request.line.size() - 2);
+    request.body = received.mid(end + 4);
+    if (request.body.size() < request.header("Content-Length").toInt())
+        return;
+    socket->setProperty("received", QByteArray());
+    requests.append(request);
+    send(socket);
+}
+
+void HttpLoopback::send(QTcpSocket* socket)
+{
+    if (answer.silent)
+        return;
+    const qint64 length = answer.claimed < 0 ? answer.body.size() : answer.claimed;
+    QByteArray text = "HTTP/1.1 " + answer.status + "\r\nContent-Type: " + answer.contentType;
+    if (!answer.endless)
+        text += "\r\nContent-Length: " + QByteArray::number(length);
+    text = answer.rawBody ? answer.body : text + "\r\n\r\n" + answer.body;
+    if (answer.dripMs > 0) {
+        const int body = text.indexOf("\r\n\r\n") + 4;
+        socket->write(text.left(body));
+        text.remove(0, body);
+        auto* const timer = new QTimer(socket);
+        connect(timer, &QTimer::timeout, socket, [socket, text, at = 0]() mutable {
+            if (at < text.size())
+                socket->write(text.constData() + at++, 1);
+        });
+        timer->start(answer.dripMs);
+        return;
+    }
+    socket->write(answer.sent < 0 ? text : text.left(answer.sent));
+    if (answer.sent >= 0)
+        socket->disconnectFromHost();
+    if (answer.endless) {
+        const auto more = [this, socket] {
+            while (socket->bytesToWrite() < 1024 * 1024)
+                written += socket->write(QByteArray(65536, ' '));
+        };
+        connect(socket, &QTcpSocket::bytesWritten, socket, more);
+        more();
+    }
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QList>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QTcpServer>
+
+class QTcpSocket;
+
+/// A small HTTP server inside the test program, on a free port of the loopback interface, that can misbehave.
+class HttpLoopback : public QTcpServer
+{
+    Q_OBJECT
+
+public:
+    struct Request {
+        QByteArray line;    ///< "POST /path HTTP/1.1"
+        QByteArray headers; ///< the lines behind it, as sent
+        QByteArray body;
+
+        /// Value of a header, whatever its case; null when it is missing.
+        QByteArray header(const QByteArray& name) const;
+    };
+
+    /// How requests are answered; the first three parts make a good answer.
+    struct Answer {
+        QByteArray status = "200 OK";
+        QByteArray contentType = "text/xml; charset=utf-8";
+        QByteArray body;
+        qint64 claimed = -1;  ///< Content-Length to send instead of the body's
+        int sent = -1;        ///< close after so many bytes of the answer
+        int dripMs = 0;       ///< send one byte of the body each so many milliseconds
+        bool silent = false;  ///< never answer
+        bool endless = false; ///< go on sending blanks
+        bool rawBody = false; ///< the body is the whole answer
+    };
+
+    HttpLoopback();
+
+    /// Speaks TLS from now on.
+    void secure(const QSslCertificate& certificate, const QSslKey& key);
+
+    Answer answer;
+    QList<Request> requests;
+    int connections = 0;
+    qint64 written = 0; ///< bytes of endless answers
+
+protected:
+    void incomingConnection(qintptr handle) override;
+
+private:
+    void onReadyRead(QTcpSocket* socket);
+    void send(QTcpSocket* socket);
+
+    QSslCertificate m_certificate;
+    QSslKey m_key;
+};
