@@ -1,0 +1,48 @@
+<?php
+// The service that the peer tests call, started by them with PHP's own web server. RPC/encoded, without a description.
+class Service
+{
+    // What the service understood of its arguments: type and value of each.
+    public function describe(...$arguments)
+    {
+        $texts = array_map(fn($a) => gettype($a) . ' ' . json_encode($a, JSON_UNESCAPED_UNICODE | JSON_UNESCAPED_SLASHES), $arguments);
+        return implode('|', $texts);
+    }
+
+    public function echo($value)
+    {
+        return $value;
+    }
+
+    // The same text as a value of another type: the service writes what it is asked for.
+    public function typed($text, $type)
+    {
+        return new SoapVar($text, $type);
+    }
+
+    public function people($count)
+    {
+        $people = [];
+        for ($k = 0; $k < $count; ++$k) {
+            $address = (object)['city' => "City <$k>", 'zip' => $k, 'tags' => ['a', 'b']];
+            $people[] = new SoapVar((object)['name' => "Person $k", 'active' => $k % 2 == 0, 'height' => $k / 4,
+                                             'address' => $address, 'note' => null], SOAP_ENC_OBJECT);
+        }
+        return $people;
+    }
+
+    public function shared()
+    {
+        $person = (object)['name' => 'once'];
+        return [$person, $person];
+    }
+
+    public function fail($text)
+    {
+        throw new SoapFault('Server', $text, null, (object)['code' => 7, 'where' => (object)['line' => 'a & b']], 'failDetail');
+    }
+}
+
+$server = new SoapServer(null, ['uri' => 'urn:example:peer', 'encoding' => 'UTF-8']);
+$server->setClass('Service');
+$server->handle();

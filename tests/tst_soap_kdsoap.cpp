@@ -1,0 +1,234 @@
+#include "SoapCall.h"
+#include "TestMain.h"
+
+#ifdef TOLVAN_HAVE_KDSOAP
+#include <KDSoapServer/KDSoapServer.h>
+#include <KDSoapServer/KDSoapServerObjectInterface.h>
+#endif
+
+#include <QDateTime>
+
+using namespace TOLVAN_NAMESPACE;
+
+#ifdef TOLVAN_HAVE_KDSOAP
+namespace
+{
+
+const QString schema = QStringLiteral("http://www.w3.org/2001/XMLSchema");
+const QString service = QStringLiteral("urn:example:peer");
+
+/// What the peer understood of a value: name, type, text, children.
+QString described(const KDSoapValue& value)
+{
+    QStringList children;
+    const KDSoapValueList& values = value.childValues();
+    for (const KDSoapValue& child : values)
+        children += described(child);
+    QString text =
+        value.name() + QLatin1Char(':') + value.type() + QLatin1Char('=') + value.value().toString();
+    if (value.isNil())
+        text += QStringLiteral("nil");
+    return children.isEmpty() ? text
+                              : text + QLatin1Char('{') + children.join(QLatin1Char(' ')) + QLatin1Char('}');
+}
+
+class Service : public QObject, public KDSoapServerObjectInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(KDSoapServerObjectInterface)
+
+public:
+    void processRequest(const KDSoapMessage& request, KDSoapMessage& response,
+                        const QByteArray& action) override
+    {
+        response.setUse(KDSoapMessage::EncodedUse);
+        response.setNamespaceUri(service);
+        if (request.name() == QStringLiteral("describe")) {
+            const QString text = QString::fromUtf8(action) + QLatin1Char(' ') + request.namespaceUri() +
+                                 QLatin1Char(' ') + described(request);
+            response = KDSoapValue(QStringLiteral("describeResponse"), QVariant());
+            response.addArgument(QStringLiteral("return"), text, schema, QStringLiteral("string"));
+        } else if (request.name() == QStringLiteral("echo")) {
+            response = KDSoapValue(QStringLiteral("echoResponse"), request.childValues());
+        } else if (request.name() == QStringLiteral("types")) {
+            types(response);
+        } else {
+            response.setFault(true);
+            response.addArgument(QStringLiteral("faultcode"), QStringLiteral("SOAP-ENV:Client.Unknown"));
+            response.addArgument(QStringLiteral("faultstring"), QStringLiteral("no <such> method & more"));
+            KDSoapValueList detail;
+            detail.addArgument(QStringLiteral("name"), request.name(), schema, QStringLiteral("string"));
+            response.addArgument(QStringLiteral("detail"), detail);
+        }
+    }
+
+private:
+    static void types(KDSoapMessage& response)
+    {
+        response = KDSoapValue(QStringLiteral("typesResponse"), QVariant());
+        KDSoapValueList values;
+        const auto add = [&values](const char* type, const QVariant& value) {
+            values.addArgument(QLatin1String(type), value, schema, QLatin1String(type));
+        };
+        add("boolean", true);
+        add("int", std::numeric_limits<int>::min());
+        add("long", std::numeric_limits<qlonglong>::min());
+        add("unsignedLong", std::numeric_limits<qulonglong>::max());
+        add("double", 0.1);
+        add("string", QStringLiteral(" a&<>\"'\nü\U0001F5BC "));
+        add("dateTime", QDateTime(QDate(2021, 3, 4), QTime(5, 6, 7), Qt::UTC));
+        add("base64Binary", QByteArray("\x00\x01\xFF", 3));
+        KDSoapValue nil(QStringLiteral("nil"), QVariant());
+        nil.setNillable(true);
+        values.append(nil);
+        KDSoapValueList people;
+        for (int k = 0; k < 3; ++k) {
+            KDSoapValueList person;
+            person.addArgument(QStringLiteral("name"), QStringLiteral("Person %1").arg(k), schema,
+                               QStringLiteral("string"));
+            people.append(KDSoapValue(QStringLiteral("item"), person, service, QStringLiteral("Person")));
+        }
+        people.setArrayType(service, QStringLiteral("Person"));
+        values.append(KDSoapValue(QStringLiteral("people"), people));
+        response.addArgument(QStringLiteral("return"), values);
+    }
+};
+
+class Server : public KDSoapServer
+{
+    Q_OBJECT
+
+public:
+    Server()
+    {
+        setUse(KDSoapMessage::EncodedUse);
+        setPath(QStringLiteral("/peer"));
+    }
+    QObject* createServerObject() override { return new Service; }
+};
+
+} // namespace
+#endif
+
+/// Another make of SOAP: a server of KD SOAP, in this process.
+class SoapKdSoapTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+#ifdef TOLVAN_HAVE_KDSOAP
+    void understandsRequests();
+    void valuesComeBack();
+    void typesOfTheService();
+    void faults();
+
+private:
+    QtSoapMessage ask(QtSoapMessage& message)
+    {
+        return SoapCall::ask(m_server.serverPort(), QStringLiteral("/peer"), message);
+    }
+
+    Server m_server;
+#endif
+};
+
+void SoapKdSoapTest::initTestCase()
+{
+#ifdef TOLVAN_HAVE_KDSOAP
+    QVERIFY(m_server.listen(QHostAddress::LocalHost));
+#else
+    QSKIP("KD SOAP (libkdsoap-dev) was not installed when this program was built");
+#endif
+}
+
+#ifdef TOLVAN_HAVE_KDSOAP
+void SoapKdSoapTest::understandsRequests()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("describe"), service);
+    message.addMethodArgument(QStringLiteral("a"), QString(), -7);
+    message.addMethodArgument(QStringLiteral("b"), QString(), true, 0);
+    message.addMethodArgument(QStringLiteral("c"), QString(), QStringLiteral("x & <y>"));
+    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("d"))));
+    message.addMethodArgument(
+        SoapCall::typed(QStringLiteral("e"), QStringLiteral("double"), QStringLiteral("2.5")));
+    auto* const list = new QtSoapArray(QtSoapQName(QStringLiteral("f")));
+    for (int k = 0; k < 2; ++k) {
+        auto* const item = new QtSoapStruct(QtSoapQName(QStringLiteral("g")));
+        item->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("h")), k));
+        list->append(item);
+    }
+    message.addMethodArgument(list);
+
+    QtSoapHttpTransport transport;
+    transport.setHost(QStringLiteral("127.0.0.1"), m_server.serverPort());
+    transport.setAction(QStringLiteral("urn:act"));
+    QSignalSpy answered(&transport, SIGNAL(responseReady()));
+    transport.submitRequest(message, QStringLiteral("/peer"));
+    QVERIFY(answered.wait(20000));
+    QCOMPARE(
+        transport.getResponse().returnValue().toString(),
+        QStringLiteral("urn:act urn:example:peer describe:={a:int=-7 b:boolean=true c:string=x & <y> d:=nil "
+                       "e:double=2.5 f:Array={g:={h:int=0} g:={h:int=1}}}"));
+}
+
+void SoapKdSoapTest::valuesComeBack()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("echo"), service);
+    const QString text = QStringLiteral(" a&<>\"'\t\nä日\U0001F5BC ");
+    message.addMethodArgument(QStringLiteral("t"), QString(), text);
+    message.addMethodArgument(QStringLiteral("n"), QString(), std::numeric_limits<int>::max());
+    auto* const outer = new QtSoapStruct(QtSoapQName(QStringLiteral("outer")));
+    auto* const inner = new QtSoapStruct(QtSoapQName(QStringLiteral("inner")));
+    inner->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("deep")), false, 0));
+    outer->insert(inner);
+    message.addMethodArgument(outer);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    QCOMPARE(answer.method().name().name(), QStringLiteral("echoResponse"));
+    QCOMPARE(answer.returnValue().toString(), text);
+    QCOMPARE(answer.method()[1].value(), QVariant(std::numeric_limits<int>::max()));
+    QCOMPARE(answer.method()[QStringLiteral("outer")][QStringLiteral("inner")][0].value(), QVariant(false));
+}
+
+void SoapKdSoapTest::typesOfTheService()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("types"), service);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    const QtSoapType& value = answer.returnValue();
+    const QVariantList expected{true,
+                                std::numeric_limits<int>::min(),
+                                std::numeric_limits<qlonglong>::min(),
+                                std::numeric_limits<qulonglong>::max(),
+                                0.1,
+                                QStringLiteral(" a&<>\"'\nü\U0001F5BC "),
+                                QStringLiteral("2021-03-04T05:06:07Z"),
+                                QStringLiteral("AAH/"),
+                                QVariant()};
+    for (int k = 0; k < expected.size(); ++k) {
+        QCOMPARE(value[k].value(), expected.at(k));
+        QCOMPARE(int(value[k].value().type()), int(expected.at(k).type()));
+    }
+    QCOMPARE(value[QStringLiteral("people")].type(), QtSoapType::Array);
+    QCOMPARE(value[QStringLiteral("people")][2][QStringLiteral("name")].toString(),
+             QStringLiteral("Person 2"));
+}
+
+void SoapKdSoapTest::faults()
+{
+    QtSoapMessage message;
+    message.setMethod(QStringLiteral("nothing"), service);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY(answer.isFault());
+    QCOMPARE(answer.faultCode(), QtSoapMessage::Client);
+    QCOMPARE(answer.faultString().toString(), QStringLiteral("no <such> method & more"));
+    QCOMPARE(answer.faultDetail()[QStringLiteral("name")].toString(), QStringLiteral("nothing"));
+}
+#endif
+
+TOLVAN_CORE_TEST_MAIN(SoapKdSoapTest)
+#include "tst_soap_kdsoap.moc"

@@ -1,0 +1,291 @@
+#include "SoapCall.h"
+#include "TestMain.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+QtSoapMessage request(const char* method)
+{
+    QtSoapMessage message;
+    message.setMethod(QLatin1String(method), QStringLiteral("urn:example:peer"));
+    return message;
+}
+
+/// The raw form in which the service is to write its result.
+QString resultAs(const char* type, const char* text)
+{
+    return QStringLiteral("<return xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
+                          "xmlns:xsd='http://www.w3.org/2001/XMLSchema' xsi:type='xsd:%1'>%2</return>")
+        .arg(QLatin1String(type), QString::fromUtf8(text));
+}
+
+constexpr int anyXml = 147; // XSD_ANYXML of PHP: the text is written as it is
+
+} // namespace
+
+/// Another make of SOAP: the server classes of PHP, in a process of their own.
+class SoapPhpTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void understandsArguments();
+    void textsComeBack_data();
+    void textsComeBack();
+    void typesOfTheService_data();
+    void typesOfTheService();
+    void structsAndArrays();
+    void arraysOfRanks_data();
+    void arraysOfRanks();
+    void people();
+    void sharedValues();
+    void faults();
+
+private:
+    QtSoapMessage ask(QtSoapMessage& message) { return SoapCall::ask(m_port, QStringLiteral("/"), message); }
+
+    QProcess m_php;
+    quint16 m_port = 0;
+};
+
+void SoapPhpTest::initTestCase()
+{
+    const QString php = QStandardPaths::findExecutable(QStringLiteral("php"));
+    if (php.isEmpty())
+        QSKIP("PHP (php-cli) is not installed");
+    QProcess modules;
+    modules.start(php, {QStringLiteral("-m")});
+    QVERIFY(modules.waitForFinished());
+    if (!modules.readAllStandardOutput().contains("soap"))
+        QSKIP("the SOAP classes of PHP (php-soap) are not installed");
+    {
+        QTcpServer probe;
+        QVERIFY(probe.listen(QHostAddress::LocalHost));
+        m_port = probe.serverPort();
+    }
+    m_php.setProcessChannelMode(QProcess::MergedChannels);
+    m_php.start(php, {QStringLiteral("-S"), QStringLiteral("127.0.0.1:%1").arg(m_port),
+                      QFINDTESTDATA("peers/soap_service.php")});
+    QVERIFY(m_php.waitForStarted());
+    const auto answers = [this] {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, m_port);
+        return socket.waitForConnected(200);
+    };
+    QVERIFY2(QTest::qWaitFor(answers, 20000), m_php.readAll().constData());
+}
+
+void SoapPhpTest::cleanupTestCase()
+{
+    m_php.kill();
+    m_php.waitForFinished();
+}
+
+void SoapPhpTest::understandsArguments()
+{
+    QtSoapMessage message = request("describe");
+    message.addMethodArgument(QStringLiteral("a"), QString(), -2147483647 - 1);
+    message.addMethodArgument(QStringLiteral("b"), QString(), true, 0);
+    message.addMethodArgument(QStringLiteral("c"), QString(), false, 0);
+    message.addMethodArgument(QStringLiteral("d"), QString(), QStringLiteral("12"));
+    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("e"))));
+    message.addMethodArgument(
+        SoapCall::typed(QStringLiteral("f"), QStringLiteral("double"), QStringLiteral("30.48")));
+    message.addMethodArgument(
+        SoapCall::typed(QStringLiteral("g"), QStringLiteral("long"), QStringLiteral("-9223372036854775808")));
+    message.addMethodArgument(
+        SoapCall::typed(QStringLiteral("h"), QStringLiteral("base64Binary"), QStringLiteral("R3LDtsOfZQ==")));
+    auto* const person = new QtSoapStruct(QtSoapQName(QStringLiteral("p")));
+    person->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("name")), QStringLiteral("Ada")));
+    person->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("level")), 3));
+    message.addMethodArgument(person);
+    auto* const line = new QtSoapArray(QtSoapQName(QStringLiteral("l")));
+    line->append(new QtSoapSimpleType(QtSoapQName(), 7));
+    line->append(new QtSoapSimpleType(QtSoapQName(), 8));
+    message.addMethodArgument(line);
+    QCOMPARE(
+        ask(message).returnValue().toString().split(QLatin1Char('|')),
+        QStringLiteral(
+            "integer -2147483648|boolean true|boolean false|string \"12\"|NULL null|double 30.48|"
+            "integer -9223372036854775808|string \"Größe\"|object {\"name\":\"Ada\",\"level\":3}|array [7,8]")
+            .split(QLatin1Char('|')));
+}
+
+void SoapPhpTest::textsComeBack_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("markup") << QStringLiteral("a<b>&amp;\"c\"'d'<![CDATA[x]]>");
+    QTest::newRow("beyond ASCII") << QStringLiteral("äöß 日本 \U0001F5BC");
+    QTest::newRow("white space") << QStringLiteral("  a\n\tb\r\nc  ");
+    QTest::newRow("empty") << QString(QLatin1String(""));
+    QTest::newRow("1 MB") << QString(1000000, QLatin1Char('x'));
+}
+
+void SoapPhpTest::textsComeBack()
+{
+    QFETCH(QString, text);
+    QtSoapMessage message = request("echo");
+    message.addMethodArgument(QStringLiteral("value"), QString(), text);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    QCOMPARE(answer.returnValue().value(), QVariant(text));
+}
+
+void SoapPhpTest::typesOfTheService_data()
+{
+    QTest::addColumn<QString>("raw");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char* type, const char* text, const QVariant& value) {
+        QTest::addRow("%s %s", type, text) << resultAs(type, text) << value;
+    };
+    for (const char* truth : {"true", "1"})
+        row("boolean", truth, true);
+    for (const char* truth : {"false", "0"})
+        row("boolean", truth, false);
+    row("int", "2147483647", 2147483647);
+    row("long", "9223372036854775807", std::numeric_limits<qlonglong>::max());
+    row("unsignedLong", "18446744073709551615", std::numeric_limits<qulonglong>::max());
+    row("double", "-1.7976931348623157E308", -std::numeric_limits<double>::max());
+    row("float", "INF", std::numeric_limits<double>::infinity());
+    row("dateTime", "2021-03-04T05:06:07.5+02:00", QStringLiteral("2021-03-04T05:06:07.5+02:00"));
+    row("date", "2021-03-04", QStringLiteral("2021-03-04"));
+    row("base64Binary", "AAEC/w==", QStringLiteral("AAEC/w=="));
+    row("string", "   ", QStringLiteral("   "));
+    row("string", "<![CDATA[<&>]]>&#228;", QStringLiteral("<&>ä"));
+}
+
+void SoapPhpTest::typesOfTheService()
+{
+    QFETCH(QString, raw);
+    QFETCH(QVariant, value);
+    QtSoapMessage message = request("typed");
+    message.addMethodArgument(QStringLiteral("text"), QString(), raw);
+    message.addMethodArgument(QStringLiteral("type"), QString(), anyXml);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    QCOMPARE(answer.returnValue().value(), value);
+    QCOMPARE(int(answer.returnValue().value().type()), int(value.type()));
+}
+
+void SoapPhpTest::structsAndArrays()
+{
+    auto* const outer = new QtSoapStruct(QtSoapQName(QStringLiteral("value")));
+    auto* const inner = new QtSoapStruct(QtSoapQName(QStringLiteral("inner")));
+    inner->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("deep")), QStringLiteral("a & b")));
+    inner->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nothing"))));
+    outer->insert(inner);
+    auto* const list = new QtSoapArray(QtSoapQName(QStringLiteral("list")));
+    for (int k = 0; k < 3; ++k) {
+        auto* const item = new QtSoapStruct(QtSoapQName(QStringLiteral("item")));
+        item->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("k")), k));
+        list->append(item);
+    }
+    outer->insert(list);
+    QtSoapMessage message = request("echo");
+    message.addMethodArgument(outer);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    const QtSoapType& value = answer.returnValue();
+    QCOMPARE(value[QStringLiteral("inner")][QStringLiteral("deep")].toString(), QStringLiteral("a & b"));
+    QVERIFY(value[QStringLiteral("inner")][QStringLiteral("nothing")].isValid());
+    QVERIFY(!value[QStringLiteral("inner")][QStringLiteral("nothing")].value().isValid());
+    QCOMPARE(value[QStringLiteral("list")].count(), 3);
+    QCOMPARE(value[QStringLiteral("list")][2][QStringLiteral("k")].value(), QVariant(2));
+}
+
+void SoapPhpTest::arraysOfRanks_data()
+{
+    QTest::addColumn<int>("rank");
+    QTest::addColumn<bool>("sparse");
+    QTest::addColumn<QString>("understood");
+    QTest::newRow("1") << 1 << false << "array [0,1]";
+    QTest::newRow("2") << 2 << false << "array [[0,1],[2,3]]";
+    QTest::newRow("3") << 3 << false << "array [[[0,1],[2,3]],[[4,5],[6,7]]]";
+    QTest::newRow("4") << 4 << false
+                       << "array [[[[0,1],[2,3]],[[4,5],[6,7]]],[[[8,9],[10,11]],[[12,13],[14,15]]]]";
+    QTest::newRow("1, sparse") << 1 << true << R"(array {"1":1})";
+    QTest::newRow("2, sparse") << 2 << true << R"(array {"1":{"1":3}})";
+    QTest::newRow("3, sparse") << 3 << true << R"(array {"1":{"1":{"1":7}}})";
+}
+
+void SoapPhpTest::arraysOfRanks()
+{
+    QFETCH(int, rank);
+    QFETCH(bool, sparse);
+    QFETCH(QString, understood);
+    const auto size = [rank](int dimension) { return dimension < rank ? 2 : -1; };
+    auto* const array = new QtSoapArray(QtSoapQName(QStringLiteral("a")), QtSoapType::Int, size(0), size(1),
+                                        size(2), size(3));
+    const int items = 1 << rank;
+    for (int k = sparse ? items - 1 : 0; k < items; ++k)
+        array->insert(k, new QtSoapSimpleType(QtSoapQName(), k));
+    QtSoapMessage message = request("describe");
+    message.addMethodArgument(array);
+    const QtSoapMessage answer = ask(message);
+    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
+    QCOMPARE(answer.returnValue().toString(), understood);
+
+    if (sparse)
+        return;                           // a sparse array comes back as a list of keys and values
+    QtSoapMessage echo = request("echo"); // comes back as arrays of arrays
+    echo.addMethodArgument(new QtSoapArray(static_cast<const QtSoapArray&>(*array)));
+    const QtSoapMessage echoed = ask(echo);
+    const QtSoapType* value = &echoed.returnValue();
+    for (int k = 0; k < rank; ++k)
+        value = &(*value)[value->count() - 1];
+    QCOMPARE(value->value(), QVariant(items - 1));
+}
+
+void SoapPhpTest::people()
+{
+    QtSoapMessage message = request("people");
+    message.addMethodArgument(QStringLiteral("count"), QString(), 50);
+    const QtSoapMessage answer = ask(message);
+    const QtSoapType& all = answer.returnValue();
+    QCOMPARE(all.count(), 50);
+    const QtSoapType& last = all[49];
+    QCOMPARE(last[QStringLiteral("name")].toString(), QStringLiteral("Person 49"));
+    QCOMPARE(last[QStringLiteral("active")].value(), QVariant(false));
+    QCOMPARE(last[QStringLiteral("height")].value(), QVariant(12.25));
+    QCOMPARE(last[QStringLiteral("address")][QStringLiteral("city")].toString(), QStringLiteral("City <49>"));
+    QCOMPARE(last[QStringLiteral("address")][QStringLiteral("tags")][1].toString(), QStringLiteral("b"));
+    QVERIFY(last[QStringLiteral("note")].isValid() && !last[QStringLiteral("note")].value().isValid());
+}
+
+void SoapPhpTest::sharedValues()
+{
+    QtSoapMessage message = request("shared");
+    const QtSoapMessage answer = ask(message);
+    QCOMPARE(answer.returnValue().count(), 2);
+    QCOMPARE(answer.returnValue()[0][QStringLiteral("name")].toString(), QStringLiteral("once"));
+    QVERIFY(!answer.returnValue()[0].id().isEmpty());
+    QCOMPARE(answer.returnValue()[1].href(), QLatin1Char('#') + answer.returnValue()[0].id());
+}
+
+void SoapPhpTest::faults()
+{
+    QtSoapMessage message = request("fail");
+    message.addMethodArgument(QStringLiteral("text"), QString(), QStringLiteral("no <way> & \"no\" ö"));
+    const QtSoapMessage answer = ask(message);
+    QVERIFY(answer.isFault());
+    QCOMPARE(answer.faultCode(), QtSoapMessage::Server);
+    QCOMPARE(answer.faultString().toString(), QStringLiteral("no <way> & \"no\" ö"));
+    const QtSoapType& detail = answer.faultDetail();
+    QCOMPARE(detail[QStringLiteral("code")].toInt(), 7);
+    QCOMPARE(detail[QStringLiteral("where")][QStringLiteral("line")].toString(), QStringLiteral("a & b"));
+    QtSoapMessage unknown = request("noSuchMethod");
+    const QtSoapMessage refused = ask(unknown);
+    QVERIFY(refused.isFault() && refused.faultString().toString().contains(QStringLiteral("noSuchMethod")));
+}
+
+TOLVAN_CORE_TEST_MAIN(SoapPhpTest)
+#include "tst_soap_php.moc"
