@@ -13,7 +13,8 @@ QtSmartPtr<QtSoapType> copySoapValue(const QtSmartPtr<QtSoapType>& value)
 {
     if (value.isNull())
         return value;
-    const std::type_info& type = typeid(*value.ptr());
+    const QtSoapType& original = *value;
+    const std::type_info& type = typeid(original);
     if (type == typeid(QtSoapSimpleType))
         return new QtSoapSimpleType(static_cast<const QtSoapSimpleType&>(*value));
     if (type == typeid(QtSoapStruct))

@@ -11,13 +11,14 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr QLatin1String xsi("xsi");
-constexpr QLatin1String encodingPrefix("SOAP-ENC");
-constexpr SoapAttributeName typeAttribute{xsi, QLatin1String("type"), SoapUris::SchemaInstance};
-constexpr SoapAttributeName nilAttribute{xsi, QLatin1String("nil"), SoapUris::SchemaInstance};
-constexpr SoapAttributeName arrayTypeAttribute{encodingPrefix, QLatin1String("arrayType"),
+constexpr QLatin1String xsi = SoapUris::literal("xsi");
+constexpr QLatin1String encodingPrefix = SoapUris::literal("SOAP-ENC");
+constexpr SoapAttributeName typeAttribute{xsi, SoapUris::literal("type"), SoapUris::SchemaInstance};
+constexpr SoapAttributeName nilAttribute{xsi, SoapUris::literal("nil"), SoapUris::SchemaInstance};
+constexpr SoapAttributeName arrayTypeAttribute{encodingPrefix, SoapUris::literal("arrayType"),
                                                SoapUris::Encoding};
-constexpr SoapAttributeName positionAttribute{encodingPrefix, QLatin1String("position"), SoapUris::Encoding};
+constexpr SoapAttributeName positionAttribute{encodingPrefix, SoapUris::literal("position"),
+                                              SoapUris::Encoding};
 
 QString bracketed(const QVector<int>& numbers)
 {

@@ -16,7 +16,7 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr SoapAttributeName encodingStyle{QLatin1String("SOAP-ENV"), QLatin1String("encodingStyle"),
+constexpr SoapAttributeName encodingStyle{SoapUris::literal("SOAP-ENV"), SoapUris::literal("encodingStyle"),
                                           SoapUris::Envelope};
 
 const char* const faultCodes[] = {"VersionMismatch", "MustUnderstand", "Client", "Server"};

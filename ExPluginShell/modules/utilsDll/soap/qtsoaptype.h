@@ -188,6 +188,7 @@ protected:
     static const QtSoapType& missingConst();
 
 private:
+    friend class QtSoapMessage;
     friend class SoapValueReader;
     std::unique_ptr<QtSoapType> m_missing;
 };
