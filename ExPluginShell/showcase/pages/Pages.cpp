@@ -11,5 +11,8 @@ QVector<Page> pages()
         {"style", QT_TRANSLATE_NOOP("Pages", "Look"),
          QT_TRANSLATE_NOOP("Pages", "Every standard widget under the product's style and style sheets."),
          &makeStylePage},
+        {"web-service", QT_TRANSLATE_NOOP("Pages", "Web service"),
+         QT_TRANSLATE_NOOP("Pages", "A SOAP client and the small service that it asks, both in this process."),
+         &makeWebServicePage},
     };
 }

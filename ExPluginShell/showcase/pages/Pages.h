@@ -21,3 +21,4 @@ QVector<Page> pages();
 // Each page's factory stands in its own source file.
 QWidget* makeLoggingPage(QWidget* parent);
 QWidget* makeStylePage(QWidget* parent);
+QWidget* makeWebServicePage(QWidget* parent);

@@ -9,5 +9,6 @@ QVector<Section> sections()
         {"Application state and process", &showState},
         {"Resource bundles", &showBundles},
         {"Languages", &showLanguages},
+        {"Web service", &showWebService},
     };
 }

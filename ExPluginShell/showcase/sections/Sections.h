@@ -19,3 +19,4 @@ void showSettings(Report& report);
 void showState(Report& report);
 void showBundles(Report& report);
 void showLanguages(Report& report);
+void showWebService(Report& report);
