@@ -28,6 +28,8 @@ packages_of() {
     test)
         echo libqt5svg5 xvfb openbox libxtst-dev
         echo libxml2-utils
+        # other makes of SOAP; a certificate for a server
+        echo php-cli php-soap libkdsoap-dev openssl
         ;;
     windows)
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb xauth xz-utils
@@ -37,7 +39,7 @@ packages_of() {
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libwine-dev
         ;;
     bench)
-        echo libbenchmark-dev
+        echo libbenchmark-dev libkdsoap-dev
         ;;
     lint | fuzz)
         echo clang clang-format libclang-rt-14-dev shellcheck
