@@ -1,0 +1,139 @@
+#include "platform/FileMoves.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+namespace
+{
+
+fs::path systemPath(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+/// For file systems that don't know the exclusive rename: the target name is claimed first, by a hard link or
+/// an empty folder, which only one process can make.
+bool renameByClaim(const fs::path& from, const fs::path& to)
+{
+    struct stat status = {};
+    if (lstat(from.c_str(), &status) != 0) {
+        return false;
+    }
+    if (!S_ISDIR(status.st_mode)) {
+        return link(from.c_str(), to.c_str()) == 0 && unlink(from.c_str()) == 0;
+    }
+    if (mkdir(to.c_str(), S_IRWXU) != 0) {
+        return false;
+    }
+    if (rename(from.c_str(), to.c_str()) == 0) {
+        return true;
+    }
+    const int reason = errno;
+    rmdir(to.c_str());
+    errno = reason;
+    return false;
+}
+
+/// On failure errno tells why.
+bool renameInPlace(const fs::path& from, const fs::path& to)
+{
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    return (errno == EINVAL || errno == ENOSYS) && renameByClaim(from, to);
+}
+
+/// The content has to be on the disk before the only other copy is deleted.
+void flushToDisk(const fs::path& path)
+{
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file >= 0) {
+        fsync(file);
+        close(file);
+    }
+}
+
+/// \throws fs::filesystem_error, also for what can't be copied (sockets, devices)
+void copyTree(const fs::path& from, const fs::path& to)
+{
+    const fs::file_status status = fs::symlink_status(from);
+    if (fs::is_symlink(status)) {
+        fs::copy_symlink(from, to);
+        return;
+    }
+    if (fs::is_directory(status)) {
+        fs::create_directory(to);
+        for (const fs::directory_entry& entry : fs::directory_iterator(from)) {
+            copyTree(entry.path(), to / entry.path().filename());
+        }
+        fs::permissions(to, status.permissions());
+    } else if (fs::is_regular_file(status)) {
+        fs::copy_file(from, to);
+        flushToDisk(to);
+    } else {
+        throw fs::filesystem_error("not a file or folder", from,
+                                   std::make_error_code(std::errc::not_supported));
+    }
+    fs::last_write_time(to, fs::last_write_time(from));
+}
+
+bool moveByCopying(const QString& from, const QString& to)
+{
+    const fs::path source = systemPath(from);
+    const fs::path target = systemPath(to);
+    struct stat existing = {};
+    if (lstat(target.c_str(), &existing) == 0 || access(source.parent_path().c_str(), W_OK) != 0) {
+        return false;
+    }
+    // Copied in a folder beside the target: the last step is again a rename that replaces nothing.
+    QTemporaryDir beside(QFile::decodeName((target.parent_path() / ".moving-XXXXXX").c_str()));
+    if (!beside.isValid()) {
+        return false;
+    }
+    try {
+        const fs::path copy = systemPath(beside.path()) / "content";
+        copyTree(source, copy);
+        if (!renameInPlace(copy, target)) {
+            return false;
+        }
+    } catch (const fs::filesystem_error&) {
+        return false;
+    }
+    std::error_code error;
+    fs::remove_all(source, error);
+    if (error && !fs::is_directory(target)) {
+        unlink(target.c_str()); // nothing has changed; a folder may be removed in part, so its copy stays
+    }
+    return !error;
+}
+
+} // namespace
+
+bool moveWithoutReplacing(const QString& from, const QString& to)
+{
+    if (from.isEmpty() || to.isEmpty()) {
+        return false;
+    }
+    if (renameInPlace(systemPath(from), systemPath(to))) {
+        return true;
+    }
+    return errno == EXDEV && moveByCopying(from, to);
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,94 @@
+#include "platform/FolderPicker.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPushButton>
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+namespace
+{
+
+bool pickerIsOpen = false; // GUI thread only
+
+/// The toolkit's own file dialog with its accept button replaced: files are to be seen, not chosen.
+class FolderPickerDialog : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    FolderPickerDialog(QWidget* parent, const QString& caption, const QString& dir, const QString& filter)
+        : QFileDialog(parent, caption, dir)
+    {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setFileMode(QFileDialog::ExistingFile);
+        const QString patterns = QString(filter).replace(QLatin1Char(';'), QLatin1Char(' ')).simplified();
+        setNameFilter(
+            QStringLiteral("Image Files (%1)").arg(patterns.isEmpty() ? QStringLiteral("*") : patterns));
+        replaceAcceptButton();
+    }
+
+    /// The folder that was open when the button was pressed.
+    QString folder() const { return m_folder; }
+
+    /// Double click and Enter end here: a folder is entered, a file is left alone.
+    void accept() override
+    {
+        const QStringList chosen = selectedFiles();
+        if (chosen.size() == 1 && QFileInfo(chosen.constFirst()).isDir()) {
+            QFileDialog::accept(); // in this file mode: opens the folder and stays
+        }
+    }
+
+private Q_SLOTS:
+    void takeOpenFolder()
+    {
+        m_folder = QDir::toNativeSeparators(directory().absolutePath());
+        done(QDialog::Accepted);
+    }
+
+private:
+    void replaceAcceptButton()
+    {
+        auto* const box = findChild<QDialogButtonBox*>();
+        auto* const open = box ? box->button(QDialogButtonBox::Open) : nullptr;
+        if (open) {
+            open->hide();
+            open->setDefault(false);
+            open->setAutoDefault(false);
+        }
+        auto* const select = new QPushButton(QStringLiteral("Select Folder"), this);
+        select->setObjectName(QStringLiteral("selectFolderButton"));
+        select->setAutoDefault(false); // Enter in the name field must not choose
+        if (box) {
+            box->addButton(select, QDialogButtonBox::ActionRole);
+        }
+        connect(select, SIGNAL(clicked()), this, SLOT(takeOpenFolder()));
+    }
+
+    QString m_folder;
+};
+
+} // namespace
+
+QString pickFolder(QWidget* parent, const QString& caption, const QString& dir, const QString& filter)
+{
+    if (pickerIsOpen || (!dir.isEmpty() && !QFileInfo(dir).isDir())) {
+        return {};
+    }
+    pickerIsOpen = true;
+    FolderPickerDialog dialog(parent, caption, dir, filter);
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    pickerIsOpen = false;
+    return chosen ? dialog.folder() : QString();
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE
+
+#include "FolderPicker_unix.moc"

@@ -1,0 +1,194 @@
+#include "platform/FileMoves.h"
+#include "platform/KnownFolders.h"
+#include "platform/Trash.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <optional>
+
+// The layout of the freedesktop.org trash specification, version 1.0: a folder with "files" and "info", where
+// "info" holds for each file a text with its old path and the time.
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+namespace
+{
+
+constexpr int longestFileName = 255;
+
+struct TrashFolder {
+    QString path;
+    QString pathsRelativeTo; ///< the top folder of its file system; empty for the user's own trash
+};
+
+std::optional<struct stat> statusOf(const QString& path)
+{
+    struct stat status = {};
+    if (lstat(QFile::encodeName(path).constData(), &status) != 0) {
+        return std::nullopt;
+    }
+    return status;
+}
+
+/// A folder of the user's own that nobody else can read; made when it is missing. A link is not accepted: the
+/// file would leave the file system, or reach another user.
+bool ensurePrivateFolder(const QString& path)
+{
+    const auto before = statusOf(path);
+    if (!before) {
+        return mkdir(QFile::encodeName(path).constData(), S_IRWXU) == 0;
+    }
+    return S_ISDIR(before->st_mode) && before->st_uid == getuid();
+}
+
+bool prepare(const TrashFolder& trash)
+{
+    return ensurePrivateFolder(trash.path) && ensurePrivateFolder(trash.path + QStringLiteral("/files")) &&
+           ensurePrivateFolder(trash.path + QStringLiteral("/info"));
+}
+
+std::optional<TrashFolder> trashOfUser()
+{
+    const QString data = knownFolder(KnownFolder::LocalAppData);
+    const TrashFolder trash{data + QStringLiteral("/Trash"), {}};
+    if (data.isEmpty() || !QDir().mkpath(data) || !prepare(trash)) {
+        return std::nullopt;
+    }
+    return trash;
+}
+
+/// The highest folder above \a folder that is still on the same file system.
+QString topFolder(const QString& folder, dev_t device)
+{
+    QDir top(folder);
+    for (QDir above = top; above.cdUp(); top = above) {
+        const auto status = statusOf(above.path());
+        if (!status || status->st_dev != device) {
+            break;
+        }
+    }
+    return top.path();
+}
+
+std::optional<TrashFolder> trashOfFileSystem(const QString& top)
+{
+    const QString user = QString::number(getuid());
+    const QString shared = QDir(top).filePath(QStringLiteral(".Trash"));
+    const auto status = statusOf(shared);
+    if (status && S_ISDIR(status->st_mode) && (status->st_mode & S_ISVTX)) {
+        const TrashFolder trash{shared + QLatin1Char('/') + user, top};
+        if (prepare(trash)) {
+            return trash;
+        }
+    }
+    const TrashFolder own{QDir(top).filePath(QStringLiteral(".Trash-") + user), top};
+    if (!prepare(own)) {
+        return std::nullopt;
+    }
+    return own;
+}
+
+/// The first free name is that of the file; then a number stands before its suffix. Shortened where the name
+/// of the info file would become too long.
+QByteArray nameInTrash(const QByteArray& fileName, int attempt)
+{
+    const QByteArray number = attempt == 1 ? QByteArray() : '.' + QByteArray::number(attempt);
+    const int dot = fileName.lastIndexOf('.');
+    QByteArray suffix = dot > 0 ? fileName.mid(dot) : QByteArray();
+    QByteArray base = dot > 0 ? fileName.left(dot) : fileName;
+    const int room = longestFileName - static_cast<int>(sizeof ".trashinfo") - number.size();
+    suffix.truncate(room / 2);
+    if (base.size() + suffix.size() > room) {
+        int length = room - suffix.size();
+        while (length > 0 && (static_cast<unsigned char>(base.at(length)) & 0xC0) == 0x80) {
+            --length; // not in the middle of a character
+        }
+        base.truncate(length);
+    }
+    return base + number + suffix;
+}
+
+/// Percent-encoded, so that line feeds, percent signs and bytes that are no text come back as they were.
+QByteArray infoText(const QString& path)
+{
+    return "[Trash Info]\nPath=" + QFile::encodeName(path).toPercentEncoding("/") + "\nDeletionDate=" +
+           QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")).toLatin1() + '\n';
+}
+
+/// Makes the info file, which only one process can do: it claims the name in "files" as well.
+bool claimName(const QString& infoFile, const QByteArray& text, bool& taken)
+{
+    const QByteArray path = QFile::encodeName(infoFile);
+    const int file = open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    taken = file < 0 && errno == EEXIST;
+    if (file < 0) {
+        return false;
+    }
+    const bool written = write(file, text.constData(), static_cast<std::size_t>(text.size())) == text.size();
+    const bool closed = close(file) == 0;
+    if (!written || !closed) {
+        unlink(path.constData());
+    }
+    return written && closed;
+}
+
+bool moveInto(const TrashFolder& trash, const QString& folder, const QString& fileName)
+{
+    const QString path = QDir(folder).filePath(fileName);
+    const QByteArray text =
+        infoText(trash.pathsRelativeTo.isEmpty() ? path : QDir(trash.pathsRelativeTo).relativeFilePath(path));
+    for (int attempt = 1; attempt < 100000; ++attempt) {
+        const QString name = QFile::decodeName(nameInTrash(QFile::encodeName(fileName), attempt));
+        const QString infoFile = trash.path + QStringLiteral("/info/") + name + QStringLiteral(".trashinfo");
+        bool taken = false;
+        if (!claimName(infoFile, text, taken)) {
+            if (taken) {
+                continue;
+            }
+            return false;
+        }
+        const QString target = trash.path + QStringLiteral("/files/") + name;
+        if (moveWithoutReplacing(path, target)) {
+            return true;
+        }
+        QFile::remove(infoFile);
+        if (!statusOf(target)) { // not a left-over file without info, but a move that is refused
+            return false;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool moveToRecycleBin(const QString& path)
+{
+    const QFileInfo file(QDir::cleanPath(path));
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    const auto status = statusOf(file.absoluteFilePath());
+    const auto home = trashOfUser();
+    if (!status || folder.isEmpty() || file.fileName().isEmpty()) {
+        return false;
+    }
+    const auto homeStatus = home ? statusOf(home->path) : std::nullopt;
+    if (!homeStatus || homeStatus->st_dev != status->st_dev) {
+        const auto other = trashOfFileSystem(topFolder(folder, status->st_dev));
+        if (other && moveInto(*other, folder, file.fileName())) {
+            return true;
+        }
+    }
+    return home && moveInto(*home, folder, file.fileName());
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE
