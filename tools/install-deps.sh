@@ -21,6 +21,7 @@ packages_of() {
     build)
         echo g++ cmake ninja-build ccache python3
         echo qtbase5-dev qtbase5-private-dev libqt5svg5-dev libspdlog-dev
+        echo libquazip1-qt5-dev
         # the resource bundles: catalogues, fonts, rendered icons; a font with Chinese and Japanese characters to show them
         echo qttools5-dev-tools qttranslations5-l10n librsvg2-bin
         echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-droid-fallback
@@ -28,8 +29,11 @@ packages_of() {
     test)
         echo libqt5svg5 xvfb openbox libxtst-dev
         echo libxml2-utils
-        # other makes of SOAP; a certificate for a server
+
+# other makes of SOAP; a certificate for a server
         echo php-cli php-soap libkdsoap-dev openssl
+# what reads and writes archives and the trash beside us
+        echo zip unzip p7zip-full libarchive-tools libglib2.0-bin gvfs gvfs-daemons trash-cli dbus
         ;;
     windows)
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb xauth xz-utils

@@ -1,6 +1,7 @@
 #include "ArchiveExtraction.h"
 
 #include "ArchiveNames.h"
+#include "ArchiveSource.h"
 #include "ExtractionFolder.h"
 
 #include <quazip/quazip.h>
@@ -36,7 +37,8 @@ class Extractor
 {
 public:
     Extractor(const QString& archive, const QString& folder, const ArchiveProgress& progress)
-        : m_zip(archive)
+        : m_source(archive)
+        , m_zip(&m_source)
         , m_folder(folder)
         , m_progress(progress)
         , m_rules(nativeNameRules())
@@ -56,6 +58,7 @@ private:
     bool isReadable() const;
     QString entryName() const;
 
+    ArchiveSource m_source;
     QuaZip m_zip;
     ExtractionFolder m_folder;
     const ArchiveProgress& m_progress;

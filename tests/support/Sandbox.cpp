@@ -1,0 +1,82 @@
+#include "Sandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#ifdef Q_OS_LINUX
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+namespace
+{
+constexpr unsigned nobody = 65534;
+} // namespace
+
+OrdinaryUser::OrdinaryUser()
+    : m_changed(getuid() == 0 && setresgid(nobody, nobody, 0) == 0 && setresuid(nobody, nobody, 0) == 0)
+{
+}
+
+OrdinaryUser::~OrdinaryUser()
+{
+    if (m_changed && (setresuid(0, 0, 0) != 0 || setresgid(0, 0, 0) != 0)) {
+        qFatal("the process could not become root again");
+    }
+}
+
+SecondVolume::SecondVolume()
+    : m_path(QDir::temp().filePath(QStringLiteral("volume")))
+{
+    QDir().mkpath(m_path);
+    if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        mount("tmpfs", QFile::encodeName(m_path).constData(), "tmpfs", 0, "mode=777") != 0) {
+        m_problem = QStringLiteral("a second file system can't be mounted (only root may): ") +
+                    QString::fromLocal8Bit(std::strerror(errno));
+    }
+}
+
+SecondVolume::~SecondVolume()
+{
+    if (m_problem.isEmpty()) {
+        umount2(QFile::encodeName(m_path).constData(), MNT_DETACH);
+    }
+}
+
+#else
+
+OrdinaryUser::OrdinaryUser() = default;
+OrdinaryUser::~OrdinaryUser() = default;
+
+SecondVolume::SecondVolume()
+    : m_problem(QStringLiteral("there is one volume only on this system"))
+{
+}
+
+SecondVolume::~SecondVolume() = default;
+
+#endif
+
+Outcome runProgram(const QString& program, const QStringList& arguments, const QString& folder,
+                   const QByteArray& input)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setWorkingDirectory(folder);
+    process.start(program, arguments);
+    if (!process.waitForStarted()) {
+        return {-1, "can't start " + program.toUtf8()};
+    }
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, process.readAll()};
+    }
+    return {process.exitCode(), process.readAll()};
+}

@@ -1,0 +1,193 @@
+#include "TestMain.h"
+
+#include <utilsDll/FileManagement.h>
+
+#include <QDir>
+#include <QRegExp>
+
+using namespace TOLVAN_NAMESPACE;
+
+/// Names that users type, and paths compared as texts.
+class FileNamesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void validity_data();
+    void validity();
+    void deviceNamesAsThePatternsSay();
+    void lengths_data();
+    void lengths();
+    void comparison_data();
+    void comparison();
+    void normalized();
+};
+
+void FileNamesTest::validity_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("asName");
+    QTest::addColumn<bool>("asPath");
+    const bool windows = QDir::separator() == QLatin1Char('\\');
+    const auto row = [](const char* title, const QString& name, bool asName, bool asPath) {
+        QTest::newRow(title) << name << asName << asPath;
+    };
+    const auto text = [](const char* utf8) { return QString::fromUtf8(utf8); };
+    row("empty", QString(), false, false);
+    row("plain", text("photo.jpg"), true, true);
+    row("one blank", text(" "), true, true);
+    row("blanks and dots at the end", text("a. ."), true, true);
+    row("only separators", text("///"), false, true);
+    row("dot", text("."), true, true);
+    row("dot dot", text(".."), false, false);
+    row("dot dot inside", text("a..b"), false, false);
+    row("three dots", text("..."), false, false);
+    row("cleaned away", text("a/../b"), true, true);
+    row("leads up", text("../b"), false, false);
+    row("drive and path", text("C:/Photos/a.jpg"), false, true);
+    row("drive and path, backslashes", text("C:\\Photos\\a.jpg"), false, true);
+    row("slash", text("a/b"), false, true);
+    row("backslash", text("a\\b"), false, true);
+    row("network path", text("//server/share/a"), false, true);
+    for (const char forbidden : QByteArray("<>\"|?*")) {
+        const QByteArray title = QByteArray("contains ") + forbidden;
+        row(title, text("a") + QLatin1Char(forbidden), false, false);
+    }
+    row("colon", text("a:b"), false, true);
+    row("line feed", text("a\nb"), true, true);
+    row("surrogate pair", text("\xF0\x9F\x93\xB7.jpg"), true, true);
+    row("right-to-left override", text("a\xE2\x80\xAEgpj.exe"), true, true);
+    row("device", text("CON"), false, false);
+    row("device in lower case", text("con"), false, false);
+    row("device in mixed case", text("nUl"), false, false);
+    row("device and extension", text("con.txt"), true, true);
+    row("device and colon", text("CON:"), false, true);
+    row("device and blank", text("CON "), true, true);
+    row("COM0", text("COM0"), true, true);
+    row("COM1", text("COM1"), false, false);
+    row("LPT9", text("lpt9"), false, false);
+    row("COM10", text("COM10"), true, true);
+    row("superscript digit", text("COM\xC2\xB9"), true, true);
+    row("device at the end of a path", text("C:/a/nul"), false, false);
+    row("device behind a backslash", text("C:\\a\\nul"), false, false);
+    row("device behind a line feed in the folder", text("a\nb/nul"), false, false);
+    row("device as a folder", text("C:/nul/a"), false, true);
+    row("device and a separator behind it", text("C:/a/nul/"), false, false);
+    row("device and a backslash behind it", text("C:/a/nul\\"), false, !windows);
+}
+
+void FileNamesTest::validity()
+{
+    QFETCH(QString, name);
+    QTEST(validateFileName(name, false), "asName");
+    QTEST(validateFileName(name, true), "asPath");
+}
+
+/// The two patterns of the product are the reference.
+void FileNamesTest::deviceNamesAsThePatternsSay()
+{
+    const QString devices = QStringLiteral("(CON|PRN|AUX|NUL|COM1|COM2|COM3|COM4|COM5|COM6|COM7|COM8|COM9|"
+                                           "LPT1|LPT2|LPT3|LPT4|LPT5|LPT6|LPT7|LPT8|LPT9)");
+    const QRegExp whole(devices, Qt::CaseInsensitive);
+    const QRegExp last(QStringLiteral(".*[/\\\\]") + devices, Qt::CaseInsensitive);
+    const QStringList stems = {QStringLiteral("CON"),
+                               QStringLiteral("con"),
+                               QStringLiteral("CO"),
+                               QStringLiteral("PRN"),
+                               QStringLiteral("aux"),
+                               QStringLiteral("NUL"),
+                               QStringLiteral("COM"),
+                               QStringLiteral("lpt"),
+                               QStringLiteral("LPTT"),
+                               QStringLiteral("\u212AON"),
+                               QString()};
+    int refused = 0;
+    for (const QString& before :
+         {QString(), QStringLiteral("a/"), QStringLiteral("a\\"), QStringLiteral("x")}) {
+        for (const QString& stem : stems) {
+            for (const QString& end : {QString(), QStringLiteral("0"), QStringLiteral("1"),
+                                       QStringLiteral("9"), QStringLiteral("10"), QStringLiteral(".")}) {
+                const QString name = before + stem + end;
+                const QString path = QDir::toNativeSeparators(QDir::cleanPath(name));
+                const bool expected = !path.isEmpty() && !whole.exactMatch(path) && !last.exactMatch(path);
+                QVERIFY2(validateFileName(name, true) == expected, qPrintable(name));
+                refused += !expected;
+            }
+        }
+    }
+    QVERIFY(refused > 20 && refused < 150);
+}
+
+void FileNamesTest::lengths_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("valid");
+    const auto part = [](int length) { return QString(length, QLatin1Char('a')); };
+    const auto path = [&](int length) { // parts of 100 characters
+        QString text;
+        while (text.size() < length) {
+            text += part(99) + QLatin1Char('/');
+        }
+        text.truncate(length);
+        return text.endsWith(QLatin1Char('/')) ? text.chopped(1) + QLatin1Char('a') : text;
+    };
+    QTest::newRow("260 in one part") << part(260) << true;
+    QTest::newRow("261 in one part") << part(261) << false;
+    QTest::newRow("260 as a folder") << part(260) + QStringLiteral("/a") << true;
+    QTest::newRow("261 as a folder") << part(261) + QStringLiteral("/a") << false;
+    QTest::newRow("261 in the middle") << QStringLiteral("/a/") + part(261) + QStringLiteral("/a") << false;
+    QTest::newRow("130 surrogate pairs") << QString::fromUtf8("\xF0\x9F\x93\xB7").repeated(130) << true;
+    QTest::newRow("131 surrogate pairs") << QString::fromUtf8("\xF0\x9F\x93\xB7").repeated(131) << false;
+    QTest::newRow("32766 in all") << path(32766) << true;
+    QTest::newRow("32767 in all") << path(32767) << false;
+    QTest::newRow("32767 that cleaning shortens") << path(32766) + QStringLiteral("/") << true;
+}
+
+void FileNamesTest::lengths()
+{
+    QFETCH(QString, name);
+    QTEST(validateFileName(name, true), "valid");
+}
+
+void FileNamesTest::comparison_data()
+{
+    QTest::addColumn<QString>("a");
+    QTest::addColumn<QString>("b");
+    QTest::addColumn<QVector<bool>>("equal"); // by condition, 4 stands for an unknown one
+    const auto row = [](const char* title, const char* a, const char* b, QVector<bool> equal) {
+        QTest::newRow(title) << QString::fromUtf8(a) << QString::fromUtf8(b) << equal;
+    };
+    row("case", "a/b.jpg", "A/B.JPG", {true, true, true, true, true});
+    row("suffix", "a/b.jpg", "A/B.png", {false, true, false, true, true});
+    row("folder", "a/b.jpg", "c/b.jpg", {false, false, true, true, true});
+    row("cleaned", "a/./x/../b.jpg", "a//b.jpg", {true, true, true, true, true});
+    row("two suffixes", "a/b.tar.gz", "a/b.tar.xz", {false, true, false, true, true});
+    row("no separator between folder and name", "a/bc.jpg", "ab/c.jpg", {false, true, false, false, true});
+    row("umlauts", "\xC3\xA4/\xC3\x96.jpg", "\xC3\x84/\xC3\xB6.jpg", {true, true, true, true, true});
+    row("hidden file", "a/.b", "a/.c", {false, true, false, true, true});
+    row("different", "a/b", "c/d", {false, false, false, false, true});
+}
+
+void FileNamesTest::comparison()
+{
+    QFETCH(QString, a);
+    QFETCH(QString, b);
+    QFETCH(QVector<bool>, equal);
+    for (int condition = 0; condition < equal.size(); ++condition) {
+        const auto value = static_cast<FileCompareCondition>(condition);
+        QVERIFY2(isEqualFileOrDirNames(QFileInfo(a), QFileInfo(b), value) == equal.at(condition),
+                 qPrintable(QString::number(condition)));
+    }
+}
+
+void FileNamesTest::normalized()
+{
+    const QString native = QDir::toNativeSeparators(QStringLiteral("c:/\u00e4/b.jpg"));
+    QCOMPARE(normalizedFilePath(QStringLiteral("C:/\u00c4/B.JPG")), native);
+    QCOMPARE(normalizedFilePath(QStringLiteral("A/../B")),
+             QDir::toNativeSeparators(QStringLiteral("a/../b")));
+    QVERIFY(normalizedFilePath(QString()).isEmpty());
+}
+
+TOLVAN_CORE_TEST_MAIN(FileNamesTest)
+#include "tst_filenames.moc"

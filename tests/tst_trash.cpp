@@ -1,0 +1,213 @@
+#include "FileTree.h"
+#include "Sandbox.h"
+#include "TestMain.h"
+
+#include <utilsDll/FileManagement.h>
+
+#include <QStandardPaths>
+#include <QUrl>
+
+using namespace TOLVAN_NAMESPACE;
+
+/// The recycle bin as other programs see it. The bin is the test's own: it lies in the test's profile.
+class TrashTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void missingFile();
+    void binHoldsTheFile_data();
+    void binHoldsTheFile();
+    void sameNameTwice();
+    void veryLongName();
+    void othersListAndRestore();
+    void anotherFileSystem();
+    void readOnlyFolder();
+
+private:
+    QString path(const QString& name) const { return m_folder->filePath(name); }
+    static QString bin() { return qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Trash"); }
+
+    const SecondVolume m_volume;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TrashTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    QDir(bin()).removeRecursively();
+}
+
+void TrashTest::missingFile()
+{
+    QCOMPARE(int(FileOperationSucceeded), 0);
+    QCOMPARE(int(FileOperationFailed), 2);
+    QCOMPARE(moveFileToTrash(path(QStringLiteral("missing"))), FileOperationFailed);
+    QCOMPARE(moveFileToTrash(QString()), FileOperationFailed);
+    QVERIFY(!QFile::exists(bin())); // not even asked for
+}
+
+void TrashTest::binHoldsTheFile_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name :
+         {"plain.txt", "with blank", "100%", "a%20b%41", "#?&;='\"", "line\nfeed", "\\back",
+          "\xC3\xA4\xE6\x97\xA5\xF0\x9F\x93\xB7", "-dash", ".hidden", "a.tar.gz", "folder/"}) {
+        QTest::newRow(name) << QString::fromUtf8(name);
+    }
+}
+
+void TrashTest::binHoldsTheFile()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+#endif
+    QFETCH(QString, name);
+    const bool isFolder = name.endsWith(QLatin1Char('/'));
+    name.remove(QLatin1Char('/'));
+    const QString file = path(name);
+    FileTree::write(isFolder ? file + QStringLiteral("/inside") : file, "content");
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+    QCOMPARE(moveFileToTrash(file), FileOperationSucceeded);
+    QVERIFY(!QFile::exists(file));
+
+    const QString kept = bin() + QStringLiteral("/files/") + name;
+    QCOMPARE(FileTree::read(isFolder ? kept + QStringLiteral("/inside") : kept), QByteArray("content"));
+    const QList<QByteArray> lines =
+        FileTree::read(bin() + QStringLiteral("/info/") + name + QStringLiteral(".trashinfo")).split('\n');
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.at(0), QByteArray("[Trash Info]"));
+    QVERIFY(lines.at(1).startsWith("Path=/"));
+    QCOMPARE(QFile::decodeName(QByteArray::fromPercentEncoding(lines.at(1).mid(5))),
+             QFileInfo(m_folder->path()).canonicalFilePath() + QLatin1Char('/') + name);
+    for (const char c : lines.at(1)) {
+        QVERIFY(c > ' ' && c < 0x7F);
+    }
+    const auto deleted = QDateTime::fromString(QString::fromLatin1(lines.at(2)),
+                                               QStringLiteral("'DeletionDate='yyyy-MM-ddThh:mm:ss"));
+    QVERIFY(deleted >= before && deleted <= QDateTime::currentDateTime());
+}
+
+void TrashTest::sameNameTwice()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+#endif
+    for (const char* content : {"first", "second", "third"}) {
+        QCOMPARE(moveFileToTrash(FileTree::write(path(QStringLiteral("a.jpg")), content)),
+                 FileOperationSucceeded);
+    }
+    // A left-over file that has no info of its own is not replaced either.
+    FileTree::write(bin() + QStringLiteral("/files/b.jpg"), "stray");
+    QCOMPARE(moveFileToTrash(FileTree::write(path(QStringLiteral("b.jpg")), "b")), FileOperationSucceeded);
+    const auto files = FileTree::of(bin() + QStringLiteral("/files"));
+    QCOMPARE(files.keys().join(QLatin1Char(' ')), QStringLiteral("a.2.jpg a.3.jpg a.jpg b.2.jpg b.jpg"));
+    QCOMPARE(files.value(QStringLiteral("b.jpg")), QByteArray("stray"));
+    QCOMPARE(files.value(QStringLiteral("a.3.jpg")), QByteArray("third"));
+    QCOMPARE(FileTree::of(bin() + QStringLiteral("/info")).size(), 4);
+}
+
+void TrashTest::veryLongName()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+#endif
+    const QString name = QString(125, QChar(0xE4)) + QStringLiteral(".jpeg"); // 255 bytes
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(moveFileToTrash(FileTree::write(path(name))), FileOperationSucceeded);
+    }
+    QCOMPARE(FileTree::of(bin() + QStringLiteral("/files")).size(), 2);
+    for (const QByteArray& info : FileTree::of(bin() + QStringLiteral("/info"))) {
+        QVERIFY(info.contains(QUrl::toPercentEncoding(name)));
+    }
+}
+
+/// The proof of the layout: two programs of others that know nothing of this one.
+void TrashTest::othersListAndRestore()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the programs of other desktops are not there");
+#endif
+    const QString awkward = QString::fromUtf8("a%20 b#\xC3\xA4\xE6\x97\xA5.txt");
+    for (const QString& name : {QStringLiteral("plain"), awkward}) {
+        QCOMPARE(moveFileToTrash(FileTree::write(path(name), name.toUtf8())), FileOperationSucceeded);
+    }
+    const QString folder = QFileInfo(m_folder->path()).canonicalFilePath();
+    const Outcome listed = runProgram(QStringLiteral("trash-list"), {});
+    QCOMPARE(listed.code, 0);
+    QVERIFY2(listed.output.contains((folder + QLatin1Char('/') + awkward).toUtf8()), listed.output);
+
+    const Outcome gio =
+        runProgram(QStringLiteral("dbus-run-session"), {QStringLiteral("--"), QStringLiteral("gio"),
+                                                        QStringLiteral("trash"), QStringLiteral("--list")});
+    QVERIFY2(gio.output.contains("/a b") || gio.output.contains("/a%20 b"), gio.output);
+    QVERIFY2(gio.output.contains((folder + QStringLiteral("/plain")).toUtf8()), gio.output);
+
+    // It restores what was deleted from the current folder; both numbers, one after the other.
+    for (int i = 0; i < 2; ++i) {
+        const Outcome restored = runProgram(QStringLiteral("trash-restore"), {}, folder, "0\n");
+        QVERIFY2(restored.code == 0, restored.output);
+    }
+    QCOMPARE(FileTree::read(path(awkward)), awkward.toUtf8());
+    QCOMPARE(FileTree::read(path(QStringLiteral("plain"))), QByteArray("plain"));
+}
+
+void TrashTest::anotherFileSystem()
+{
+    if (!m_volume.problem().isEmpty()) {
+        QSKIP(qPrintable(m_volume.problem()));
+    }
+    const QString file = m_volume.path() + QStringLiteral("/photos/a b.jpg");
+    QCOMPARE(moveFileToTrash(FileTree::write(file, "one")), FileOperationSucceeded);
+    const QString own = m_volume.path() + QStringLiteral("/.Trash-0");
+    QVERIFY2(
+        FileTree::read(own + QStringLiteral("/info/a b.jpg.trashinfo"))
+                .contains("\nPath=photos/a%20b.jpg\n") ||
+            FileTree::read(own + QStringLiteral("/info/a b.jpg.trashinfo")).contains("Path=photos/a%20b.jpg"),
+        "the path is relative to the volume");
+    QCOMPARE(FileTree::read(own + QStringLiteral("/files/a b.jpg")), QByteArray("one"));
+    QVERIFY(!QFile::exists(bin() + QStringLiteral("/files/a b.jpg")));
+
+    // A trash for all users is taken when it has the sticky bit, and never through a link.
+    const QString shared = m_volume.path() + QStringLiteral("/.Trash");
+    QVERIFY(QFile::link(m_folder->path(), shared));
+    QCOMPARE(moveFileToTrash(FileTree::write(file, "two")), FileOperationSucceeded);
+    QCOMPARE(FileTree::read(own + QStringLiteral("/files/a b.2.jpg")), QByteArray("two"));
+    QVERIFY(QFile::remove(shared));
+    QCOMPARE(runProgram(QStringLiteral("mkdir"), {QStringLiteral("-m1777"), shared}).code, 0);
+    QCOMPARE(moveFileToTrash(FileTree::write(file, "three")), FileOperationSucceeded);
+    QCOMPARE(FileTree::read(shared + QStringLiteral("/0/files/a b.jpg")), QByteArray("three"));
+}
+
+void TrashTest::readOnlyFolder()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Permissions of folders mean nothing under Wine");
+#endif
+    const QTemporaryDir open(QStringLiteral("/tmp/tst_trash-XXXXXX"));
+    const QString file = FileTree::write(open.filePath(QStringLiteral("locked/a")), "kept");
+    QVERIFY(QFile::setPermissions(open.path(), QFile::Permissions(0x5555)));
+    QVERIFY(QFile::setPermissions(open.filePath(QStringLiteral("locked")), QFile::Permissions(0x5555)));
+    const QByteArray data = qgetenv("XDG_DATA_HOME");
+    const QTemporaryDir elsewhere(QStringLiteral("/tmp/tst_trash-XXXXXX"));
+    QVERIFY(QFile::setPermissions(elsewhere.path(), QFile::Permissions(0x7777)));
+    qputenv("XDG_DATA_HOME", elsewhere.path().toLocal8Bit());
+    {
+        const OrdinaryUser user;
+        QCOMPARE(moveFileToTrash(file), FileOperationFailed);
+    }
+    qputenv("XDG_DATA_HOME", data);
+    QCOMPARE(FileTree::read(file), QByteArray("kept"));
+    for (const char* below : {"files", "info"}) {
+        const QDir trash(elsewhere.filePath(QStringLiteral("Trash/") + QLatin1String(below)));
+        QVERIFY(trash.exists() && trash.isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden));
+    }
+    for (const QString& locked : {open.path(), open.filePath(QStringLiteral("locked"))}) {
+        QVERIFY(QFile::setPermissions(locked, QFile::Permissions(0x7777)));
+    }
+}
+
+TOLVAN_CORE_TEST_MAIN(TrashTest)
+#include "tst_trash.moc"
