@@ -4,6 +4,8 @@
 
 #include <QDataStream>
 
+#include <zlib.h>
+
 namespace
 {
 
@@ -63,4 +65,38 @@ QByteArray zipOf(const QVector<ZipEntry>& entries, const QByteArray& comment)
              << quint16(entries.size()) << length << start << quint16(comment.size());
     raw(localOut, comment);
     return local;
+}
+
+ZipEntry zerosEntry(const QByteArray& name, qint64 size)
+{
+    constexpr int pieceSize = 1 << 20;
+    QByteArray zeros(pieceSize, '\0');
+    QByteArray piece(pieceSize, '\0');
+    z_stream stream = {};
+    deflateInit2(&stream, 6, Z_DEFLATED, -MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
+    stream.next_in = reinterpret_cast<Bytef*>(zeros.data());
+    stream.avail_in = pieceSize;
+    stream.next_out = reinterpret_cast<Bytef*>(piece.data());
+    stream.avail_out = pieceSize;
+    deflate(&stream, Z_FULL_FLUSH); // ends on a whole byte and refers to nothing before it
+    piece.truncate(int(stream.total_out));
+    deflateEnd(&stream);
+
+    const qint64 pieces = size / pieceSize;
+    const uLong pieceChecksum = crc32(0, reinterpret_cast<const Bytef*>(zeros.constData()), pieceSize);
+    uLong checksum = 0;
+    for (qint64 i = 0; i < pieces; ++i) {
+        checksum = crc32_combine(checksum, pieceChecksum, pieceSize);
+    }
+    ZipEntry entry{name, {}};
+    entry.packed = piece.repeated(int(pieces)) + QByteArray("\x03\x00", 2); // and an empty last block
+    entry.checksum = qint64(checksum);
+    entry.declaredSize = size;
+    if (size >= 0xFFFFFFFF) {
+        entry.declaredSize = 0xFFFFFFFF;
+        QDataStream out(&entry.extra, QIODevice::WriteOnly);
+        out.setByteOrder(QDataStream::LittleEndian);
+        out << quint16(1) << quint16(8) << size;
+    }
+    return entry;
 }

@@ -23,3 +23,7 @@ QByteArray zipOf(const QVector<ZipEntry>& entries, const QByteArray& comment = {
 
 /// Raw deflated data, without a header of its own.
 QByteArray deflated(const QByteArray& content);
+
+/// An entry of zeros, packed a thousand times smaller. \param size a multiple of 1 MiB; more than 4 GiB needs
+/// and gets the ZIP64 field
+ZipEntry zerosEntry(const QByteArray& name, qint64 size);
