@@ -1,0 +1,10 @@
+# Files, archives and native dialogs. What the system or other programs have to answer runs where they are.
+add_library(files_support STATIC support/FileTree.cpp support/Sandbox.cpp support/ZipWriter.cpp)
+target_include_directories(files_support PUBLIC support)
+target_link_libraries(files_support PUBLIC Qt5::Core QuaZip::QuaZip ZLIB::ZLIB PRIVATE project_options)
+tolvan_add_test(tst_filenames)
+tolvan_add_test(tst_filesizes INTERNAL)
+tolvan_add_test(tst_filemanagement LIBRARIES files_support)
+tolvan_add_test(tst_trash LIBRARIES files_support)
+tolvan_add_test(tst_archives INTERNAL LIBRARIES files_support)
+tolvan_add_test(tst_archives_hostile INTERNAL LIBRARIES files_support)

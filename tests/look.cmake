@@ -1,0 +1,3 @@
+# The look
+tolvan_add_test(tst_customstyle)
+tolvan_add_test(tst_applicationstyle INTERNAL)

@@ -1,0 +1,9 @@
+# Checks of the tree and of the package; the tools they need run on the building system.
+if(NOT CMAKE_CROSSCOMPILING)
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    tolvan_register_test(check_floors COMMAND
+        Python3::Interpreter "${CMAKE_CURRENT_SOURCE_DIR}/checks/floors.py"
+        "${CMAKE_SOURCE_DIR}/ExPluginShell/modules/utilsDll")
+    tolvan_register_test(check_package LABELS package TIMEOUT 300 COMMAND
+        "${CMAKE_CURRENT_SOURCE_DIR}/package/check.sh" "${CMAKE_BINARY_DIR}")
+endif()
