@@ -55,5 +55,33 @@ Veuillez fermer d’autres programmes, puis relancer Trelio Frame.</translation>
         <source>Unhandled exception. Program will be closed.</source>
         <translation>Trelio Frame doit se fermer en raison d’une exception non gérée.</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>o</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
 </context>
 </TS>
