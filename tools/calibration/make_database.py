@@ -108,7 +108,8 @@ def index_name(table, column):
 def fill(path):
     connection = sqlite3.connect(path, isolation_level=None)
     connection.executescript(f"PRAGMA page_size={PAGE_SIZE}; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;"
-                             "PRAGMA cache_size=-65536; PRAGMA encoding='UTF-8'; BEGIN;" + SCHEMA)
+                             "PRAGMA cache_size=-65536; PRAGMA encoding='UTF-8';"
+                             "PRAGMA secure_delete=ON; BEGIN;" + SCHEMA)  # nothing left where something was moved
     bodies = catalogue.bodies()
     connection.execute("INSERT INTO Metadata VALUES (1, 'Version', ?)", (VERSION,))
     connection.executemany("INSERT INTO Maker VALUES (?, ?)", enumerate(catalogue.MAKERS, start=1))
