@@ -244,4 +244,46 @@
         <translation>Perspektive</translation>
     </message>
 </context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Web service</source>
+        <translation>Webdienst</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>Ein SOAP-Client und der kleine Dienst, den er befragt, beide in diesem Prozess.</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>Dienst befragen</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+</context>
 </TS>

@@ -244,4 +244,46 @@
         <translation>Perspective</translation>
     </message>
 </context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Web service</source>
+        <translation>Web service</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>A SOAP client and the small service that it asks, both in this process.</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>Ask the service</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Request</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Answer</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Fault: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+</context>
 </TS>

@@ -244,4 +244,46 @@
         <translation>Perspective</translation>
     </message>
 </context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Web service</source>
+        <translation>Service web</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>Un client SOAP et le petit service qu’il interroge, tous deux dans ce processus.</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Quantité</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>Interroger le service</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Requête</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Erreur : %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+</context>
 </TS>

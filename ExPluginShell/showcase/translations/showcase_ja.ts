@@ -244,4 +244,46 @@
         <translation>遠近感</translation>
     </message>
 </context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Web service</source>
+        <translation>ウェブサービス</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>SOAP クライアントと、それが問い合わせる小さなサービス。どちらもこのプロセス内で動きます。</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>サービスに問い合わせる</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>リクエスト</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>エラー: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+</context>
 </TS>

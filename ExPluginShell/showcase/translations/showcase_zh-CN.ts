@@ -244,4 +244,46 @@
         <translation>透视</translation>
     </message>
 </context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Web service</source>
+        <translation>网络服务</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>SOAP 客户端及其调用的小型服务，两者都在本进程中。</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>调用服务</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>应答</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>错误：%1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+</context>
 </TS>

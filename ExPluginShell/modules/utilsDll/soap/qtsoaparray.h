@@ -31,7 +31,11 @@ public:
      */
     QtSoapArray(const QtSoapQName& name, QtSoapType::Type type = Other, int size0 = -1, int size1 = -1,
                 int size2 = -1, int size3 = -1, int size4 = -1);
+
+    /// A copy with items of its own.
     QtSoapArray(const QtSoapArray& copy);
+
+    /// Becomes a copy of @p copy, with items of its own.
     QtSoapArray& operator=(const QtSoapArray& copy);
     ~QtSoapArray() override;
 

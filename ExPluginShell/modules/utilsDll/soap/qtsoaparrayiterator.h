@@ -18,8 +18,12 @@ class UTILSDLL_EXPORT QtSoapArrayIterator
 public:
     /// Starts on the first item of @p array.
     QtSoapArrayIterator(QtSoapArray& array);
+
+    /// Stands where @p copy stands.
     QtSoapArrayIterator(const QtSoapArrayIterator& copy);
     ~QtSoapArrayIterator();
+
+    /// Goes where @p j stands.
     QtSoapArrayIterator& operator=(const QtSoapArrayIterator& j);
 
     /// Absolute position of the item, whatever the rank; -1 past the end.

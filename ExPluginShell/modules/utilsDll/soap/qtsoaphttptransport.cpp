@@ -24,16 +24,14 @@ QtSoapHttpTransport::QtSoapHttpTransport(QObject* parent)
     , m_timeout(defaultTimeout)
 {
     m_url.setScheme(QStringLiteral("http"));
-    qRegisterMetaType<QNetworkReply*>();
-    // queued: what answers may destroy the transport, which the manager would not survive inside its own
-    // signal
-    connect(&m_manager, SIGNAL(finished(QNetworkReply*)), this, SLOT(readResponse(QNetworkReply*)),
-            Qt::QueuedConnection);
+    connect(&m_manager, SIGNAL(finished(QNetworkReply*)), this, SLOT(readResponse(QNetworkReply*)));
 }
 
 QtSoapHttpTransport::~QtSoapHttpTransport()
 {
-    for (const auto& reply : qAsConst(m_pending)) {
+    const auto pending = m_pending;
+    m_pending.clear(); // nobody waits any more
+    for (const auto& reply : pending) {
         if (reply)
             reply->abort();
     }
@@ -103,7 +101,17 @@ QNetworkReply* QtSoapHttpTransport::networkReply()
 
 void QtSoapHttpTransport::readResponse(QNetworkReply* reply)
 {
-    if (!m_pending.removeOne(reply)) // a request that somebody else made with the manager
+    if (!m_pending.contains(reply)) // a request that somebody else made with the manager
+        return;
+    // later: what answers may destroy the transport, which the manager would not survive inside its own
+    // signal
+    const auto later = [this, finished = QPointer<QNetworkReply>(reply)] { deliver(finished); };
+    QMetaObject::invokeMethod(this, later, Qt::QueuedConnection);
+}
+
+void QtSoapHttpTransport::deliver(QNetworkReply* reply)
+{
+    if (!reply || !m_pending.removeOne(reply))
         return;
     if (reply != m_reply)
         reply->deleteLater();

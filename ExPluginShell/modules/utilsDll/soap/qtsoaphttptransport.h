@@ -99,6 +99,8 @@ private Q_SLOTS:
     void readResponse(QNetworkReply* reply);
 
 private:
+    void deliver(QNetworkReply* reply);
+
     QNetworkAccessManager m_manager;
     QPointer<QNetworkReply> m_reply;
     QList<QPointer<QNetworkReply>> m_pending; ///< children of the manager, those already read excluded

@@ -23,8 +23,12 @@ class UTILSDLL_EXPORT QtSoapMessage
 public:
     /// An envelope with neither header nor body.
     QtSoapMessage();
+
+    /// A message of its own with the same contents.
     QtSoapMessage(const QtSoapMessage& copy);
     ~QtSoapMessage();
+
+    /// Replaces the contents by a copy of those of @p copy.
     QtSoapMessage& operator=(const QtSoapMessage& copy);
 
     /**

@@ -18,8 +18,12 @@ class UTILSDLL_EXPORT QtSoapQName
 public:
     /// The name @p name in the namespace @p uri.
     QtSoapQName(const QString& name = QString(), const QString& uri = QString());
+
+    /// A copy.
     QtSoapQName(const QtSoapQName&) = default;
     ~QtSoapQName();
+
+    /// Takes over name and URI.
     QtSoapQName& operator=(const QtSoapQName&) = default;
 
     /// Sets the name to @p s and empties the URI.

@@ -39,7 +39,11 @@ public:
 
     /// A String.
     QtSoapSimpleType(const QtSoapQName& name, const QString& n);
+
+    /// A copy of name, type and value.
     QtSoapSimpleType(const QtSoapSimpleType& copy);
+
+    /// Takes over name, type and value of @p copy.
     QtSoapSimpleType& operator=(const QtSoapSimpleType& copy);
     ~QtSoapSimpleType() override;
 

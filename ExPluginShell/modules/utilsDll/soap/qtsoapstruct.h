@@ -21,7 +21,11 @@ public:
 
     /// An empty struct called @p name.
     QtSoapStruct(const QtSoapQName& name);
+
+    /// A copy with children of its own.
     QtSoapStruct(const QtSoapStruct& copy);
+
+    /// Becomes a copy of @p copy, with children of its own.
     QtSoapStruct& operator=(const QtSoapStruct& copy);
     ~QtSoapStruct() override;
 

@@ -16,7 +16,11 @@ class UTILSDLL_EXPORT QtSoapStructIterator
 public:
     /// Starts on the first child of @p s.
     QtSoapStructIterator(QtSoapStruct& s);
+
+    /// Stands where the other one stands.
     QtSoapStructIterator(const QtSoapStructIterator&) = default;
+
+    /// Goes where the other one stands.
     QtSoapStructIterator& operator=(const QtSoapStructIterator&) = default;
     ~QtSoapStructIterator();
 

@@ -76,7 +76,11 @@ public:
 
     /// A value called @p name of type @p t.
     QtSoapType(const QtSoapQName& name, Type t = Other);
+
+    /// A copy of name, type and attributes.
     QtSoapType(const QtSoapType& copy);
+
+    /// Takes over name, type and attributes of @p copy.
     QtSoapType& operator=(const QtSoapType& copy);
     virtual ~QtSoapType();
 
