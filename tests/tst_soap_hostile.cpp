@@ -6,6 +6,8 @@
 
 #include <functional>
 
+Q_DECLARE_METATYPE(std::function<QByteArray()>)
+
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -209,6 +211,5 @@ void SoapHostileTest::truncatedAnywhere()
     }
 }
 
-Q_DECLARE_METATYPE(std::function<QByteArray()>)
 TOLVAN_CORE_TEST_MAIN(SoapHostileTest)
 #include "tst_soap_hostile.moc"

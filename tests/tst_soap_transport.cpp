@@ -13,6 +13,8 @@
 
 #include <functional>
 
+Q_DECLARE_METATYPE(HttpLoopback::Answer)
+
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -437,6 +439,5 @@ void SoapTransportTest::secureServer()
     QCOMPARE(call.transport.networkReply()->url().scheme(), QStringLiteral("https"));
 }
 
-Q_DECLARE_METATYPE(HttpLoopback::Answer)
 TOLVAN_CORE_TEST_MAIN(SoapTransportTest)
 #include "tst_soap_transport.moc"

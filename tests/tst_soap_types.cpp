@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapQName)
+
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -472,6 +474,5 @@ void SoapTypesTest::prefixes()
     QVERIFY(namespaces.prefixFor(QStringLiteral("urn:c")).isEmpty());
 }
 
-Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapQName)
 TOLVAN_CORE_TEST_MAIN(SoapTypesTest)
 #include "tst_soap_types.moc"
