@@ -119,7 +119,7 @@ QtSoapMessage SoapHttpExchange::message()
 {
     m_idle.stop();
     m_whole.stop();
-    const QByteArray body = m_reply->readAll();
+    const QByteArray body = m_reply->isOpen() ? m_reply->readAll() : QByteArray(); // closed by abort()
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (!m_reason.isEmpty())
         return fault(QtSoapMessage::Other, m_reason);

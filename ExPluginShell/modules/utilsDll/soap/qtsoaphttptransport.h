@@ -80,11 +80,12 @@ public:
     int timeout() const;
 
     /**
-     * @brief Sets after how many milliseconds without a byte moving a request is given up; 0 turns the
+     * @brief Sets after how many milliseconds without progress a request is given up; 0 turns the
      * time-out off.
      *
-     * A request that keeps moving is given up after ten times as long, so a service that answers byte by byte
-     * cannot hold its caller for ever. Holds for requests submitted from now on.
+     * Progress is what is sent, the complete head of the answer, each piece of its body. A request that keeps
+     * moving is given up after ten times as long, so a service that answers byte by byte cannot hold its
+     * caller for ever. Holds for requests submitted from now on.
      */
     void setTimeout(int msec);
 
