@@ -14,6 +14,7 @@
 #include <array>
 #include <chrono>
 #include <map>
+#include <memory_resource>
 #include <mutex>
 #include <vector>
 
@@ -59,14 +60,17 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    using CallTable = std::map<int, methodData>;
-    using ObjectIndex = std::multimap<QObject*, int>;
+    using CallTable = std::pmr::map<int, methodData>;
+    using ObjectIndex = std::pmr::multimap<QObject*, int>;
 
     ObjectIndex::iterator findLive(ObjectIndex::iterator entry, const QObject* object, const char* method);
     void forget(CallTable::iterator call);
 
-    CallTable m_calls;
-    ObjectIndex m_objects;
+    // Nodes apart from other memory: the toolkit's timer records, allocated in turn with them, then lie close
+    // together, and its search through them is several times as fast with thousands of calls pending.
+    std::pmr::unsynchronized_pool_resource m_nodes;
+    CallTable m_calls{&m_nodes};
+    ObjectIndex m_objects{&m_nodes};
     InvokerRegistry& m_registry;
 };
 
@@ -86,31 +90,29 @@ CDelayedInvoker::~CDelayedInvoker()
 void CDelayedInvoker::schedule(int msec, QObject* object, const char* method, bool singleShot,
                                const QVariantList& args)
 {
-    // A repeated request takes over the nodes of the call that it replaces: the debounce case allocates
-    // nothing.
     const auto entry = findLive(m_objects.lower_bound(object), object, method);
-    CallTable::node_type replaced;
-    if (entry != m_objects.end()) {
-        killTimer(entry->second);
-        replaced = m_calls.extract(entry->second);
-    }
-    const int id = startTimer(msec, Qt::CoarseTimer);
-    if (id < 1) {
-        if (entry != m_objects.end()) {
-            m_objects.erase(entry);
+    if (entry == m_objects.end()) {
+        const int id = startTimer(msec, Qt::CoarseTimer);
+        if (id >= 1) {
+            m_calls.insert_or_assign(id, methodData{object, object, method, singleShot, args});
+            m_objects.emplace(object, id);
         }
         return;
     }
-    if (replaced.empty()) {
-        m_calls.insert_or_assign(id, methodData{object, object, method, singleShot, args});
-        m_objects.emplace(object, id);
+    // A repeated request takes over the nodes of the call that it replaces: the debounce case allocates
+    // nothing.
+    killTimer(entry->second);
+    auto call = m_calls.extract(entry->second);
+    const int id = startTimer(msec, Qt::CoarseTimer);
+    if (id < 1) {
+        m_objects.erase(entry);
         return;
     }
-    replaced.key() = id;
-    replaced.mapped().method = method;
-    replaced.mapped().singleShot = singleShot;
-    replaced.mapped().args = args;
-    m_calls.insert(std::move(replaced));
+    call.key() = id;
+    call.mapped().method = method;
+    call.mapped().singleShot = singleShot;
+    call.mapped().args = args;
+    m_calls.insert(std::move(call));
     entry->second = id;
 }
 

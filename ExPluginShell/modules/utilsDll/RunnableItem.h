@@ -128,6 +128,9 @@ class UTILSDLL_EXPORT CQRunnableItem : public QObject, public CRunnableItem<QRun
     Q_OBJECT
 
 public:
+    /// See CRunnableItem and \b Life above for when it may be called.
+    ~CQRunnableItem() override;
+
     /// The work: polls stopRequired() and returns early. Runs in the pool's thread.
     /// \return whether it succeeded
     virtual bool doRun() = 0;
@@ -141,7 +144,6 @@ protected:
     CQRunnableItem();
     /// \param emitSignals false: the item emits no signal at all
     explicit CQRunnableItem(bool emitSignals, QObject* parent = nullptr);
-    ~CQRunnableItem() override;
 
     /// Whether the item emits signals.
     bool emitSignals() const;

@@ -10,5 +10,6 @@ QVector<Section> sections()
         {"Resource bundles", &showBundles},
         {"Languages", &showLanguages},
         {"Web service", &showWebService},
+        {"Asynchronous execution", &showAsync},
     };
 }

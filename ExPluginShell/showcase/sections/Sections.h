@@ -20,3 +20,4 @@ void showState(Report& report);
 void showBundles(Report& report);
 void showLanguages(Report& report);
 void showWebService(Report& report);
+void showAsync(Report& report);

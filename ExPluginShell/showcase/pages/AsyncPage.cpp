@@ -1,0 +1,239 @@
+#include "AsyncPage.h"
+
+#include <utilsDll/DelayedCall.h>
+#include <utilsDll/ExcludeUserInpuEventLoop.h>
+#include <utilsDll/OperationCompletionWaiter.h>
+#include <utilsDll/RunnableItem.h>
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QThread>
+#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr int itemCount = 8;
+constexpr int stepsPerItem = 40;
+constexpr int debounceDelay = 150; // milliseconds, as the others
+constexpr int tickInterval = 200;
+constexpr int waitDuration = 2000;
+
+/// Works in small steps and tells each.
+class StepItem : public CQRunnableItem
+{
+    Q_OBJECT
+
+Q_SIGNALS:
+    void step();
+
+private:
+    bool doRun() override
+    {
+        for (int i = 0; i < stepsPerItem; ++i) {
+            if (stopRequired()) {
+                return false;
+            }
+            QThread::msleep(25);
+            Q_EMIT step();
+        }
+        return true;
+    }
+};
+
+QLabel* makeNote(const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+AsyncPage::AsyncPage(QWidget* parent)
+    : QWidget(parent)
+    , m_slider(new QSlider(Qt::Horizontal))
+    , m_burst(makeNote(tr("Move the slider: its many requests become one call.")))
+    , m_ticks(makeNote(tr("Not running.")))
+    , m_progress(new QProgressBar)
+    , m_start(new QPushButton(tr("Start")))
+    , m_stop(new QPushButton(tr("Stop")))
+    , m_items(makeNote(tr("%1 items on a pool of two threads.").arg(itemCount)))
+    , m_wait(makeNote(tr("While the page waits, clicks are swallowed and the progress bar goes on.")))
+    , m_clicks(makeNote(tr("No clicks yet.")))
+{
+    m_pool.setMaxThreadCount(2);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(makeDelayedCalls());
+    layout->addWidget(makeItems());
+    layout->addWidget(makeWaits());
+    layout->addStretch();
+}
+
+AsyncPage::~AsyncPage()
+{
+    stopItems();
+    m_pool.waitForDone();
+}
+
+QWidget* AsyncPage::makeDelayedCalls()
+{
+    auto* const box = new QGroupBox(tr("Delayed calls"));
+    auto* const periodic = new QPushButton(tr("Periodic call"));
+    periodic->setCheckable(true);
+    connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved()));
+    connect(periodic, SIGNAL(toggled(bool)), this, SLOT(togglePeriodic(bool)));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(periodic);
+    row->addWidget(m_ticks, 1);
+    auto* const layout = new QVBoxLayout(box);
+    layout->addWidget(m_slider);
+    layout->addWidget(m_burst);
+    layout->addLayout(row);
+    return box;
+}
+
+QWidget* AsyncPage::makeItems()
+{
+    auto* const box = new QGroupBox(tr("Work items"));
+    m_progress->setRange(0, itemCount * stepsPerItem);
+    m_progress->setValue(0);
+    m_stop->setEnabled(false);
+    connect(m_start, SIGNAL(clicked()), this, SLOT(startItems()));
+    connect(m_stop, SIGNAL(clicked()), this, SLOT(stopItems()));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(m_start);
+    row->addWidget(m_stop);
+    row->addWidget(m_items, 1);
+    auto* const layout = new QVBoxLayout(box);
+    layout->addWidget(m_progress);
+    layout->addLayout(row);
+    return box;
+}
+
+QWidget* AsyncPage::makeWaits()
+{
+    auto* const box = new QGroupBox(tr("Waits"));
+    auto* const wait = new QPushButton(tr("Wait, input excluded"));
+    auto* const complete = new QPushButton(tr("Wait for a worker"));
+    auto* const click = new QPushButton(tr("Click me meanwhile"));
+    connect(wait, SIGNAL(clicked()), this, SLOT(waitWithoutInput()));
+    connect(complete, SIGNAL(clicked()), this, SLOT(waitForWorker()));
+    connect(click, SIGNAL(clicked()), this, SLOT(onClicked()));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(wait);
+    row->addWidget(complete);
+    row->addWidget(click);
+    row->addWidget(m_clicks, 1);
+    auto* const layout = new QVBoxLayout(box);
+    layout->addLayout(row);
+    layout->addWidget(m_wait);
+    return box;
+}
+
+void AsyncPage::onSliderMoved()
+{
+    ++m_requests;
+    CDelayedCall::invoke(debounceDelay, this, "render");
+}
+
+void AsyncPage::render()
+{
+    m_burst->setText(tr("%1 requests became %2 calls.").arg(m_requests).arg(++m_renders));
+}
+
+void AsyncPage::togglePeriodic(bool on)
+{
+    if (on) {
+        CDelayedCall::invoke(tickInterval, this, "tick", false);
+    } else {
+        CDelayedCall::discard(this, "tick");
+    }
+    m_ticks->setText(on ? tr("Every %1 ms.").arg(tickInterval)
+                        : tr("Discarded after %1 calls.").arg(m_tickCount));
+}
+
+void AsyncPage::tick()
+{
+    m_ticks->setText(tr("%1 calls.").arg(++m_tickCount));
+}
+
+void AsyncPage::startItems()
+{
+    m_finished = m_stopped = 0;
+    m_progress->setValue(0);
+    m_start->setEnabled(false);
+    m_stop->setEnabled(true);
+    for (int i = 0; i < itemCount; ++i) {
+        auto item = std::make_unique<StepItem>();
+        item->setAutoDelete(false); // the page stops it
+        connect(item.get(), SIGNAL(step()), this, SLOT(onStep()));
+        connect(item.get(), SIGNAL(finished(bool, bool)), this, SLOT(onItemFinished(bool, bool)));
+        m_running.push_back(std::move(item));
+    }
+    for (const auto& item : m_running) {
+        m_pool.start(item.get());
+    }
+}
+
+void AsyncPage::stopItems()
+{
+    for (const auto& item : m_running) {
+        item->stop();
+    }
+    m_pool.waitForDone(); // one step at most
+    m_running.clear();
+    m_start->setEnabled(true);
+    m_stop->setEnabled(false);
+}
+
+void AsyncPage::onStep()
+{
+    m_progress->setValue(m_progress->value() + 1);
+}
+
+void AsyncPage::onItemFinished(bool, bool stopped)
+{
+    ++m_finished;
+    m_stopped += stopped;
+    m_items->setText(
+        tr("%1 of %2 items finished, %3 of them stopped.").arg(m_finished).arg(itemCount).arg(m_stopped));
+    if (m_finished == itemCount) {
+        stopItems();
+    }
+}
+
+void AsyncPage::waitWithoutInput()
+{
+    CExcludeUserInpuEventLoop loop;
+    const int before = m_clickCount;
+    m_wait->setText(tr("Waiting for %1 ms: nothing can be clicked.").arg(waitDuration));
+    loop.exec(waitDuration);
+    m_wait->setText(tr("Over; %1 clicks got through.").arg(m_clickCount - before));
+}
+
+void AsyncPage::waitForWorker()
+{
+    const std::unique_ptr<QThread> worker(QThread::create([] { QThread::msleep(waitDuration); }));
+    TOLVAN_NAMESPACE::COperationCompletionWaiter waiter(worker.get(), SIGNAL(finished()));
+    m_wait->setText(tr("Waiting for a worker: everything can be clicked."));
+    const QPointer<AsyncPage> self(this); // the user may close the page meanwhile
+    worker->start();
+    waiter.startWaiting();
+    worker->wait();
+    if (self) {
+        m_wait->setText(tr("The worker has finished."));
+    }
+}
+
+void AsyncPage::onClicked()
+{
+    m_clicks->setText(tr("%1 clicks.").arg(++m_clickCount));
+}
+
+#include "AsyncPage.moc"

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QThreadPool>
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class CQRunnableItem;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QSlider;
+
+/// Page "Asynchronous": delayed calls, work items, waits and the completion waiter, to try out by hand.
+class AsyncPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit AsyncPage(QWidget* parent = nullptr);
+    ~AsyncPage() override;
+
+private Q_SLOTS:
+    void onSliderMoved();
+    void render();
+    void togglePeriodic(bool on);
+    void tick();
+    void startItems();
+    void stopItems();
+    void onStep();
+    void onItemFinished(bool ok, bool stopped);
+    void waitWithoutInput();
+    void waitForWorker();
+    void onClicked();
+
+private:
+    QWidget* makeDelayedCalls();
+    QWidget* makeItems();
+    QWidget* makeWaits();
+
+    QSlider* m_slider;
+    QLabel* m_burst;
+    QLabel* m_ticks;
+    QProgressBar* m_progress;
+    QPushButton* m_start;
+    QPushButton* m_stop;
+    QLabel* m_items;
+    QLabel* m_wait;
+    QLabel* m_clicks;
+    int m_requests = 0;
+    int m_renders = 0;
+    int m_tickCount = 0;
+    int m_clickCount = 0;
+    int m_finished = 0;
+    int m_stopped = 0;
+    std::vector<std::unique_ptr<CQRunnableItem>> m_running;
+    QThreadPool m_pool; ///< of its own: the global one also serves the toolkit's painting
+};
