@@ -7,7 +7,6 @@
 
 #include <QDomDocument>
 #include <QFile>
-#include <QSaveFile>
 
 #include <stdexcept>
 
@@ -40,25 +39,6 @@ QDomDocument parsed(const QString& xml)
         throw failure("The stream is not a valid XML:\n", xml);
     }
     return document;
-}
-
-/// Replaces the file whole, or, where its folder refuses a temporary file, writes it in place.
-bool replaceFile(const QString& path, const QString& text)
-{
-    for (int attempt = 0;; ++attempt) {
-        QSaveFile file(path);
-        file.setDirectWriteFallback(true);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-            return false;
-        }
-        file.write(text.toUtf8());
-        if (file.commit()) {
-            return true;
-        }
-        if (file.error() != QFileDevice::RenameError || !Platform::isWorthReplacingAgain(path, attempt)) {
-            return false;
-        }
-    }
 }
 
 /// Runs \a operation and logs what it throws. \return whether it went through
@@ -168,7 +148,8 @@ void CSettings::writeSettingToConfigFile(const QString& path, const QString& gro
         if (file.exists()) {
             throw failure(openFailure, path);
         }
-        if (!replaceFile(path, createOstraCollectionXMLWithGivenSetting(group, key, value, type))) {
+        if (!Platform::replaceSharedFile(
+                path, createOstraCollectionXMLWithGivenSetting(group, key, value, type).toUtf8())) {
             throw failure("Fail to create Ostra Collection configuration file : ", path);
         }
         return;
@@ -176,7 +157,7 @@ void CSettings::writeSettingToConfigFile(const QString& path, const QString& gro
     QString xml = QString::fromUtf8(file.readAll());
     file.close();
     writeSettingToOstraCollectionXML(group, key, value, type, xml);
-    if (!replaceFile(path, xml)) {
+    if (!Platform::replaceSharedFile(path, xml.toUtf8())) {
         throw failure(openFailure, path);
     }
 }

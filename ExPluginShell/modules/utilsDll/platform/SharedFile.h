@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QFile>
 #include <QString>
 
@@ -16,12 +17,14 @@ namespace Platform
 /// \return whether it is open; at once when the failure is not another process's doing
 bool openSharedFile(QFile& file, QIODevice::OpenMode mode);
 
-/// Whether a file that could not be replaced may let itself be replaced a little later, because a reader has
-/// it open. Blocks for the moment to wait.
-/// \param attempt how often replacing it was tried before
-/// \return on Windows false after about half a second; elsewhere always false, as readers are no obstacle
-/// there
-bool isWorthReplacingAgain(const QString& path, int attempt);
+/// Replaces a file whole, or makes it: who reads it, also after a crash, finds the old text or the new.
+///
+/// The text goes to a file beside it that takes its place; where the folder refuses such a file, the text is
+/// written in place. On Windows a file that others have open can't be replaced: this waits for them, at most
+/// half a second.
+/// \param text UTF-8 with the line ends "\n"; the file gets the system's
+/// \return whether the file holds the text
+bool replaceSharedFile(const QString& path, const QByteArray& text);
 
 } // namespace Platform
 } // namespace TOLVAN_NAMESPACE

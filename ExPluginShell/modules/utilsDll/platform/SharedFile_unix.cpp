@@ -1,5 +1,7 @@
 #include "platform/SharedFile.h"
 
+#include <QSaveFile>
+
 namespace TOLVAN_NAMESPACE
 {
 namespace Platform
@@ -10,9 +12,15 @@ bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
     return file.open(mode | QIODevice::ExistingOnly);
 }
 
-bool isWorthReplacingAgain(const QString&, int)
+bool replaceSharedFile(const QString& path, const QByteArray& text)
 {
-    return false;
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        return false;
+    }
+    file.write(text);
+    return file.commit();
 }
 
 } // namespace Platform

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QUuid>
 
 #include <fcntl.h>
 #include <io.h>
@@ -40,6 +41,33 @@ HANDLE openPatiently(const wchar_t* path, DWORD access)
     }
 }
 
+bool writeThrough(QFile& file, const QByteArray& text)
+{
+    const bool written = file.write(text) == text.size() && file.flush() &&
+                         FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
+    file.close();
+    return written;
+}
+
+/// Moves a file over another. Only the move is tried again: it fails while somebody has the other one open.
+bool movePatiently(const QString& from, const QString& to)
+{
+    const QString source = QDir::toNativeSeparators(from);
+    const QString target = QDir::toNativeSeparators(to);
+    for (int attempt = 0;; ++attempt) {
+        if (MoveFileExW(reinterpret_cast<const wchar_t*>(source.utf16()),
+                        reinterpret_cast<const wchar_t*>(target.utf16()),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+            return true;
+        }
+        const QFileInfo obstacle(to);
+        if (attempt == mostAttempts || !obstacle.isFile() || !obstacle.isWritable()) {
+            return false;
+        }
+        Sleep(pause);
+    }
+}
+
 } // namespace
 
 bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
@@ -64,14 +92,19 @@ bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
     return true;
 }
 
-bool isWorthReplacingAgain(const QString& path, int attempt)
+bool replaceSharedFile(const QString& path, const QByteArray& text)
 {
-    const QFileInfo file(path);
-    if (attempt >= mostAttempts || !file.isFile() || !file.isWritable()) {
-        return false;
+    const QString unique = QUuid::createUuid().toString(QUuid::Id128);
+    QFile file(path + QLatin1Char('.') + unique);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text | QIODevice::NewOnly)) {
+        file.setFileName(path);
+        return file.open(QIODevice::WriteOnly | QIODevice::Text) && writeThrough(file, text);
     }
-    Sleep(pause);
-    return true;
+    if (writeThrough(file, text) && movePatiently(file.fileName(), path)) {
+        return true;
+    }
+    file.remove();
+    return false;
 }
 
 } // namespace Platform
