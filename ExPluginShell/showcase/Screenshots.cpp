@@ -3,6 +3,8 @@
 #include "pages/Pages.h"
 #include "ShowcaseWindow.h"
 
+#include <utilsDll/LanguageManager.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
@@ -63,9 +65,19 @@ bool writeWholePage(const QDir& folder, const QString& name)
 
 bool writeScreenshots(const QString& folder)
 {
+    using TOLVAN_NAMESPACE::CLanguageManager;
+    auto* const languages = CLanguageManager::instance();
+    const int before = languages->currentLanguageIndex();
     const QDir root(folder);
-    bool ok = writePages(root);
-    ok = writeWholePage(root, QStringLiteral("style")) && ok;
+    bool ok = languages->langCount() > 0;
+    for (int index = 0; index < languages->langCount(); ++index) {
+        languages->changeLanguage(index);
+        QApplication::processEvents();
+        const QString language = languages->currentLanguageAbbrv();
+        ok = writePages(QDir(root.filePath(language))) && ok;
+        ok = writeWholePage(root, QStringLiteral("style-") + language) && ok;
+    }
+    languages->changeLanguage(before);
     QTextStream(stdout) << "Pictures of the showcase: " << QDir::toNativeSeparators(root.absolutePath())
                         << '\n';
     return ok;

@@ -1,10 +1,12 @@
 #include "LiveLog.h"
+#include "OwnTexts.h"
 #include "Report.h"
 #include "Screenshots.h"
 #include "sections/Sections.h"
 #include "ShowcaseWindow.h"
 
 #include <utilsDll/customtolvanappstyle.h>
+#include <utilsDll/LanguageManager.h>
 #include <utilsDll/Settings.h>
 #include <utilsDll/SharedUtils.h>
 #include <utilsDll/StorageLocation.h>
@@ -42,10 +44,12 @@ void startLog()
     }
 }
 
-/// As every host of the product does once at start-up.
+/// Language and look, as every host of the product does once at start-up.
 void dress()
 {
     using namespace TOLVAN_NAMESPACE;
+    CLanguageManager::instance()->loadLanguageForApp();
+    new OwnTexts(qApp);
     loadFonts();
     loadAppLogoIcon();
     QApplication::setStyle(new CustomTolvanAppStyle);

@@ -50,7 +50,7 @@ QLayout* StylePage::makeButtonColumn()
     column->addWidget(makeToolButtons());
     column->addWidget(makeChoices());
     column->addWidget(makeGroups());
-    column->addStretch();
+    column->addWidget(makeToolBox(), 1);
     return column;
 }
 

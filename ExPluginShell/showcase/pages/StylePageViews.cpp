@@ -148,6 +148,7 @@ QWidget* StylePage::makeToolBox()
     const char* const names[] = {QT_TR_NOOP("Lens"), QT_TR_NOOP("Shape"), QT_TR_NOOP("History")};
     for (const char* const name : names) {
         auto* const page = withText(new QLabel, QT_TR_NOOP("Blurred at both ends"));
+        page->setWordWrap(true);
         const int index = toolBox->addItem(page, QString());
         translate(name, [toolBox, index](const QString& text) { toolBox->setItemText(index, text); });
     }

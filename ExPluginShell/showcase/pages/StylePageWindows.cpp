@@ -29,9 +29,6 @@ QLayout* StylePage::makeWindowRow()
     last->addWidget(makeDialogEnd());
     last->addStretch();
     row->addLayout(last);
-    auto* const toolBox = makeToolBox();
-    toolBox->setFixedWidth(190);
-    row->addWidget(toolBox);
     return row;
 }
 
