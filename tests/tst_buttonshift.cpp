@@ -1,0 +1,199 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/customtolvanappstyle.h>
+
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include <memory>
+
+using TOLVAN_NAMESPACE::CustomTolvanAppStyle;
+
+namespace
+{
+
+const char* const unit = "ASSERT in ExPluginShell\\modules\\utilsDll\\customtolvanappstyle:";
+const char* const prefix = "TOLVAN_NAMESPACE::CustomTolvanAppStyle::";
+
+/// Tells how many connections a button has.
+struct Button : QPushButton {
+    explicit Button(const char* name) { setObjectName(QString::fromLatin1(name)); }
+    int connections() const
+    {
+        return receivers(SIGNAL(destroyed(QObject*))) + receivers(SIGNAL(objectNameChanged(QString)));
+    }
+};
+
+} // namespace
+
+/// The buttons whose label stays where it is while they are pressed.
+class ButtonShiftTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void optingOutOfTheShift();
+    void registeringTwice();
+    void renaming();
+    void destroying();
+    void wrongCalls();
+    void pressedLabelStaysInPlace();
+
+private:
+    bool isShifted(const QWidget& widget) const;
+    void expectAssertion(const char* function, int line);
+
+    std::unique_ptr<CustomTolvanAppStyle> m_style;
+    std::unique_ptr<QStyle> m_stock{QStyleFactory::create(QStringLiteral("windows"))};
+};
+
+void ButtonShiftTest::init()
+{
+    m_style = std::make_unique<CustomTolvanAppStyle>();
+    installedLogger().take();
+}
+
+bool ButtonShiftTest::isShifted(const QWidget& widget) const
+{
+    const int x = m_style->pixelMetric(QStyle::PM_ButtonShiftHorizontal, nullptr, &widget);
+    const int y = m_style->pixelMetric(QStyle::PM_ButtonShiftVertical, nullptr, &widget);
+    return x == m_stock->pixelMetric(QStyle::PM_ButtonShiftHorizontal) && x > 0 && y > 0;
+}
+
+void ButtonShiftTest::expectAssertion(const char* function, int line)
+{
+    const QByteArray text = QByteArray(unit) + QByteArray::number(line);
+    QCOMPARE(installedLogger().take(),
+             QStringList(QString::fromLatin1(QByteArray("E ") + prefix + function + ": " + text)));
+}
+
+void ButtonShiftTest::optingOutOfTheShift()
+{
+    QCOMPARE(CustomTolvanAppStyle::disableButtonShiftPropertyName(), "disableButtonShiftProperty");
+    Button button("button");
+    QVERIFY(isShifted(button));
+    button.setProperty(CustomTolvanAppStyle::disableButtonShiftPropertyName(), false);
+    QVERIFY(!isShifted(button)); // presence alone counts
+    button.setObjectName(QString());
+    QVERIFY(isShifted(button));
+    button.setObjectName(QStringLiteral("button"));
+    button.setProperty(CustomTolvanAppStyle::disableButtonShiftPropertyName(), QVariant());
+    QVERIFY(isShifted(button));
+
+    m_style->disableButtonShift(&button, true);
+    QVERIFY(!isShifted(button));
+    m_style->disableButtonShift(&button, false);
+    QVERIFY(isShifted(button));
+    QCOMPARE(button.connections(), 0);
+    m_style->disableButtonShift(&button, false); // once more: nothing to undo
+    m_style->disableButtonShift(nullptr, true);
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void ButtonShiftTest::registeringTwice()
+{
+    Button first("same");
+    Button second("same");
+    m_style->disableButtonShift(&first, true);
+    m_style->disableButtonShift(&first, true);
+    m_style->disableButtonShift(&second, true);
+    QCOMPARE(first.connections(), 2);
+    QCOMPARE(second.connections(), 0);
+    QVERIFY(!isShifted(second)); // known by name
+
+    second.setObjectName(QStringLiteral("other"));
+    QVERIFY(isShifted(second));
+    QVERIFY(!isShifted(first));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void ButtonShiftTest::renaming()
+{
+    Button button("before");
+    Button taken("taken");
+    m_style->disableButtonShift(&button, true);
+    m_style->disableButtonShift(&taken, true);
+    button.setObjectName(QStringLiteral("after"));
+    QVERIFY(!isShifted(button));
+    QVERIFY(isShifted(Button("before")));
+    QCOMPARE(button.connections(), 2);
+
+    button.setObjectName(QString()); // forgotten
+    QVERIFY(isShifted(Button("after")));
+    QCOMPARE(button.connections(), 0);
+    button.setObjectName(QStringLiteral("after"));
+    QVERIFY(isShifted(button));
+
+    m_style->disableButtonShift(&button, true);
+    button.setObjectName(QStringLiteral("taken")); // another one's name: that entry stays
+    QCOMPARE(button.connections(), 0);
+    QVERIFY(!isShifted(button));
+    m_style->disableButtonShift(&taken, false);
+    QVERIFY(isShifted(button));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void ButtonShiftTest::destroying()
+{
+    auto button = std::make_unique<Button>("short-lived");
+    m_style->disableButtonShift(button.get(), true);
+    button.reset();
+    Button heir("short-lived");
+    QVERIFY(isShifted(heir));
+    m_style->disableButtonShift(&heir, true);
+    QVERIFY(!isShifted(heir));
+    m_style.reset(); // the style may go first
+    heir.setObjectName(QStringLiteral("survivor"));
+    QCOMPARE(heir.connections(), 0);
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void ButtonShiftTest::wrongCalls()
+{
+    Button nameless("");
+    m_style->disableButtonShift(&nameless, true);
+    expectAssertion("disableButtonShift", 75);
+    nameless.setObjectName(QStringLiteral("named at last")); // it was registered all the same
+    QVERIFY(!isShifted(nameless));
+
+    Button owner("shared");
+    Button stranger("shared");
+    m_style->disableButtonShift(&owner, true);
+    m_style->disableButtonShift(&stranger, false);
+    expectAssertion("pimpl::disableButtonShift", 58);
+    QVERIFY(isShifted(owner));
+    QCOMPARE(owner.connections(), 2); // the stranger's were cut, not these
+    owner.setObjectName(QStringLiteral("lost"));
+    expectAssertion("onNonShiftedButtonObjectNameChanged", 107);
+    QVERIFY(isShifted(owner));
+
+    QVERIFY(QMetaObject::invokeMethod(m_style.get(), "onNonShiftedButtonObjectNameChanged",
+                                      Q_ARG(QString, QStringLiteral("without a sender"))));
+    QCOMPARE(installedLogger().take(), QStringList());
+}
+
+void ButtonShiftTest::pressedLabelStaysInPlace()
+{
+    const auto label = [this](const Button& button, bool pressed) {
+        QStyleOptionButton option;
+        option.rect = QRect(0, 0, 80, 30);
+        option.text = QStringLiteral("I");
+        option.state = QStyle::State_Enabled | (pressed ? QStyle::State_Sunken : QStyle::State_Raised);
+        QImage image(option.rect.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        m_style->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, &button);
+        return image;
+    };
+    Button button("pressed");
+    QVERIFY(label(button, true) != label(button, false));
+    m_style->disableButtonShift(&button, true);
+    QCOMPARE(label(button, true), label(button, false));
+}
+
+TOLVAN_GUI_TEST_MAIN(ButtonShiftTest)
+#include "tst_buttonshift.moc"

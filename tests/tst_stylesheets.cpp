@@ -1,0 +1,200 @@
+#include "TestMain.h"
+#include "WidgetClasses.h"
+
+#include <utilsDll/customtolvanappstyle.h>
+#include <utilsDll/SharedUtils.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSlider>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+const QStringList sheets = {QStringLiteral("custom"),      QStringLiteral("slider"),
+                            QStringLiteral("settings"),    QStringLiteral("message_box"),
+                            QStringLiteral("win"),         QStringLiteral("mac"),
+                            QStringLiteral("crash_sender")};
+
+QString contentOf(const QString& sheet)
+{
+    QFile file(QStringLiteral(":/qss/%1.qss").arg(sheet));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList messages;
+
+void keepMessage(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    messages += text;
+}
+
+} // namespace
+
+/// The product's style sheets, as the library carries them.
+class StyleSheetsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanupTestCase();
+    void parsesAndAppliesWithoutWarning_data();
+    void parsesAndAppliesWithoutWarning();
+    void everyImageIsThere();
+    void everyClassHasARule_data();
+    void everyClassHasARule();
+    void predefinedSheets();
+    void fontFamilies();
+    void fontsAndIcon();
+};
+
+/// Stands for the about dialog, which the font rules name.
+class CAboutDlg : public QDialog
+{
+    Q_OBJECT
+};
+
+void StyleSheetsTest::initTestCase()
+{
+    QApplication::setStyle(new CustomTolvanAppStyle);
+    QVERIFY(!contentOf(QStringLiteral("custom")).isEmpty());
+}
+
+void StyleSheetsTest::init()
+{
+    setPredefinedAppStyleSheet(QString(), qApp);
+}
+
+void StyleSheetsTest::cleanupTestCase()
+{
+    qApp->setStyleSheet(QString());
+}
+
+void StyleSheetsTest::parsesAndAppliesWithoutWarning_data()
+{
+    QTest::addColumn<QString>("sheet");
+    for (const QString& name : sheets) {
+        QTest::newRow(qPrintable(name)) << contentOf(name);
+    }
+    QTest::newRow("all together") << QString();
+}
+
+void StyleSheetsTest::parsesAndAppliesWithoutWarning()
+{
+    QFETCH(QString, sheet);
+    messages.clear();
+    const auto previous = qInstallMessageHandler(&keepMessage);
+    if (sheet.isEmpty()) {
+        setPredefinedAppStyleSheet(QString(), qApp);
+    } else {
+        qApp->setStyleSheet(sheet);
+    }
+    // An unknown property is told only when a widget takes it on.
+    for (const WidgetClass& entry : widgetClasses) {
+        const std::unique_ptr<QWidget> widget(entry.make());
+        widget->ensurePolished();
+        widget->grab();
+    }
+    qInstallMessageHandler(previous);
+    messages.removeAll(QStringLiteral("This plugin does not support propagateSizeHints()"));
+    QCOMPARE(messages, QStringList());
+}
+
+void StyleSheetsTest::everyImageIsThere()
+{
+    const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
+    QSet<QString> paths;
+    for (const QString& sheet : sheets) {
+        for (auto match = url.globalMatch(contentOf(sheet)); match.hasNext();) {
+            paths += match.next().captured(1);
+        }
+    }
+    QVERIFY(paths.size() > 70);
+    for (const QString& path : qAsConst(paths)) {
+        QVERIFY2(path.startsWith(QLatin1String(":/icons/")), qPrintable(path));
+        QVERIFY2(!QIcon(path).pixmap(32).isNull(), qPrintable(path));
+    }
+}
+
+void StyleSheetsTest::everyClassHasARule_data()
+{
+    QTest::addColumn<int>("row");
+    int row = 0;
+    for (const WidgetClass& entry : widgetClasses) {
+        QTest::newRow(entry.name) << row++;
+    }
+}
+
+/// Its own or that of a class between it and QWidget.
+void StyleSheetsTest::everyClassHasARule()
+{
+    QFETCH(int, row);
+    const std::unique_ptr<QWidget> widget(widgetClasses[row].make());
+    const QString sheet = qApp->styleSheet();
+    QStringList names;
+    for (auto* meta = widget->metaObject(); meta != &QWidget::staticMetaObject; meta = meta->superClass()) {
+        names += QString::fromLatin1(meta->className());
+    }
+    const QString begins = QStringLiteral("(^|, )(%1)\\b[^{}]*[,{]").arg(names.join(QLatin1Char('|')));
+    const QRegularExpression rule(begins, QRegularExpression::MultilineOption);
+    QVERIFY2(rule.match(sheet).hasMatch(), qPrintable(names.join(QLatin1Char(' '))));
+}
+
+void StyleSheetsTest::predefinedSheets()
+{
+    const QStringList parts = {contentOf(QStringLiteral("custom")), contentOf(QStringLiteral("slider")),
+                               contentOf(QStringLiteral("settings")),
+                               contentOf(QStringLiteral("message_box")), contentOf(QStringLiteral("win"))};
+    QCOMPARE(qApp->styleSheet(), parts.join(QString()));
+    setPredefinedAppStyleSheet(QStringLiteral(":/qss/mac.qss"), qApp);
+    QCOMPARE(qApp->styleSheet(), contentOf(QStringLiteral("mac")) + parts.mid(1).join(QString()));
+}
+
+void StyleSheetsTest::fontFamilies()
+{
+    const auto families = [](QWidget& widget) {
+        widget.ensurePolished();
+        return widget.font().families();
+    };
+    QSlider slider;
+    QCOMPARE(families(slider).constFirst(), QStringLiteral("Lucida Sans Unicode"));
+    QDialog other;
+    CAboutDlg about;
+    QLabel elsewhere(&other);
+    QLabel label(&about);
+    elsewhere.setObjectName(QStringLiteral("label_1"));
+    label.setObjectName(QStringLiteral("label_1"));
+    QCOMPARE(families(label).constFirst(), QStringLiteral("OpenSansLight"));
+    QCOMPARE(families(elsewhere).constFirst(), QStringLiteral("Lucida Sans Unicode"));
+    QVERIFY(families(label).size() > 5);
+}
+
+void StyleSheetsTest::fontsAndIcon()
+{
+    loadFonts();
+    for (int id = 0; id < 9; ++id) {
+        QVERIFY2(!QFontDatabase::applicationFontFamilies(id).isEmpty(), qPrintable(QString::number(id)));
+    }
+    QVERIFY(QFontDatabase::applicationFontFamilies(9).isEmpty());
+    QVERIFY(QFontDatabase::applicationFontFamilies(4).contains(QStringLiteral("Roboto"))); // Bold, the fifth
+
+    QVERIFY(loadAppLogoIcon());
+    QList<QSize> sizes;
+    for (const int side : {16, 32, 48, 96, 128, 256, 512, 1024}) {
+        sizes += QSize(side, side);
+    }
+    QCOMPARE(QApplication::windowIcon().availableSizes(), sizes);
+}
+
+TOLVAN_GUI_TEST_MAIN(StyleSheetsTest)
+#include "tst_stylesheets.moc"
