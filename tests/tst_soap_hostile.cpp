@@ -55,8 +55,6 @@ QByteArray wide(const QByteArray& utf8)
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<QByteArray()>)
-
 /// Documents from servers that are broken or mean harm: an error text each, soon, and a message that is a
 /// fault.
 class SoapHostileTest : public QObject

@@ -78,8 +78,6 @@ public Q_SLOTS:
 
 } // namespace
 
-Q_DECLARE_METATYPE(HttpLoopback::Answer)
-
 /// The transport against a server in the same program that behaves, and one that does not.
 class SoapTransportTest : public QObject
 {

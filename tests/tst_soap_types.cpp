@@ -55,8 +55,6 @@ public:
 
 } // namespace
 
-Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapQName)
-
 /// Values on their own: conversions, lookups, arrays, iterators, ownership.
 class SoapTypesTest : public QObject
 {
