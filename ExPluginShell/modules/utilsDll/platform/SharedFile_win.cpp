@@ -41,6 +41,12 @@ HANDLE openPatiently(const wchar_t* path, DWORD access)
     }
 }
 
+/// Whether only other programs can be in the way of replacing a file, not what it is.
+bool isReplaceable(const QFileInfo& file)
+{
+    return file.isFile() && file.isWritable();
+}
+
 bool writeThrough(QFile& file, const QByteArray& text)
 {
     const bool written = file.write(text) == text.size() && file.flush() &&
@@ -60,8 +66,7 @@ bool movePatiently(const QString& from, const QString& to)
                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
             return true;
         }
-        const QFileInfo obstacle(to);
-        if (attempt == mostAttempts || !obstacle.isFile() || !obstacle.isWritable()) {
+        if (attempt == mostAttempts || !isReplaceable(QFileInfo(to))) {
             return false;
         }
         Sleep(pause);
@@ -94,6 +99,10 @@ bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
 
 bool replaceSharedFile(const QString& path, const QByteArray& text)
 {
+    const QFileInfo existing(path);
+    if (existing.exists() && !isReplaceable(existing)) {
+        return false;
+    }
     const QString unique = QUuid::createUuid().toString(QUuid::Id128);
     QFile file(path + QLatin1Char('.') + unique);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text | QIODevice::NewOnly)) {
