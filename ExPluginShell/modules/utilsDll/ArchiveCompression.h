@@ -40,7 +40,8 @@ UTILSDLL_EXPORT bool CompressFiles(const QStringList& files, const QString& arch
 /// Nothing is reported. Entries that fail are left out and the others are written. An entry fails when
 /// - its name leads out of the folder: "..", an absolute path, a drive, through a link;
 /// - it is a link that points out of the folder (or any link, on Windows);
-/// - its name can't be used on this system (device names, "a:b" and the like on Windows);
+/// - its name can't be used on this system (device names, "a:b" and the like on Windows) or has more than 256
+/// parts;
 /// - its content is damaged, encrypted, or packed in another way than stored or deflated;
 /// - it is larger than the free space of the volume. Nothing else bounds the size: an archive of a few
 ///   megabytes may expand to gigabytes.

@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr quint16 unicodePathField = 0x7075;
+constexpr int deepestName =
+    256; // folders; every system takes longer the deeper it gets, in the end without end
 
 /// The upper half of code page 437, which the zip format takes for unmarked names.
 constexpr char16_t upperHalf[] = u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒ"
@@ -133,7 +135,7 @@ QStringList safeParts(const QString& name, NameRules rules)
     parts.removeAll(QStringLiteral("."));
     const bool usable = std::all_of(parts.begin(), parts.end(),
                                     [rules](const QString& part) { return isUsablePart(part, rules); });
-    return usable ? parts : QStringList();
+    return usable && parts.size() <= deepestName ? parts : QStringList();
 }
 
 bool linkStaysInside(const QStringList& folder, const QString& target)

@@ -14,5 +14,8 @@ QVector<Page> pages()
         {"web-service", QT_TRANSLATE_NOOP("Pages", "Web service"),
          QT_TRANSLATE_NOOP("Pages", "A SOAP client and the small service that it asks, both in this process."),
          &makeWebServicePage},
+        {"files", QT_TRANSLATE_NOOP("Pages", "Files"),
+         QT_TRANSLATE_NOOP("Pages", "Names, sizes, archives, the recycle bin and the file browser."),
+         &makeFilesPage},
     };
 }

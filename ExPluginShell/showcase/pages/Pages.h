@@ -22,3 +22,4 @@ QVector<Page> pages();
 QWidget* makeLoggingPage(QWidget* parent);
 QWidget* makeStylePage(QWidget* parent);
 QWidget* makeWebServicePage(QWidget* parent);
+QWidget* makeFilesPage(QWidget* parent);

@@ -11,5 +11,8 @@ QVector<Section> sections()
         {"Languages", &showLanguages},
         {"Web service", &showWebService},
         {"Asynchronous execution", &showAsync},
+        {"Logging", &showLogging},          {"Storage locations", &showStorage},
+        {"Settings", &showSettings},        {"Application state and process", &showState},
+        {"Files and archives", &showFiles},
     };
 }

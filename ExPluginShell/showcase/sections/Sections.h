@@ -21,3 +21,4 @@ void showBundles(Report& report);
 void showLanguages(Report& report);
 void showWebService(Report& report);
 void showAsync(Report& report);
+void showFiles(Report& report);

@@ -56,18 +56,18 @@ private:
     void replaceAcceptButton()
     {
         auto* const box = findChild<QDialogButtonBox*>();
-        auto* const open = box ? box->button(QDialogButtonBox::Open) : nullptr;
-        if (open) {
-            open->hide();
-            open->setDefault(false);
-            open->setAutoDefault(false);
+        if (!box) {
+            return;
+        }
+        delete box->button(QDialogButtonBox::Open); // the dialog itself would show and hide it
+        if (QPushButton* const cancel = box->button(QDialogButtonBox::Cancel)) {
+            cancel->setAutoDefault(false); // it would take the place of the default button
+            cancel->setDefault(false);
         }
         auto* const select = new QPushButton(QStringLiteral("Select Folder"), this);
         select->setObjectName(QStringLiteral("selectFolderButton"));
         select->setAutoDefault(false); // Enter in the name field must not choose
-        if (box) {
-            box->addButton(select, QDialogButtonBox::ActionRole);
-        }
+        box->addButton(select, QDialogButtonBox::ActionRole);
         connect(select, SIGNAL(clicked()), this, SLOT(takeOpenFolder()));
     }
 
