@@ -3,6 +3,9 @@
 #include "ArchiveExtraction.h"
 #include "ArchivePacking.h"
 
+#include <quazip/quazip.h>
+#include <quazip/quazipfileinfo.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -21,8 +24,6 @@ using namespace TOLVAN_NAMESPACE;
 namespace
 {
 
-constexpr int smallestRatio = 4; // how much smaller an archive is taken to be than its content
-
 QStringList filesBelow(const QString& folder)
 {
     QStringList files;
@@ -32,6 +33,18 @@ QStringList filesBelow(const QString& folder)
     }
     files.sort();
     return files;
+}
+
+qint64 contentSize(const QString& archive)
+{
+    QuaZip zip(archive);
+    qint64 size = 0;
+    if (zip.open(QuaZip::mdUnzip)) {
+        for (const QuaZipFileInfo64& entry : zip.getFileInfoList64()) {
+            size += static_cast<qint64>(entry.uncompressedSize);
+        }
+    }
+    return size;
 }
 
 QByteArray contentOf(const QString& path)
@@ -87,7 +100,7 @@ bool FileWork::isTerminal()
 
 void FileWork::run()
 {
-    m_succeeded = !isInterruptionRequested() && (m_kind == Pack ? pack() : unpack());
+    m_succeeded = m_kind == Pack ? pack() : unpack();
 }
 
 bool FileWork::report(qint64 bytes, qint64 total)
@@ -115,7 +128,7 @@ bool FileWork::pack()
 
 bool FileWork::unpack()
 {
-    const qint64 expected = QFileInfo(m_from).size() * smallestRatio;
+    const qint64 expected = contentSize(m_from);
     const bool unpacked = extractEntries(m_from, m_to, [&](qint64 bytes) { return report(bytes, expected); });
     m_fileCount = filesBelow(m_to).size();
     return unpacked;

@@ -109,7 +109,7 @@ void showArchive(Report& report, const QDir& scratch)
                  unpacked && difference.isEmpty());
 
     FileWork cancelled(FileWork::Pack, source, scratch.filePath(QStringLiteral("cancelled.zip")));
-    cancelled.requestInterruption();
+    QObject::connect(&cancelled, &FileWork::progress, [&](int) { cancelled.requestInterruption(); });
     cancelled.start();
     cancelled.wait();
     report.check(QStringLiteral("packing cancelled"), QStringLiteral("no archive is left"),
