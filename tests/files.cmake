@@ -15,4 +15,5 @@ if(NOT WIN32) # the toolkit's own dialogs; the file manager is asked over the bu
     add_dependencies(tst_nativedialogs dialogs_module)
     target_compile_definitions(tst_nativedialogs PRIVATE DIALOGS_MODULE="$<TARGET_FILE:dialogs_module>")
     tolvan_add_test(tst_reveal LIBRARIES files_support Qt5::DBus)
+    tolvan_add_test(tst_archives_slow INTERNAL LIBRARIES files_support LABELS slow TIMEOUT 900)
 endif()

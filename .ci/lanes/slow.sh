@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# The tests that take minutes or gigabytes.
+set -euo pipefail
+source tools/setup.sh
+install_packages build test
+build release
+ctest --preset release -L slow
