@@ -9,10 +9,8 @@ QVector<Section> sections()
         {"Application state and process", &showState},
         {"Resource bundles", &showBundles},
         {"Languages", &showLanguages},
-        {"Web service", &showWebService},
         {"Asynchronous execution", &showAsync},
-        {"Logging", &showLogging},          {"Storage locations", &showStorage},
-        {"Settings", &showSettings},        {"Application state and process", &showState},
         {"Files and archives", &showFiles},
+        {"Web service", &showWebService},
     };
 }
