@@ -1,0 +1,52 @@
+#pragma once
+
+#include "../utilsdll_global.h"
+
+#include <QIcon>
+#include <QSize>
+#include <QWidget>
+
+namespace TOLVAN_NAMESPACE
+{
+
+/// Shows an icon as large as the widget allows, centred and in proportion, sharp at any device pixel ratio.
+///
+/// Drawings fill the widget; of an icon made of bitmaps the nearest one is taken and never enlarged. A
+/// disabled widget shows the icon's disabled mode. Without an icon nothing is painted, so a style sheet's
+/// background stays visible.
+///
+/// \code
+/// auto* viewer = new TOLVAN_NAMESPACE::CIconViewer(dialog);
+/// viewer->setSizeHint({34, 34});
+/// viewer->setIcon(QIcon(QStringLiteral(":/icons/messagebox/info_dark_icon.svg")));
+/// \endcode
+///
+/// Main thread only.
+class UTILSDLL_EXPORT CIconViewer : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// An empty viewer with the size hint 0 × 0.
+    explicit CIconViewer(QWidget* parent = nullptr);
+    ~CIconViewer() override;
+
+    /// Shows \a icon; a null icon shows nothing.
+    void setIcon(const QIcon& icon);
+    /// The icon shown.
+    QIcon icon() const;
+
+    /// Sets what sizeHint() tells the layout, in logical pixels.
+    void setSizeHint(const QSize& size);
+    /// What setSizeHint() set.
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QIcon m_icon;
+    QSize m_sizeHint{0, 0};
+};
+
+} // namespace TOLVAN_NAMESPACE

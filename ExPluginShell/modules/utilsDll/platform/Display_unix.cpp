@@ -1,0 +1,19 @@
+#include "platform/Display.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+double logicalDotsPerInch()
+{
+    constexpr double unscaled = 96.0;
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInchX() : unscaled;
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE

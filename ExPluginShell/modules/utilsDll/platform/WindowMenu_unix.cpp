@@ -1,0 +1,30 @@
+#include "platform/WindowMenu.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <QWindow>
+
+namespace TOLVAN_NAMESPACE
+{
+namespace Platform
+{
+
+void setCloseCommandEnabled(quint64 window, bool enable)
+{
+    if (window == 0) { // what widgets without a native window tell
+        return;
+    }
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (widget->internalWinId() != window) {
+            continue;
+        }
+        Qt::WindowFlags flags = widget->windowFlags();
+        flags.setFlag(Qt::WindowCloseButtonHint, enable);
+        // setWindowFlags() would hide the widget and make a new native window.
+        widget->overrideWindowFlags(flags);
+        widget->windowHandle()->setFlags(flags);
+    }
+}
+
+} // namespace Platform
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,16 @@
+# The user-interface toolkit. What a window manager has a say in runs a second time on an X server of its own.
+tolvan_add_test(tst_geometry)
+tolvan_add_test(tst_imagecomparison)
+tolvan_add_test(tst_tooldrawing)
+tolvan_add_test(tst_guiutils)
+tolvan_add_test(tst_basedialog)
+tolvan_add_test(tst_controls)
+tolvan_add_test(tst_messagebox)
+tolvan_add_test(tst_aboutdialogs)
+target_compile_definitions(tst_aboutdialogs PRIVATE PRODUCT_VERSION="${UTILSDLL_PRODUCT_VERSION}")
+if(NOT WIN32)
+    foreach(name tst_guiutils tst_basedialog tst_controls tst_messagebox tst_aboutdialogs)
+        tolvan_register_test(${name}_x11 LABELS x11 COMMAND
+            "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:${name}>)
+    endforeach()
+endif()

@@ -1,0 +1,111 @@
+#include "TestMain.h"
+
+#include <utilsDll/AboutDlg.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+/// The About dialogs: what they tell, the names that the style sheets address, and how they close.
+class AboutDialogsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void texts_data();
+    void texts();
+    void styleSheetReachesTheName();
+    void closes_data();
+    void closes();
+};
+
+namespace
+{
+
+QString labelText(const QDialog& dialog, int number)
+{
+    const auto* const label = dialog.findChild<QLabel*>(QStringLiteral("label_%1").arg(number));
+    return label ? label->text() : QStringLiteral("(no label)");
+}
+
+std::unique_ptr<TOLVAN_NAMESPACE::CBaseDialog> make(bool family)
+{
+    if (family) {
+        return std::make_unique<CAboutOstraDlg>();
+    }
+    return std::make_unique<TOLVAN_NAMESPACE::CAboutDlg>();
+}
+
+} // namespace
+
+void AboutDialogsTest::texts_data()
+{
+    QTest::addColumn<bool>("family");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("product") << false << QStringLiteral("Trelio Frame");
+    QTest::newRow("family") << true << QStringLiteral("Ostra Collection");
+}
+
+void AboutDialogsTest::texts()
+{
+    QFETCH(bool, family);
+    QFETCH(QString, name);
+    const auto dialog = make(family);
+    QCOMPARE(labelText(*dialog, 1), name);
+    QVERIFY(labelText(*dialog, 2).contains(QStringLiteral(PRODUCT_VERSION)));
+    QVERIFY(labelText(*dialog, 3).contains(QStringLiteral("Tolvan")));
+    QCOMPARE(labelText(*dialog, 4).contains(QStringLiteral("LGPL 3")), !family);
+    QVERIFY(labelText(*dialog, 5).contains(QStringLiteral("https://")));
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    for (const QLabel* const label : dialog->findChildren<QLabel*>()) {
+        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->objectName()));
+        QVERIFY2(dialog->rect().contains(QRect(label->mapTo(dialog.get(), QPoint()), label->size())),
+                 qPrintable(label->objectName()));
+    }
+}
+
+void AboutDialogsTest::styleSheetReachesTheName()
+{
+    qApp->setStyleSheet(QStringLiteral("CAboutDlg #label_1 { font-size: 31px; }"));
+    CAboutDlg dialog;
+    CAboutOstraDlg other;
+    auto* const label = dialog.findChild<QLabel*>(QStringLiteral("label_1"));
+    label->ensurePolished();
+    QCOMPARE(label->font().pixelSize(), 31);
+    auto* const otherLabel = other.findChild<QLabel*>(QStringLiteral("label_1"));
+    otherLabel->ensurePolished();
+    QVERIFY(otherLabel->font().pixelSize() != 31);
+    qApp->setStyleSheet(QString());
+}
+
+void AboutDialogsTest::closes_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("button") << 0;
+    QTest::newRow("Enter") << int(Qt::Key_Return);
+    QTest::newRow("Escape") << int(Qt::Key_Escape);
+}
+
+void AboutDialogsTest::closes()
+{
+    QFETCH(int, key);
+    for (const bool family : {false, true}) {
+        const auto dialog = make(family);
+        bool closed = false;
+        QTimer::singleShot(0, dialog.get(), [&] {
+            if (key != 0) {
+                QTest::keyClick(dialog.get(), static_cast<Qt::Key>(key));
+            } else {
+                dialog->findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
+            }
+            closed = !dialog->isVisible();
+            dialog->reject();
+        });
+        dialog->exec();
+        QVERIFY(closed);
+    }
+}
+
+TOLVAN_GUI_TEST_MAIN(AboutDialogsTest)
+#include "tst_aboutdialogs.moc"

@@ -1,0 +1,208 @@
+#include "ScreenProbe.h"
+#include "TestMain.h"
+
+#include <utilsDll/BaseDialog.h>
+
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+using TOLVAN_NAMESPACE::CBaseDialog;
+
+namespace
+{
+
+constexpr QSize contentSize(241, 121);
+const QColor contentColor(250, 3, 251);
+
+class Dialog : public CBaseDialog
+{
+public:
+    explicit Dialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags())
+        : CBaseDialog(parent, flags)
+    {
+        setObjectName(QStringLiteral("testDialog"));
+        auto* const layout = new QVBoxLayout(this);
+        auto* const content = new QWidget;
+        content->setFixedSize(contentSize);
+        ScreenProbe::paint(*content, contentColor);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(content);
+    }
+
+    using CBaseDialog::canUseInAATSignalService;
+    using CBaseDialog::setHeaderHeight;
+};
+
+/// Where a dialog of the content's size stands in the middle of \a screen.
+QPoint middleOf(const QScreen& screen)
+{
+    const QSize free = screen.size() - contentSize;
+    return screen.geometry().topLeft() + QPoint(free.width() / 2, free.height() / 2);
+}
+
+/// Where the user sees the dialog.
+QPoint seenAt(const QWidget& dialog)
+{
+    return ScreenProbe::canSee() ? ScreenProbe::areaOf(contentColor).topLeft() : dialog.pos();
+}
+
+void showAndWait(QWidget& window)
+{
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+}
+
+/// Shows \a dialog at \a place. An explicit move makes the toolkit sure of the place, which it may not be
+/// after a window manager took a window over.
+void showAt(QWidget& dialog, const QPoint& place)
+{
+    showAndWait(dialog);
+    dialog.move(place - QPoint(1, 1));
+    dialog.move(place);
+    QTRY_COMPARE(seenAt(dialog), place);
+    QTRY_COMPARE(dialog.pos(), place);
+}
+
+/// One step of a drag, seen from the screen.
+void sendMouse(QWidget& window, QEvent::Type type, const QPoint& global, Qt::MouseButton button)
+{
+    const Qt::MouseButtons held = type == QEvent::MouseMove ? Qt::LeftButton : button;
+    QMouseEvent event(type, window.mapFromGlobal(global), global, button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+} // namespace
+
+class BaseDialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void flags_data();
+    void flags();
+    void methodsForTheAutomationService();
+    void firstShowCentres();
+    void laterShowsKeepThePlace();
+    void dragStarts_data();
+    void dragStarts();
+    void dragFollowsUntilAnyRelease();
+};
+
+void BaseDialogTest::flags_data()
+{
+    QTest::addColumn<int>("asked");
+    QTest::newRow("none") << 0;
+    QTest::newRow("all buttons") << int(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint);
+    QTest::newRow("tool") << int(Qt::Tool | Qt::WindowStaysOnTopHint);
+}
+
+void BaseDialogTest::flags()
+{
+    QFETCH(int, asked);
+    const Dialog dialog(nullptr, static_cast<Qt::WindowFlags>(asked));
+    const Qt::WindowFlags flags = dialog.windowFlags();
+    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+    QCOMPARE(flags & Qt::WindowFlags(0x1C000), Qt::WindowFlags());
+    QCOMPARE(flags.testFlag(Qt::WindowStaysOnTopHint), (asked & Qt::WindowStaysOnTopHint) != 0);
+    QVERIFY(dialog.testAttribute(Qt::WA_TranslucentBackground));
+}
+
+void BaseDialogTest::methodsForTheAutomationService()
+{
+    Dialog dialog;
+    const QMetaObject& meta = CBaseDialog::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods += QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    QCOMPARE(methods,
+             QStringList({QStringLiteral("sendNotification()"), QStringLiteral("moveToScreenCenter()"),
+                          QStringLiteral("getObjectName()")}));
+    QVERIFY(dialog.canUseInAATSignalService());
+    QString name;
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "getObjectName", Q_RETURN_ARG(QString, name)));
+    QCOMPARE(name, QStringLiteral("testDialog"));
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "sendNotification"));
+    showAt(dialog, {1, 2});
+    dialog.resize(400, 400);
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "moveToScreenCenter"));
+    QCOMPARE(dialog.size(), contentSize);
+    QTRY_COMPARE(seenAt(dialog), middleOf(*QGuiApplication::primaryScreen()));
+}
+
+void BaseDialogTest::firstShowCentres()
+{
+    QWidget parent;
+    parent.setGeometry(20, 30, 100, 100);
+    for (QWidget* const owner : {static_cast<QWidget*>(nullptr), &parent}) {
+        Dialog dialog(owner);
+        dialog.move(7, 9); // a place set before the first show does not count
+        dialog.resize(500, 400);
+        showAndWait(dialog);
+        QCOMPARE(dialog.size(), contentSize);
+        QTRY_COMPARE(seenAt(dialog), middleOf(*QGuiApplication::primaryScreen()));
+    }
+}
+
+void BaseDialogTest::laterShowsKeepThePlace()
+{
+    const QPoint place(60, 40);
+    Dialog dialog;
+    showAt(dialog, place);
+    dialog.hide();
+    showAndWait(dialog);
+    QTest::qWait(50);
+    QTRY_COMPARE(seenAt(dialog), place);
+}
+
+void BaseDialogTest::dragStarts_data()
+{
+    QTest::addColumn<int>("header");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("drags");
+    QTest::newRow("in the header") << 30 << 10 << int(Qt::LeftButton) << true;
+    QTest::newRow("on its last line") << 30 << 30 << int(Qt::LeftButton) << true;
+    QTest::newRow("below it") << 30 << 31 << int(Qt::LeftButton) << false;
+    QTest::newRow("no header: anywhere") << 0 << 110 << int(Qt::LeftButton) << true;
+    QTest::newRow("right button") << 0 << 10 << int(Qt::RightButton) << false;
+    QTest::newRow("negative header: nowhere") << -1 << 10 << int(Qt::LeftButton) << false;
+}
+
+void BaseDialogTest::dragStarts()
+{
+    QFETCH(int, header);
+    QFETCH(int, y);
+    QFETCH(int, button);
+    QFETCH(bool, drags);
+    Dialog dialog;
+    dialog.setHeaderHeight(header);
+    const QPoint before(200, 150);
+    showAt(dialog, before);
+    const QPoint grip = dialog.mapToGlobal({50, y});
+    sendMouse(dialog, QEvent::MouseButtonPress, grip, static_cast<Qt::MouseButton>(button));
+    sendMouse(dialog, QEvent::MouseMove, grip + QPoint(11, -7), Qt::NoButton);
+    QTRY_COMPARE(seenAt(dialog), drags ? before + QPoint(11, -7) : before);
+}
+
+void BaseDialogTest::dragFollowsUntilAnyRelease()
+{
+    Dialog dialog;
+    const QPoint before(200, 150);
+    showAt(dialog, before);
+    const QPoint grip = dialog.mapToGlobal({10, 10});
+    sendMouse(dialog, QEvent::MouseButtonPress, grip, Qt::LeftButton);
+    for (const QPoint way : {QPoint(5, 5), QPoint(-90, 40), QPoint(-30, -20)}) {
+        sendMouse(dialog, QEvent::MouseMove, grip + way, Qt::NoButton);
+        QTRY_COMPARE(seenAt(dialog), before + way);
+    }
+    sendMouse(dialog, QEvent::MouseButtonRelease, grip, Qt::RightButton);
+    sendMouse(dialog, QEvent::MouseMove, grip + QPoint(80, 80), Qt::NoButton);
+    QTest::qWait(20);
+    QCOMPARE(seenAt(dialog), before + QPoint(-30, -20));
+}
+
+TOLVAN_GUI_TEST_MAIN(BaseDialogTest)
+#include "tst_basedialog.moc"

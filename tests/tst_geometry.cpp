@@ -1,0 +1,160 @@
+#include "TestMain.h"
+
+#include <utilsDll/GuiUtils.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+double above(double value)
+{
+    return std::nextafter(value, infinity);
+}
+
+double below(double value)
+{
+    return std::nextafter(value, -infinity);
+}
+
+} // namespace
+
+/// Lines and circles, and rounding: the tables of the tools, with neighbours in the last place.
+class GeometryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lineMeetsCircle_data();
+    void lineMeetsCircle();
+    void pointsLieOnBoth();
+    void rounding_data();
+    void rounding();
+};
+
+void GeometryTest::lineMeetsCircle_data()
+{
+    QTest::addColumn<QList<double>>("line");
+    QTest::addColumn<QList<double>>("circle");
+    QTest::addColumn<QList<QPointF>>("points");
+    const QList<double> axis{0, 0, 2, 0};
+
+    QTest::newRow("through the centre") << axis << QList<double>{1, 0, 1} << QList<QPointF>{{0, 0}, {2, 0}};
+    QTest::newRow("other direction, other order")
+        << QList<double>{2, 0, 0, 0} << QList<double>{1, 0, 1} << QList<QPointF>{{2, 0}, {0, 0}};
+    QTest::newRow("beyond the two points")
+        << axis << QList<double>{101, 0, 1} << QList<QPointF>{{100, 0}, {102, 0}};
+    QTest::newRow("upright") << QList<double>{3, 0, 3, -1} << QList<double>{3, 4, 2}
+                             << QList<QPointF>{{3, 6}, {3, 2}};
+    QTest::newRow("touching") << axis << QList<double>{1, 1, 1} << QList<QPointF>{{1, 0}};
+    QTest::newRow("radius a last place short")
+        << axis << QList<double>{1, 1, below(1)} << QList<QPointF>{{1, 0}};
+    QTest::newRow("radius short by 12 digits") << axis << QList<double>{1, 1, 1 - 2e-12} << QList<QPointF>{};
+    QTest::newRow("passing by") << axis << QList<double>{1, 1, 0.5} << QList<QPointF>{};
+    QTest::newRow("a point as circle, on the line")
+        << axis << QList<double>{1, 0, 0} << QList<QPointF>{{1, 0}};
+    QTest::newRow("a point as circle, off the line") << axis << QList<double>{1, 1e-9, 0} << QList<QPointF>{};
+    QTest::newRow("negative radius") << axis << QList<double>{1, 1, -1} << QList<QPointF>{};
+    QTest::newRow("no line") << QList<double>{3, 3, 3, 3} << QList<double>{3, 3, 5} << QList<QPointF>{};
+    QTest::newRow("points at 1e-12") << QList<double>{0, 0, 1e-12, 0} << QList<double>{0, 0, 5}
+                                     << QList<QPointF>{};
+    QTest::newRow("points just further apart")
+        << QList<double>{0, 0, above(1e-12), 0} << QList<double>{0, 0, 5} << QList<QPointF>{{-5, 0}, {5, 0}};
+    QTest::newRow("beyond what a square can hold")
+        << QList<double>{0, 0, 1e200, 1e200} << QList<double>{1, 1, 1} << QList<QPointF>{};
+    QTest::newRow("not a number") << QList<double>{0, 0, notANumber, 1} << QList<double>{0, 0, 1}
+                                  << QList<QPointF>{};
+    QTest::newRow("radius not a number") << axis << QList<double>{1, 0, notANumber} << QList<QPointF>{};
+    QTest::newRow("infinite line") << QList<double>{0, 0, infinity, 0} << QList<double>{0, 0, 1}
+                                   << QList<QPointF>{};
+}
+
+void GeometryTest::lineMeetsCircle()
+{
+    QFETCH(const QList<double>, line);
+    QFETCH(const QList<double>, circle);
+    QFETCH(const QList<QPointF>, points);
+    QCOMPARE(
+        lineAndCircleIntersectionPoints(line[0], line[1], line[2], line[3], circle[0], circle[1], circle[2]),
+        points);
+}
+
+void GeometryTest::pointsLieOnBoth()
+{
+    // A radius that is larger in the last place only still gives two points.
+    QCOMPARE(lineAndCircleIntersectionPoints(0, 0, 2, 0, 1, 1, above(1)).size(), 2);
+    for (int degrees = 0; degrees < 360; degrees += 7) {
+        const double angle = degrees * M_PI / 180.0;
+        const double dx = 1e5 * std::cos(angle);
+        const double dy = 1e5 * std::sin(angle);
+        const auto points = lineAndCircleIntersectionPoints(-7, 3, -7 + dx, 3 + dy, 11, 13, 500);
+        QCOMPARE(points.size(), 2);
+        for (const QPointF& point : points) {
+            QVERIFY(std::abs(std::hypot(point.x() - 11, point.y() - 13) - 500) < 1e-9);
+            QVERIFY(std::abs((point.x() + 7) * dy - (point.y() - 3) * dx) / 1e5 < 1e-9);
+        }
+        const QPointF way = points[1] - points[0];
+        QVERIFY(way.x() * dx + way.y() * dy > 0); // first the one that the direction meets first
+    }
+}
+
+void GeometryTest::rounding_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("rounded");
+
+    const auto row = [](const char* name, double value, int precision, double rounded) {
+        QTest::newRow(name) << value << precision << rounded;
+    };
+    row("half up", 2.345, 2, 2.35);
+    row("whole, half up", 1.5, 0, 2);
+    row("whole, negative half up", -2.5, 0, -2);
+    row("whole, beyond the negative half", below(-2.5), 0, -3);
+    row("whole, below the half", below(2.5), 0, 2);
+    row("whole, half", 0.5, 0, 1);
+    row("whole, a last place below the half", below(0.5), 0, 1); // 0.5 more is 1 in a double
+    row("whole, negative, nearly the half", above(-0.5), 0, 0);
+    row("negative precision rounds whole", 123.6, -3, 124);
+    row("zero", 0, 3, 0);
+    row("negative zero", -0.0, 3, 0);
+    row("one decimal", 0.25, 1, 0.3);
+    row("one decimal, negative half", -0.25, 1, -0.2);
+    row("negative", -2.346, 2, -2.35);
+    row("three decimals", 1.23456, 3, 1.235);
+    row("differs beyond 12 digits only", 0.1234567890123456, 15, 0.1234567890123456);
+    row("already rounded", 2.35, 2, 2.35);
+    row("last place above stays", above(2.35), 2, above(2.35));
+    row("last place below stays", below(1.1), 1, below(1.1));
+    row("whole number with decimals", 1e15, 3, 1e15);
+    row("factor beyond a double", 1.5, 400, 1.5);
+    row("300 decimals", 1.2345678901234567, 300, 1.2345678901234567);
+    row("too small to have decimals", 5e-324, 2, 5e-324);
+    row("small, rounded away", 0.001, 2, 0);
+    row("infinity with decimals", infinity, 2, infinity);
+    row("beyond the integers", 1e10, 0, 2147483647);
+    row("negative beyond the integers", -1e10, 0, -2147483648.0);
+    row("the last integer", 2147483647.4, 0, 2147483647);
+    row("the first integer", -2147483648.4, 0, -2147483648.0);
+    row("infinity", infinity, 0, 2147483647);
+    row("not a number", notANumber, 0, 0);
+}
+
+void GeometryTest::rounding()
+{
+    QFETCH(double, value);
+    QFETCH(int, precision);
+    QFETCH(double, rounded);
+    const double result = roundWithPrecision(value, precision);
+    QVERIFY2(result == rounded, qPrintable(QString::number(result, 'g', 17)));
+    QVERIFY(std::isnan(roundWithPrecision(notANumber, 2)));
+}
+
+TOLVAN_CORE_TEST_MAIN(GeometryTest)
+#include "tst_geometry.moc"

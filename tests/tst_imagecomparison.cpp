@@ -1,0 +1,189 @@
+#include "TestMain.h"
+
+#include <utilsDll/GuiUtils.h>
+
+#include <QImage>
+#include <QRandomGenerator>
+
+#include <cmath>
+#include <limits>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+/// The measure in its plainest form, pixel by pixel.
+double plainMeasure(const QImage& first, const QImage& second, double difference)
+{
+    const double pixels = static_cast<double>(first.width()) * first.height();
+    for (int y = 0; y < first.height(); ++y) {
+        for (int x = 0; x < first.width(); ++x) {
+            const QRgb a = reinterpret_cast<const QRgb*>(first.constScanLine(y))[x];
+            const QRgb b = reinterpret_cast<const QRgb*>(second.constScanLine(y))[x];
+            difference += std::abs(qRed(b) - qRed(a)) / 255.0;
+            difference += std::abs(qGreen(b) - qGreen(a)) / 255.0;
+            difference += std::abs(qBlue(b) - qBlue(a)) / 255.0;
+        }
+        difference = difference * 100.0 / (pixels * 3.0);
+    }
+    return difference * 100.0 / (pixels * 3.0);
+}
+
+QImage noise(const QSize& size, quint32 seed, QImage::Format format = QImage::Format_ARGB32)
+{
+    QRandomGenerator random(seed);
+    QImage image(size, format);
+    for (int y = 0; y < size.height(); ++y) {
+        random.fillRange(reinterpret_cast<quint32*>(image.scanLine(y)), size.width());
+    }
+    return image;
+}
+
+QImage filled(const QSize& size, QRgb pixel)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(pixel);
+    return image;
+}
+
+} // namespace
+
+class ImageComparisonTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusals();
+    void plainMeasureIsTheMeasure_data();
+    void plainMeasureIsTheMeasure();
+    void threshold_data();
+    void threshold();
+    void alphaDoesNotCount();
+    void rowsWeighMoreTheLowerTheyAre();
+    void shallowImagesAreConverted_data();
+    void shallowImagesAreConverted();
+    void partOfALargerImage();
+};
+
+void ImageComparisonTest::refusals()
+{
+    const QImage image = filled({4, 4}, qRgb(1, 2, 3));
+    double difference = 42.0;
+    QCOMPARE(compareImages(QImage(), image, difference, 1), imgCmpInvalid);
+    QCOMPARE(compareImages(image, QImage(), difference, 1), imgCmpInvalid);
+    QCOMPARE(compareImages(QImage(), QImage(), difference, 1), imgCmpInvalid);
+    QCOMPARE(compareImages(image, filled({4, 5}, 0), difference, 1), imgCmpSizeDiffers);
+    QCOMPARE(compareImages(image, filled({2, 8}, 0), difference, 1), imgCmpSizeDiffers);
+    QCOMPARE(difference, 42.0);
+}
+
+void ImageComparisonTest::plainMeasureIsTheMeasure_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("incoming");
+    for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(7, 5), QSize(17, 1), QSize(1, 33),
+                             QSize(1023, 3), QSize(1025, 2), QSize(4099, 2)}) {
+        for (const double incoming : {0.0, 0.5, -3.25, 1e9}) {
+            QTest::addRow("%dx%d from %g", size.width(), size.height(), incoming) << size << incoming;
+        }
+    }
+}
+
+void ImageComparisonTest::plainMeasureIsTheMeasure()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, incoming);
+    const QImage black = filled(size, 0);
+    const QImage white = filled(size, 0xffffffff);
+    const std::pair<QImage, QImage> pairs[] = {
+        {noise(size, 1), noise(size, 2)}, {noise(size, 3), black}, {white, black}, {black, white}};
+    for (const auto& [first, second] : pairs) {
+        const double expected = plainMeasure(first, second, incoming);
+        double difference = incoming;
+        compareImages(first, second, difference, 1.0);
+        QVERIFY2(
+            std::abs(difference - expected) <= 1e-12 * std::abs(expected),
+            qPrintable(
+                QStringLiteral("%1 instead of %2").arg(difference, 0, 'g', 17).arg(expected, 0, 'g', 17)));
+    }
+}
+
+void ImageComparisonTest::threshold_data()
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const double carried = 4.8 * 100.0 / 3.0 * 100.0 / 3.0; // one pixel: scaled after its row and at the end
+    QTest::addColumn<double>("incoming");
+    QTest::addColumn<double>("limit");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("same, smallest threshold") << 0.0 << 5e-324 << int(imgCmpSimilar);
+    QTest::newRow("same, threshold 0") << 0.0 << 0.0 << int(imgCmpDifferent);
+    QTest::newRow("carried over, just below")
+        << 4.8 << std::nextafter(carried, infinity) << int(imgCmpSimilar);
+    QTest::newRow("carried over, reached") << 4.8 << carried << int(imgCmpDifferent);
+    QTest::newRow("not a number") << 0.0 << std::numeric_limits<double>::quiet_NaN() << int(imgCmpDifferent);
+}
+
+void ImageComparisonTest::threshold()
+{
+    QFETCH(double, incoming);
+    QFETCH(double, limit);
+    QFETCH(int, answer);
+    const QImage image = noise({1, 1}, 7);
+    double difference = incoming;
+    QCOMPARE(int(compareImages(image, image, difference, limit)), answer);
+}
+
+void ImageComparisonTest::alphaDoesNotCount()
+{
+    double difference = 0.0;
+    QCOMPARE(compareImages(filled({9, 9}, qRgba(9, 8, 7, 0)), filled({9, 9}, qRgba(9, 8, 7, 255)), difference,
+                           1e-9),
+             imgCmpSimilar);
+    QCOMPARE(difference, 0.0);
+}
+
+void ImageComparisonTest::rowsWeighMoreTheLowerTheyAre()
+{
+    constexpr int height = 3;
+    const double scale = 100.0 / (2 * height * 3);
+    for (int y = 0; y < height; ++y) {
+        QImage changed = filled({2, height}, qRgb(0, 0, 0));
+        changed.setPixel(0, y, qRgb(0, 51, 0)); // a fifth of one channel
+        double difference = 0.0;
+        compareImages(filled({2, height}, qRgb(0, 0, 0)), changed, difference, 1.0);
+        QVERIFY(qFuzzyCompare(difference, 0.2 * std::pow(scale, height + 1 - y)));
+    }
+}
+
+void ImageComparisonTest::shallowImagesAreConverted_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::newRow("grey") << int(QImage::Format_Grayscale8);
+    QTest::newRow("16 bits") << int(QImage::Format_RGB16);
+    QTest::newRow("24 bits") << int(QImage::Format_RGB888);
+    QTest::newRow("black and white") << int(QImage::Format_Mono);
+}
+
+void ImageComparisonTest::shallowImagesAreConverted()
+{
+    QFETCH(int, format);
+    const QImage black = filled({65, 3}, 0xff000000).convertToFormat(static_cast<QImage::Format>(format));
+    const QImage white = filled({65, 3}, 0xffffffff).convertToFormat(static_cast<QImage::Format>(format));
+    double difference = 0.0;
+    compareImages(black, white, difference, 1.0);
+    const double expected = plainMeasure(filled({65, 3}, 0), filled({65, 3}, 0xffffffff), 0.0);
+    QVERIFY(std::abs(difference - expected) <= 1e-12 * expected);
+}
+
+void ImageComparisonTest::partOfALargerImage()
+{
+    const QImage whole = noise({64, 8}, 5);
+    const QImage part(whole.constBits() + 4 * 3, 10, 8, whole.bytesPerLine(), QImage::Format_ARGB32);
+    double difference = 0.0;
+    QCOMPARE(compareImages(part, whole.copy(3, 0, 10, 8), difference, 1e-9), imgCmpSimilar);
+    QCOMPARE(difference, 0.0);
+}
+
+TOLVAN_CORE_TEST_MAIN(ImageComparisonTest)
+#include "tst_imagecomparison.moc"

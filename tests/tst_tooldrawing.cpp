@@ -1,0 +1,287 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include <utilsDll/GuiUtils.h>
+
+#include <QImage>
+#include <QPainter>
+
+#include <limits>
+
+namespace
+{
+
+/// What a call is to paint: the position and angle of the line's own axes, and the copies along it.
+struct Painted {
+    QPoint origin;
+    double turn = 0.0;
+    QList<int> copies;
+    QRect stretched;
+};
+
+constexpr QSize canvas(64, 48);
+
+/// Left half red with a blue row on top, right half green: no turn or reflection looks like another.
+QPixmap makePattern(qreal ratio = 1.0)
+{
+    QPixmap pattern(QSize(8, 4) * ratio);
+    pattern.setDevicePixelRatio(ratio);
+    pattern.fill(Qt::green);
+    QPainter painter(&pattern);
+    painter.fillRect(0, 0, 4, 4, Qt::red);
+    painter.fillRect(0, 0, 4, 1, Qt::blue);
+    return pattern;
+}
+
+QImage blank()
+{
+    QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    return image;
+}
+
+QImage expectedImage(const Painted& painted)
+{
+    QImage image = blank();
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(painted.origin);
+    painter.rotate(painted.turn);
+    for (const int x : painted.copies) {
+        painter.drawPixmap(x, 0, makePattern());
+    }
+    if (painted.stretched.isValid()) {
+        painter.drawPixmap(painted.stretched, makePattern());
+    }
+    return image;
+}
+
+QImage drawn(const QPointF& from, const QPointF& to, bool stretch, const QRectF& clip)
+{
+    QImage image = blank();
+    QPainter painter(&image);
+    drawToolLine(from, to, makePattern(), stretch, &painter, clip);
+    return image;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Painted)
+
+/// The guide lines and icons, pixel by pixel.
+class ToolDrawingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lines_data();
+    void lines();
+    void everyLineIsDrawnTheSameFromBothEnds();
+    void painterIsRestored();
+    void highResolution();
+    void nothingToDraw();
+    void cursors_data();
+    void cursors();
+    void unknownCursorIsReported();
+    void iconSizes();
+    void iconsInRectangles_data();
+    void iconsInRectangles();
+};
+
+void ToolDrawingTest::lines_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<bool>("stretch");
+    QTest::addColumn<QRectF>("clip");
+    QTest::addColumn<Painted>("painted");
+    const QRectF none;
+    const QRectF clip(10, 10, 30, 20);
+    const auto row = [](const char* name, QPointF from, QPointF to, bool stretch, QRectF area,
+                        Painted painted) { QTest::newRow(name) << from << to << stretch << area << painted; };
+    row("horizontal", {5, 9}, {25, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("a copy at the very end", {5, 9}, {21, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("a point", {5, 9}, {5, 9}, false, none, {{5, 9}, 0, {0}, {}});
+    row("rounded ends", {4.6, 9.4}, {24.9, 9.4}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("length rounded up", {5, 9}, {20.5, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("length rounded down", {5, 9}, {20.4, 9}, false, none, {{5, 9}, 0, {0, 8}, {}});
+    row("swapped", {25, 9}, {5, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("upright, from below", {9, 40}, {9, 20}, false, none, {{9, 40}, -90, {0, 8, 16}, {}});
+    row("upright, from above", {9, 20}, {9, 40}, false, none, {{9, 40}, -90, {0, 8, 16}, {}});
+    row("oblique is lifted by half the height", {10, 30}, {30, 10}, false, none,
+        {{10, 28}, -45, {0, 8, 16, 24}, {}});
+    row("falling", {10, 10}, {30, 30}, false, none, {{10, 8}, 45, {0, 8, 16, 24}, {}});
+    row("up left is not swapped at 135 degrees", {30, 30}, {10, 10}, false, none,
+        {{30, 28}, -135, {0, 8, 16, 24}, {}});
+    row("stretched", {5, 9}, {25, 9}, true, none, {{5, 9}, 0, {}, {0, 0, 20, 4}});
+    row("stretched, length rounded", {5, 9}, {25.6, 9}, true, none, {{5, 9}, 0, {}, {0, 0, 21, 4}});
+    row("stretched, swapped", {25, 9}, {5, 9}, true, none, {{5, 9}, 0, {}, {0, 0, 20, 4}});
+    row("stretched, upright", {9, 20}, {9, 40}, true, none, {{9, 40}, -90, {}, {0, 0, 20, 4}});
+    row("clip without height", {5, 9}, {25, 9}, false, {10, 10, 30, 0}, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("clip without width", {5, 9}, {25, 9}, false, {10, 10, 0, 20}, {{5, 9}, 0, {0, 8, 16}, {}});
+    row("both ends inside", {12, 15}, {36, 15}, true, clip, {{12, 15}, 0, {}, {0, 0, 24, 4}});
+    row("ends on the edge are inside", {10, 15}, {40, 15}, true, clip, {{10, 15}, 0, {}, {0, 0, 30, 4}});
+    row("both ends outside, crossing", {0, 15}, {60, 15}, true, clip, {});
+    row("cut at the left", {0, 15}, {20, 15}, true, clip, {{10, 15}, 0, {}, {0, 0, 10, 4}});
+    row("cut at the right", {20, 15}, {60, 15}, true, clip, {{20, 15}, 0, {}, {0, 0, 20, 4}});
+    row("cut at the top", {20, 20}, {20, 0}, true, clip, {{20, 20}, -90, {}, {0, 0, 10, 4}});
+    row("cut at the bottom", {20, 20}, {20, 45}, true, clip, {{20, 30}, -90, {}, {0, 0, 10, 4}});
+    row("through a corner", {20, 20}, {0, 0}, true, clip, {{20, 18}, -135, {}, {0, 0, 14, 4}});
+}
+
+void ToolDrawingTest::lines()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    QFETCH(bool, stretch);
+    QFETCH(QRectF, clip);
+    QFETCH(Painted, painted);
+    QCOMPARE(drawn(from, to, stretch, clip), expectedImage(painted));
+}
+
+void ToolDrawingTest::everyLineIsDrawnTheSameFromBothEnds()
+{
+    const QPointF centre(32, 24);
+    for (int degrees = 0; degrees < 360; ++degrees) {
+        if (degrees == 135 || degrees == 315) {
+            continue; // the two directions in which neither end counts as the left one
+        }
+        const QPointF end = QLineF::fromPolar(20, degrees).p2();
+        for (const bool stretch : {false, true}) {
+            QVERIFY2(drawn(centre, centre + end, stretch, {}) == drawn(centre + end, centre, stretch, {}),
+                     qPrintable(QString::number(degrees)));
+        }
+    }
+}
+
+void ToolDrawingTest::painterIsRestored()
+{
+    QImage image = blank();
+    QPainter painter(&image);
+    const QTransform transform = QTransform::fromScale(3, 2).translate(50, 60);
+    painter.setTransform(transform);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing, false);
+    QVERIFY(!painter.testRenderHint(QPainter::SmoothPixmapTransform));
+    drawToolLine({5, 9}, {25, 9}, makePattern(), false, &painter, {});
+    QCOMPARE(painter.transform(), transform);
+    QCOMPARE(painter.renderHints(), QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.end();
+    QCOMPARE(image, expectedImage({{5, 9}, 0, {0, 8, 16}, {}})); // the transform that was set did not count
+}
+
+void ToolDrawingTest::highResolution()
+{
+    const QRect stripe(5, 9, 24, 4);
+    for (const bool stretch : {false, true}) {
+        QImage image(canvas * 2, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(2.0);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const int end = stretch ? stripe.right() + 1 : stripe.right(); // the last copy ends where it began
+        drawToolLine(stripe.topLeft(), QPointF(end, stripe.top()), makePattern(2.0), stretch, &painter, {});
+        painter.end();
+        int painted = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                painted += image.pixel(x, y) != qRgb(255, 255, 255) ? 1 : 0;
+            }
+        }
+        QCOMPARE(painted, stripe.width() * stripe.height() * 4); // no gap, and nothing beside it
+        QCOMPARE(image.pixelColor(stripe.topLeft() * 2), QColor(Qt::blue));
+    }
+}
+
+void ToolDrawingTest::nothingToDraw()
+{
+    constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    drawToolLine({5, 9}, {25, 9}, makePattern(), false, nullptr, {});
+    QImage image = blank();
+    QPainter painter(&image);
+    drawToolLine({5, 9}, {25, 9}, QPixmap(), false, &painter, {});
+    drawToolLine({5, notANumber}, {25, 9}, makePattern(), false, &painter, {});
+    drawToolLine({5, 9}, {infinity, 9}, makePattern(), true, &painter, {});
+    drawToolLine({5, 9}, {1e12, 9}, makePattern(), false, &painter, {});
+    painter.end();
+    QCOMPARE(image, blank());
+}
+
+void ToolDrawingTest::cursors_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("name");
+    const char* const names[] = {"arrow_diagonal_left", "arrow_diagonal_right", "arrow_horizontal",
+                                 "arrow_square",        "arrow_vertical",       "rotation_top",
+                                 "rotation_bottom"};
+    int type = 0;
+    for (const char* const name : names) {
+        QTest::newRow(name) << type++ << QString::fromLatin1(name);
+    }
+}
+
+void ToolDrawingTest::cursors()
+{
+    QFETCH(int, type);
+    QFETCH(QString, name);
+    const QString file = QStringLiteral(":/icons/cursors/cusors_%1.svg").arg(name);
+    const QPixmap pixmap = toolCursorPixmap(static_cast<ToolCursorType>(type));
+    QCOMPARE(pixmap.toImage(), QIcon(file).pixmap(23, 24).toImage());
+    QCOMPARE(pixmap.isNull(), !QFile::exists(file));
+    QVERIFY(pixmap.isNull() || pixmap.size() == QSize(23, 24));
+}
+
+void ToolDrawingTest::unknownCursorIsReported()
+{
+    auto& logger = installedLogger();
+    logger.take();
+    QTest::ignoreMessage(QtDebugMsg,
+                         "ASSERT_X in ExPluginShell\\modules\\utilsDll\\GuiUtils line 309: Bug!!!");
+    QVERIFY(toolCursorPixmap(static_cast<ToolCursorType>(7)).isNull());
+    QCOMPARE(
+        logger.take(),
+        QStringList(QStringLiteral(
+            "E toolCursorPixmap: ASSERT_X in ExPluginShell\\modules\\utilsDll\\GuiUtils line 309:Bug!!!")));
+}
+
+void ToolDrawingTest::iconSizes()
+{
+    QCOMPARE(sizeOfIcon(QIcon(), QIcon::Normal, QIcon::Off), QSize(0, 0));
+    QIcon icon;
+    icon.addPixmap(QPixmap(30, 10));
+    icon.addPixmap(QPixmap(10, 40));
+    icon.addPixmap(QPixmap(99, 99), QIcon::Disabled, QIcon::On);
+    QCOMPARE(sizeOfIcon(icon, QIcon::Normal, QIcon::Off), QSize(30, 40));
+    QCOMPARE(sizeOfIcon(icon, QIcon::Disabled, QIcon::On), QSize(99, 99));
+}
+
+void ToolDrawingTest::iconsInRectangles_data()
+{
+    QTest::addColumn<int>("aspect");
+    QTest::addColumn<QRect>("painted");
+    QTest::newRow("in proportion") << int(Qt::KeepAspectRatio) << QRect(10, 15, 20, 10);
+    QTest::newRow("any proportion: the icon's own business")
+        << int(Qt::IgnoreAspectRatio) << QRect(10, 15, 20, 10);
+    QTest::newRow("reaching beyond") << int(Qt::KeepAspectRatioByExpanding) << QRect(0, 10, 40, 20);
+}
+
+void ToolDrawingTest::iconsInRectangles()
+{
+    QFETCH(int, aspect);
+    QFETCH(QRect, painted);
+    QPixmap source(80, 40);
+    source.fill(Qt::red);
+    QImage image = blank();
+    QPainter painter(&image);
+    paintIcon(&painter, QIcon(source), {10, 10, 20, 20}, static_cast<Qt::AspectRatioMode>(aspect),
+              QIcon::Normal, QIcon::Off);
+    paintIcon(&painter, QIcon(), {0, 0, 64, 48}, Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
+    painter.end();
+    paintIcon(nullptr, QIcon(source), {0, 0, 64, 48}, Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
+    QImage expected = blank();
+    QPainter(&expected).fillRect(painted, Qt::red);
+    QCOMPARE(image, expected);
+}
+
+TOLVAN_GUI_TEST_MAIN(ToolDrawingTest)
+#include "tst_tooldrawing.moc"
