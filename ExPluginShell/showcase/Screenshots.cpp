@@ -1,8 +1,10 @@
 #include "Screenshots.h"
 
+#include "MessageBoxes.h"
 #include "pages/Pages.h"
 #include "ShowcaseWindow.h"
 
+#include <utilsDll/AboutDlg.h>
 #include <utilsDll/LanguageManager.h>
 
 #include <QApplication>
@@ -10,7 +12,10 @@
 #include <QPixmap>
 #include <QTableView>
 #include <QTextStream>
+#include <QTimer>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace
 {
@@ -44,6 +49,37 @@ bool writePages(const QDir& folder)
     return ok;
 }
 
+/// Runs \a open, which shows a modal dialog, and saves the dialog as it stands.
+bool saveDialog(const QDir& folder, const QString& name, const std::function<void()>& open)
+{
+    bool ok = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog) {
+            QApplication::setActiveWindow(dialog); // no window manager does it here
+            QApplication::processEvents();
+            ok = save(dialog->grab(), folder, name);
+            dialog->close();
+        }
+    });
+    open();
+    return ok;
+}
+
+bool writeDialogs(const QDir& folder)
+{
+    bool ok = true;
+    for (const MessageBoxCall& call : messageBoxCalls()) {
+        const QString text = QCoreApplication::translate("MessageBoxes", call.sample);
+        constexpr int height = 165;
+        ok = saveDialog(folder, QStringLiteral("box-") + QLatin1String(call.name),
+                        [&] { call.show(nullptr, text, height); }) &&
+             ok;
+    }
+    ok = saveDialog(folder, QStringLiteral("about-product"), [] { CAboutDlg().exec(); }) && ok;
+    return saveDialog(folder, QStringLiteral("about-family"), [] { CAboutOstraDlg().exec(); }) && ok;
+}
+
 /// The page with all widgets does not fit into the window.
 bool writeWholePage(const QDir& folder, const QString& name)
 {
@@ -75,6 +111,7 @@ bool writeScreenshots(const QString& folder)
         QApplication::processEvents();
         const QString language = languages->currentLanguageAbbrv();
         ok = writePages(QDir(root.filePath(language))) && ok;
+        ok = writeDialogs(QDir(root.filePath(language))) && ok;
         ok = writeWholePage(root, QStringLiteral("style-") + language) && ok;
     }
     languages->changeLanguage(before);

@@ -2,9 +2,13 @@
 
 #include "pages/Pages.h"
 
+#include <utilsDll/controls/IconViewer.h>
+#include <utilsDll/LanguageManager.h>
 #include <utilsDll/Settings.h>
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,6 +18,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+using TOLVAN_NAMESPACE::CLanguageManager;
 using TOLVAN_NAMESPACE::CSettings;
 
 namespace
@@ -21,6 +26,17 @@ namespace
 
 const QString geometryKey = QStringLiteral("showcase/geometry");
 const QString pageKey = QStringLiteral("showcase/page");
+
+/// What only this window has; everything else is the product's look.
+const char* const windowSheet = R"(
+#navigation { background-color: #18191B; }
+#pageList { background-color: transparent; border: none; font-size: 14px; outline: none; }
+#pageList::item { padding: 8px 10px; border-radius: 4px; }
+#productName { font-size: 18px; color: #FFFFFF; }
+#languageLabel, #pageSummary, #pageSubtitle { color: #A9AEB5; }
+#pageHeading { font-size: 26px; color: #FFFFFF; }
+#pageSubtitle { font-size: 15px; padding-top: 8px; }
+)";
 
 QString translated(const char* text)
 {
@@ -33,10 +49,11 @@ ShowcaseWindow::ShowcaseWindow(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("showcaseWindow"));
+    setStyleSheet(QString::fromLatin1(windowSheet));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(makeNavigation());
+    layout->addWidget(makeNavigation());
     layout->addLayout(makePageArea(), 1);
     addPages();
     connect(m_list, &QListWidget::currentRowChanged, this, &ShowcaseWindow::showPage);
@@ -47,15 +64,61 @@ ShowcaseWindow::ShowcaseWindow(QWidget* parent)
     restore();
 }
 
-QVBoxLayout* ShowcaseWindow::makeNavigation()
+QWidget* ShowcaseWindow::makeNavigation()
 {
     m_list = new QListWidget(this);
     m_list->setObjectName(QStringLiteral("pageList"));
-    m_list->setFixedWidth(220);
-    m_list->setFrameShape(QFrame::NoFrame);
-    auto* column = new QVBoxLayout;
-    column->addWidget(m_list, 1);
-    return column;
+    auto* const panel = new QWidget(this);
+    panel->setObjectName(QStringLiteral("navigation"));
+    panel->setFixedWidth(232);
+    auto* const layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(16, 20, 16, 20);
+    layout->setSpacing(16);
+    layout->addWidget(makeProductName());
+    layout->addWidget(m_list, 1);
+    layout->addWidget(makeLanguageChoice());
+    return panel;
+}
+
+QWidget* ShowcaseWindow::makeProductName()
+{
+    auto* const row = new QWidget(this);
+    auto* const logo = new TOLVAN_NAMESPACE::CIconViewer(row);
+    logo->setFixedSize(32, 32);
+    logo->setIcon(QApplication::windowIcon());
+    auto* const name = new QLabel(QStringLiteral("Trelio Frame"), row);
+    name->setObjectName(QStringLiteral("productName"));
+    auto* const layout = new QHBoxLayout(row);
+    layout->setContentsMargins(8, 0, 0, 0);
+    layout->setSpacing(10);
+    layout->addWidget(logo);
+    layout->addWidget(name, 1);
+    return row;
+}
+
+QWidget* ShowcaseWindow::makeLanguageChoice()
+{
+    auto* const languages = CLanguageManager::instance();
+    auto* const area = new QWidget(this);
+    m_languageLabel = new QLabel(area);
+    m_languageLabel->setObjectName(QStringLiteral("languageLabel"));
+    m_languages = new QComboBox(area);
+    m_languages->setModel(languages->model());
+    m_languageLabel->setBuddy(m_languages);
+    auto* const layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    layout->addWidget(m_languageLabel);
+    layout->addWidget(m_languages);
+    connect(m_languages, SIGNAL(activated(int)), languages, SLOT(changeLanguage(int)));
+    connect(languages, SIGNAL(languageChanged()), this, SLOT(showLanguage()));
+    showLanguage();
+    return area;
+}
+
+void ShowcaseWindow::showLanguage()
+{
+    m_languages->setCurrentIndex(CLanguageManager::instance()->currentLanguageIndex());
 }
 
 QVBoxLayout* ShowcaseWindow::makePageArea()
@@ -67,7 +130,7 @@ QVBoxLayout* ShowcaseWindow::makePageArea()
     m_summary->setWordWrap(true);
     m_stack = new QStackedWidget(this);
     auto* column = new QVBoxLayout;
-    column->setContentsMargins(28, 24, 28, 24);
+    column->setContentsMargins(32, 20, 32, 24);
     column->setSpacing(8);
     column->addWidget(m_heading);
     column->addWidget(m_summary);
@@ -110,6 +173,7 @@ void ShowcaseWindow::retranslate()
 {
     setWindowTitle(tr("Trelio Frame – Showcase"));
     m_list->setAccessibleName(tr("Pages"));
+    m_languageLabel->setText(tr("&Language"));
     const auto all = pages();
     for (int i = 0; i < all.size(); ++i) {
         m_list->item(i)->setText(translated(all.at(i).title));

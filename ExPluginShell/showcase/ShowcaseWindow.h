@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QComboBox;
 class QLabel;
 class QListWidget;
 class QStackedWidget;
@@ -23,8 +24,13 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
+private Q_SLOTS:
+    void showLanguage();
+
 private:
-    QVBoxLayout* makeNavigation();
+    QWidget* makeNavigation();
+    QWidget* makeProductName();
+    QWidget* makeLanguageChoice();
     QVBoxLayout* makePageArea();
     void addPages();
     void step(int rows);
@@ -35,4 +41,6 @@ private:
     QLabel* m_heading = nullptr;
     QLabel* m_summary = nullptr;
     QStackedWidget* m_stack = nullptr;
+    QLabel* m_languageLabel = nullptr;
+    QComboBox* m_languages = nullptr;
 };

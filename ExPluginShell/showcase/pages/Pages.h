@@ -20,6 +20,12 @@ QVector<Page> pages();
 
 // Each page's factory stands in its own source file.
 QWidget* makeLoggingPage(QWidget* parent);
+QWidget* makeSettingsPage(QWidget* parent);
+QWidget* makeStoragePage(QWidget* parent);
+QWidget* makeLanguagesPage(QWidget* parent);
+QWidget* makeMessageBoxPage(QWidget* parent);
+QWidget* makeDrawingPage(QWidget* parent);
+QWidget* makeNativeDialogsPage(QWidget* parent);
 QWidget* makeStylePage(QWidget* parent);
 QWidget* makeWebServicePage(QWidget* parent);
 QWidget* makeFilesPage(QWidget* parent);

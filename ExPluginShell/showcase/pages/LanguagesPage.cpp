@@ -1,0 +1,83 @@
+#include "LanguagesPage.h"
+
+#include "Pages.h"
+
+#include <utilsDll/LanguageManager.h>
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using TOLVAN_NAMESPACE::CLanguageManager;
+
+QWidget* makeLanguagesPage(QWidget* parent)
+{
+    return new LanguagesPage(parent);
+}
+
+LanguagesPage::LanguagesPage(QWidget* parent)
+    : PageWidget(parent)
+{
+    addTable();
+    addSamples();
+    column()->addStretch();
+    languageChanged();
+}
+
+void LanguagesPage::addTable()
+{
+    auto* const languages = CLanguageManager::instance();
+    m_table = new QTableView(this);
+    m_table->setModel(languages->model());
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->setFixedHeight(250);
+    connect(m_table, &QTableView::activated, this,
+            [languages](const QModelIndex& index) { languages->changeLanguage(index.row()); });
+    column()->addWidget(m_table);
+    auto* const row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(makeButton(QT_TR_NOOP("Use this language"), [this, languages] {
+        languages->changeLanguage(m_table->currentIndex().row());
+    }));
+    column()->addLayout(row);
+}
+
+void LanguagesPage::addSamples()
+{
+    addTitle(QT_TR_NOOP("What follows the language"));
+    m_date = new QLabel(this);
+    m_number = new QLabel(this);
+    m_button = new QLabel(this);
+    auto* const form = addForm();
+    addRow(form, QT_TR_NOOP("A date"), m_date);
+    addRow(form, QT_TR_NOOP("A number"), m_number);
+    addRow(form, QT_TR_NOOP("A button of the toolkit"), m_button);
+}
+
+void LanguagesPage::languageChanged()
+{
+    const QStringList headers{tr("Language"), tr("Number in the product family"), tr("Catalogue"),
+                              tr("Abbreviation")};
+    auto* const languages = CLanguageManager::instance();
+    for (int i = 0; i < headers.size(); ++i) {
+        languages->model()->setHeaderData(i, Qt::Horizontal, headers.at(i));
+    }
+    m_table->selectRow(languages->currentLanguageIndex());
+    const QLocale locale;
+    m_date->setText(locale.toString(QDate(2026, 3, 14), QLocale::LongFormat));
+    m_number->setText(locale.toString(1234567.89, 'f', 2));
+    m_button->setText(QCoreApplication::translate("QPlatformTheme", "Discard"));
+}

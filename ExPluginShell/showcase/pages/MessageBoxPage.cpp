@@ -1,0 +1,103 @@
+#include "MessageBoxPage.h"
+
+#include "MessageBoxes.h"
+#include "Pages.h"
+
+#include <utilsDll/AboutDlg.h>
+
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace
+{
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("MessageBoxes", text);
+}
+
+} // namespace
+
+QWidget* makeMessageBoxPage(QWidget* parent)
+{
+    return new MessageBoxPage(parent);
+}
+
+MessageBoxPage::MessageBoxPage(QWidget* parent)
+    : PageWidget(parent)
+{
+    addText();
+    addBoxes();
+    addAbout();
+    column()->addStretch();
+    languageChanged();
+}
+
+void MessageBoxPage::addText()
+{
+    m_text = new QPlainTextEdit(this);
+    m_text->setTabChangesFocus(true);
+    m_text->setFixedHeight(90);
+    translate(QT_TR_NOOP("Each box brings a text of its own"),
+              [this](const QString& text) { m_text->setPlaceholderText(text); });
+    m_height = new QSpinBox(this);
+    m_height->setRange(120, 600);
+    m_height->setValue(200);
+    m_height->setSuffix(QStringLiteral(" px"));
+    auto* const form = addForm();
+    addRow(form, QT_TR_NOOP("Text"), m_text);
+    addRow(form, QT_TR_NOOP("Height"), m_height);
+}
+
+void MessageBoxPage::addBoxes()
+{
+    constexpr int columns = 3;
+    addTitle(QT_TR_NOOP("Message boxes"));
+    auto* const grid = new QGridLayout;
+    grid->setSpacing(8);
+    for (int i = 0; i < messageBoxCalls().size(); ++i) {
+        auto* const button = new QPushButton(this);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, i] { showBox(i); });
+        m_buttons += button;
+        grid->addWidget(button, i / columns, i % columns);
+    }
+    column()->addLayout(grid);
+    m_answer = new QLabel(this);
+    column()->addWidget(m_answer);
+}
+
+void MessageBoxPage::addAbout()
+{
+    addTitle(QT_TR_NOOP("About dialogs"));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(makeButton(QT_TR_NOOP("About the product"), [this] { CAboutDlg(this).exec(); }));
+    row->addWidget(
+        makeButton(QT_TR_NOOP("About the product family"), [this] { CAboutOstraDlg(this).exec(); }));
+    row->addStretch();
+    column()->addLayout(row);
+}
+
+void MessageBoxPage::showBox(int kind)
+{
+    const MessageBoxCall& call = messageBoxCalls().at(kind);
+    const QString own = m_text->toPlainText();
+    m_answerName = call.show(this, own.isEmpty() ? translated(call.sample) : own, m_height->value());
+    languageChanged();
+}
+
+void MessageBoxPage::languageChanged()
+{
+    for (int i = 0; i < m_buttons.size(); ++i) {
+        m_buttons.at(i)->setText(translated(messageBoxCalls().at(i).title));
+    }
+    m_answer->setText(m_answerName.isEmpty() ? tr("No answer yet")
+                                             : tr("The last answer: %1").arg(m_answerName));
+}
