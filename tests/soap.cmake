@@ -1,5 +1,6 @@
 # The SOAP classes, alone and against other makes of SOAP.
 tolvan_add_test(tst_soap_types)
+tolvan_add_test(tst_soap_arrays)
 tolvan_add_test(tst_soap_messages)
 tolvan_add_test(tst_soap_hostile)
 tolvan_add_test(tst_soap_transport SOURCES tst_soap_transport.cpp support/HttpLoopback.cpp LIBRARIES Qt5::Network)

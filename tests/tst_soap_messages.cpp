@@ -55,9 +55,6 @@ private Q_SLOTS:
     void namesThatXmlForbids();
     void literalAnswer();
     void encodedAnswer();
-    void arrays_data();
-    void arrays();
-    void arraysComeBack();
     void faults();
     void faultsOfOthers_data();
     void faultsOfOthers();
@@ -210,74 +207,6 @@ void SoapMessagesTest::encodedAnswer()
         QCOMPARE(value[3].type(), QtSoapType::Struct); // nothing is lost of a value that contradicts its type
         QCOMPARE(value[QStringLiteral("empty")].type(), QtSoapType::Struct);
     }
-}
-
-void SoapMessagesTest::arrays_data()
-{
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<QString>("items");
-    QTest::addColumn<QString>("positions"); // "position:text ..."
-    const auto row = [](const char* name, const char* attributes, const char* items, const char* positions) {
-        QTest::newRow(name) << QString::fromLatin1(attributes) << QString::fromLatin1(items)
-                            << QString::fromLatin1(positions);
-    };
-    row("one dimension", "c:arrayType='d:int[2]'", "<i>1</i> <i>2</i>", "0:1 1:2");
-    row("open size", "c:arrayType='d:int[]'", "<i>1</i><j>2</j>", "0:1 1:2");
-    row("no size at all", "i:type='c:Array'", "<i>1</i><i>2</i>", "0:1 1:2");
-    row("empty", "c:arrayType='d:int[0]'", "", "");
-    row("two dimensions", "c:arrayType='d:int[2,2]'", "<i>1</i><i>2</i><i>3</i>", "0:1 1:2 2:3");
-    row("three, by position", "c:arrayType='d:int[2,2,3]'", "<i c:position='[1,0,2]'>1</i><i>2</i>",
-        "8:1 9:2");
-    row("four", "c:arrayType='d:int[2,2,2,2]'", "<i c:position='[1,1,1,1]'>1</i>", "15:1");
-    row("open outer dimension", "c:arrayType='d:int[,2]'", "<i c:position='[2,1]'>1</i>", "5:1");
-    row("offset", "c:arrayType='d:int[5]' c:offset='[2]'", "<i>1</i><i>2</i>", "2:1 3:2");
-    row("offset in two", "c:arrayType='d:int[2,2]' c:offset='[1,0]'", "<i>1</i>", "2:1");
-    row("sparse, unordered", "c:arrayType='d:int[9]'", "<i c:position='[7]'>1</i><i c:position='[2]'>2</i>",
-        "2:2 7:1");
-    row("any type", "c:arrayType='d:anyType[2]'", "<i i:type='d:int'>1</i><i i:type='d:string'>2</i>",
-        "0:1 1:2");
-    row("blanks in sizes", "c:arrayType='d:int[ 2 , 2 ]'", "<i>1</i>", "0:1");
-}
-
-void SoapMessagesTest::arrays()
-{
-    QFETCH(QString, attributes);
-    QFETCH(QString, items);
-    QFETCH(QString, positions);
-    QtSoapMessage message;
-    QVERIFY2(message.setContent(envelope(QStringLiteral("<r><a %1>%2</a></r>").arg(attributes, items))),
-             qPrintable(message.errorString()));
-    const auto read = [](const QtSoapMessage& m) {
-        QtSoapArray array(dynamic_cast<const QtSoapArray&>(m.returnValue()));
-        QStringList found;
-        for (QtSoapArrayIterator it(array); !it.atEnd(); ++it)
-            found += QStringLiteral("%1:%2").arg(it.pos()).arg(it.current()->toString());
-        return found.join(QLatin1Char(' '));
-    };
-    QCOMPARE(read(message), positions);
-    QtSoapMessage again; // and as written by the library
-    QVERIFY2(again.setContent(message.toXmlString().toUtf8()), qPrintable(again.errorString()));
-    QCOMPARE(read(again), positions);
-}
-
-void SoapMessagesTest::arraysComeBack()
-{
-    QtSoapMessage message, read;
-    message.setMethod(QStringLiteral("m"));
-    auto* const nested = new QtSoapArray(QtSoapQName(QStringLiteral("nested")));
-    for (int k = 0; k < 2; ++k) {
-        auto* const row = new QtSoapArray(QtSoapQName());
-        row->append(new QtSoapSimpleType(QtSoapQName(QStringLiteral("x")), k));
-        nested->append(row);
-    }
-    message.addMethodArgument(nested);
-    QVERIFY(read.setContent(message.toXmlString().toUtf8()));
-    QCOMPARE(read.returnValue()[1][0].toInt(), 1);
-    QCOMPARE(read.returnValue()[1].type(), QtSoapType::Array);
-    QVERIFY(read.setContent(envelope(QStringLiteral(
-        "<r><a c:arrayType='d:int[][2]'><i c:arrayType='d:int[1]'><j>4</j></i><i><j>5</j></i></a></r>"))));
-    QCOMPARE(read.returnValue()[0][0].value(), QVariant(4));
-    QCOMPARE(read.returnValue()[1].type(), QtSoapType::Array);
 }
 
 void SoapMessagesTest::faults()

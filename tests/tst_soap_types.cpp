@@ -55,7 +55,7 @@ public:
 
 } // namespace
 
-/// Values on their own: conversions, lookups, arrays, iterators, ownership.
+/// Values on their own: conversions, lookups, ownership.
 class SoapTypesTest : public QObject
 {
     Q_OBJECT
@@ -71,10 +71,6 @@ private Q_SLOTS:
     void failingLookupsAreSafe();
     void structKeepsOrderAndReplaces();
     void copiesAreIndependent();
-    void arrayPositions();
-    void arrayRefuses_data();
-    void arrayRefuses();
-    void arrayIteratorVisitsInOrder();
     void parseTellsClassesApart();
     void elementsCanBeReadBack();
     void smartPointer();
@@ -273,87 +269,6 @@ void SoapTypesTest::copiesAreIndependent()
     QCOMPARE(copy.count(), 2);
     *inner = QtSoapArray(*inner);
     QCOMPARE(inner->count(), 2);
-}
-
-void SoapTypesTest::arrayPositions()
-{
-    QtSoapArray grid(QtSoapQName(QStringLiteral("grid")), QtSoapType::Int, 3, 2);
-    grid.insert(1, 1, number(11));
-    grid.insert(5, number(21));
-    grid.insert(1, 1, number(12)); // replaces
-    QCOMPARE(grid.count(), 2);
-    QCOMPARE(grid.at(3).toInt(), 12);
-    QCOMPARE(grid.at(2, 1).toInt(), 21);
-    QtSoapArray deep(QtSoapQName(QStringLiteral("deep")), QtSoapType::Int, 2, 2, 2, 2, 2);
-    deep.insert(1, 0, 1, 0, 1, number(5));
-    QCOMPARE(deep.at(0x15).toInt(), 5);
-    QCOMPARE(deep.at(1, 0, 1, 0, 1).toInt(), 5);
-    QtSoapArray line;
-    line.append(number(1));
-    line.insert(9, number(2));
-    line.append(number(3));
-    QCOMPARE(line[10].toInt(), 3);
-    QCOMPARE(line[QStringLiteral("n")].toInt(), 1);
-    line.clear();
-    QVERIFY(line.count() == 0 && line.isValid());
-    grid.clear();
-    QTest::ignoreMessage(QtWarningMsg, "SOAP: The array \"grid\" has no such position");
-    grid.insert(0, 0, number(0)); // the dimensions are gone
-    QCOMPARE(grid.count(), 0);
-}
-
-void SoapTypesTest::arrayRefuses_data()
-{
-    QTest::addColumn<int>("rank");
-    QTest::addColumn<int>("position"); // -2: appended
-    QTest::addColumn<bool>("text");
-    QTest::newRow("another type") << 0 << 1 << true;
-    QTest::newRow("a negative position") << 0 << -1 << false;
-    QTest::newRow("a position behind the end") << 2 << 4 << false;
-    QTest::newRow("appending to a grid") << 2 << -2 << false;
-    QTest::newRow("appending to a full line") << 1 << -2 << false;
-}
-
-void SoapTypesTest::arrayRefuses()
-{
-    QFETCH(int, rank);
-    QFETCH(int, position);
-    QFETCH(bool, text);
-    const QtSoapQName name(QStringLiteral("a"));
-    QtSoapArray array(name, QtSoapType::Other, rank > 0 ? (rank == 1 ? 1 : 2) : -1, rank > 1 ? 2 : -1);
-    array.insert(0, number(1));
-    QtSoapSimpleType* const item = text ? new QtSoapSimpleType(name, QStringLiteral("x")) : number(2);
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("^SOAP: The array \"a\" (has|holds)")));
-    if (position == -2)
-        array.append(item);
-    else
-        array.insert(position, item); // deleted, which the address sanitizer sees
-    QCOMPARE(array.count(), 1);
-    QVERIFY(!array.errorString().isEmpty());
-    array.insert(0, number(3));
-    QVERIFY(array.errorString().isEmpty() && array[0].toInt() == 3);
-}
-
-void SoapTypesTest::arrayIteratorVisitsInOrder()
-{
-    QtSoapArray grid(QtSoapQName(QStringLiteral("grid")), QtSoapType::Int, 40, 5);
-    for (int k = 199; k >= 0; k -= 3)
-        grid.insert(k, number(k));
-    int last = -1, visited = 0;
-    QtSoapArrayIterator it(grid);
-    for (; !it.atEnd(); ++it, ++visited) {
-        int row = -1, column = -1, beyond = -7;
-        it.pos(&row, &column, &beyond);
-        it.pos(nullptr, &column);
-        QVERIFY(it.pos() > last && beyond == -7);
-        QCOMPARE(row * 5 + column, it.pos());
-        QCOMPARE(it.current()->toInt(), it.pos());
-        last = it.pos();
-    }
-    QCOMPARE(visited, grid.count());
-    QVERIFY(!it.data() && !it.current());
-    QVERIFY(it != QtSoapArrayIterator(grid));
 }
 
 void SoapTypesTest::parseTellsClassesApart()
