@@ -4,6 +4,7 @@
 #include <utilsDll/RunnableItem.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSemaphore>
 #include <QtConcurrentRun>
 #include <QThreadPool>
@@ -11,6 +12,7 @@
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <memory>
@@ -162,7 +164,8 @@ BENCHMARK(stopAllTimers)
 
 std::size_t bytesInUse()
 {
-    return mallinfo2().uordblks;
+    const auto heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd;
 }
 
 /// Not a time: bytes of the heap for each pending call.
@@ -170,11 +173,12 @@ void bytesPerCall(benchmark::State& state)
 {
     constexpr int count = 10000;
     std::vector<QObject> objects(count);
+    QObject timers;
+    const bool bare = state.range(0);
     for (auto _ : state) {
         const std::size_t before = bytesInUse();
         for (QObject& object : objects) {
-            state.range(0) ? void(object.startTimer(delay))
-                           : CDelayedCall::invoke(delay, &object, "deleteLater");
+            bare ? void(timers.startTimer(delay)) : CDelayedCall::invoke(delay, &object, "deleteLater");
         }
         state.counters["bytes"] = static_cast<double>(bytesInUse() - before) / count;
         for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
@@ -184,6 +188,26 @@ void bytesPerCall(benchmark::State& state)
 }
 BENCHMARK(bytesPerCall)->Name("bytes per pending call/CDelayedCall")->Arg(0)->Iterations(1);
 BENCHMARK(bytesPerCall)->Name("bytes per pending call/QObject::startTimer")->Arg(1)->Iterations(1);
+
+/// Times one by one, of which the lower decile and the median are told: a busy machine lengthens the rest.
+class Latencies
+{
+public:
+    void add(benchmark::State& state, Clock::duration time)
+    {
+        m_times.push_back(std::chrono::duration<double, std::micro>(time).count());
+        state.SetIterationTime(m_times.back() * 1e-6);
+    }
+    void report(benchmark::State& state)
+    {
+        std::sort(m_times.begin(), m_times.end());
+        state.counters["p10_us"] = m_times[m_times.size() / 10];
+        state.counters["p50_us"] = m_times[m_times.size() / 2];
+    }
+
+private:
+    std::vector<double> m_times;
+};
 
 /// From start() to the first line of the work, for each kind of item; the pool's threads are up and idle.
 template <class Start>
@@ -200,14 +224,16 @@ void startLatency(benchmark::State& state, Start start)
     };
     start(pool, work);
     done.acquire();
+    Latencies latencies;
     for (auto _ : state) {
         pool.waitForDone();
         std::this_thread::sleep_for(std::chrono::microseconds(20)); // the thread has gone to sleep
         const auto asked = Clock::now();
         start(pool, work);
         done.acquire();
-        state.SetIterationTime(std::chrono::duration<double>(began - asked).count());
+        latencies.add(state, began - asked);
     }
+    latencies.report(state);
 }
 
 template <class Work>
@@ -268,6 +294,7 @@ void blockingAnswer(benchmark::State& state)
     std::atomic<bool> end{false};
     QAtomicInt wanted(0);
     Clock::time_point stored;
+    Latencies latencies;
     std::thread other([&] {
         while (!end) {
             if (wanted.testAndSetOrdered(1, 0)) {
@@ -282,12 +309,22 @@ void blockingAnswer(benchmark::State& state)
         value.storeRelease(0);
         wanted.storeRelease(1);
         waitBlockingAtomicIntValue(value, 1);
-        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - stored).count());
+        latencies.add(state, Clock::now() - stored);
     }
+    latencies.report(state);
     end = true;
     other.join();
 }
 BENCHMARK(blockingAnswer)->Name("answer/waitBlocking")->UseManualTime();
+
+/// Nanoseconds that this thread has run or was ready to: what it takes of a core, also on a busy machine.
+qint64 runOrReady()
+{
+    QFile file(QStringLiteral("/proc/thread-self/schedstat"));
+    file.open(QIODevice::ReadOnly);
+    const QList<QByteArray> fields = file.readAll().split(' ');
+    return fields.value(0).toLongLong() + fields.value(1).toLongLong();
+}
 
 /// A precise 1 ms timer during a second: with a wait that polls, and in a loop that sleeps.
 void timerPace(benchmark::State& state)
@@ -305,10 +342,10 @@ void timerPace(benchmark::State& state)
             over.storeRelease(1);
             loop.quit();
         });
-        const std::clock_t used = std::clock();
+        const qint64 busyBefore = runOrReady();
         polling ? waitNonBlockingAtomicIntValue(over, 1, true) : void(loop.exec());
         state.counters["ticks"] = ticks;
-        state.counters["core"] = static_cast<double>(std::clock() - used) / CLOCKS_PER_SEC;
+        state.counters["core"] = static_cast<double>(runOrReady() - busyBefore) * 1e-9;
     }
 }
 BENCHMARK(timerPace)
