@@ -33,7 +33,9 @@ public:
     /// Prepares the texts in the current language.
     CErrStrings();
     ~CErrStrings();
+    /// Takes over the texts of the other as they are prepared.
     CErrStrings(const CErrStrings&) = default;
+    /// Takes over the texts of the other as they are prepared.
     CErrStrings& operator=(const CErrStrings&) = default;
 
     /// Prepares all texts again, in the language that is installed now. Without a translator the keys of the

@@ -38,6 +38,7 @@ class UTILSDLL_EXPORT CLanguageManager : public QObject
     Q_OBJECT
 
 public:
+    /// A manager with an empty table of its own; most callers want instance().
     explicit CLanguageManager(QObject* parent = nullptr);
     /// Leaves the installed translators in place: they belong to the application.
     ~CLanguageManager() override;
