@@ -2,6 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CAboutDlg</name>
+    <message>
+        <source>About Trelio Frame</source>
+        <translation>À propos de Trelio Frame</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
+        <translation>Corrections de la perspective, de l’horizon et des défauts d’objectif pour vos photos. Réalisé avec :</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>CAboutOstraDlg</name>
+    <message>
+        <source>About the Ostra Collection</source>
+        <translation>À propos d’Ostra Collection</translation>
+    </message>
+    <message>
+        <source>with Trelio Frame %1</source>
+        <translation>avec Trelio Frame %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
+        <translation>Une famille de plug-ins pour les photographes. Ses membres partagent leur langue et leurs préférences : ce que vous réglez dans l’un s’applique à tous.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>CLanguageManager</name>
     <message>
         <source>language name</source>
@@ -29,6 +75,53 @@
     <message>
         <source>language number</source>
         <translation>1036</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>Ne pas quitter</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Quitter sans enregistrer</translation>
     </message>
 </context>
 <context>

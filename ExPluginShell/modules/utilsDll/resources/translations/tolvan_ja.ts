@@ -2,6 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>CAboutDlg</name>
+    <message>
+        <source>About Trelio Frame</source>
+        <translation>Trelio Frame について</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. 無断転載を禁じます。</translation>
+    </message>
+    <message>
+        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
+        <translation>写真の遠近感、水平、レンズのゆがみを補正します。使用しているソフトウェア:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>CAboutOstraDlg</name>
+    <message>
+        <source>About the Ostra Collection</source>
+        <translation>Ostra Collection について</translation>
+    </message>
+    <message>
+        <source>with Trelio Frame %1</source>
+        <translation>Trelio Frame %1 を含む</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. 無断転載を禁じます。</translation>
+    </message>
+    <message>
+        <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
+        <translation>写真家のためのプラグインファミリーです。言語と環境設定を共有しているため、1 つのプラグインで設定した内容がすべてに適用されます。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>CLanguageManager</name>
     <message>
         <source>language name</source>
@@ -29,6 +75,53 @@
     <message>
         <source>language number</source>
         <translation>1041</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>終了しない</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>保存せずに終了</translation>
     </message>
 </context>
 <context>
