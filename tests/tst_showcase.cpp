@@ -24,6 +24,7 @@ private Q_SLOTS:
     void secondRunSeesTheFirst();
     void temporaryRunLeavesNothing();
     void failureIsTold();
+    void picturesInEveryLanguage();
 
 private:
     struct Run {
@@ -93,6 +94,21 @@ void ShowcaseTest::failureIsTold()
 #else
     QVERIFY2(run.exitCode == 1 && run.report.contains(text("FAIL")), qPrintable(run.report));
 #endif
+}
+
+void ShowcaseTest::picturesInEveryLanguage()
+{
+    const QTemporaryDir folder;
+    const Run run = start({text("--screenshots"), folder.path()});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.report));
+    QSet<QByteArray> pictures;
+    for (const char* const language : {"de", "en", "fr", "ja", "zh-CN"}) {
+        QFile picture(folder.filePath(text("style-%1.png").arg(text(language))));
+        QVERIFY2(picture.open(QIODevice::ReadOnly), language);
+        pictures += picture.readAll();
+        QVERIFY2(QFile::exists(folder.filePath(text(language) + text("/01-logging.png"))), language);
+    }
+    QCOMPARE(pictures.size(), 5); // each in its own language
 }
 
 TOLVAN_CORE_TEST_MAIN(ShowcaseTest)
