@@ -35,7 +35,7 @@ const char* const windowSheet = R"(
 #productName { font-size: 18px; color: #FFFFFF; }
 #languageLabel, #pageSummary, #pageSubtitle { color: #A9AEB5; }
 #pageHeading { font-size: 26px; color: #FFFFFF; }
-#pageSubtitle { font-size: 15px; padding-top: 8px; }
+#pageSubtitle { font-size: 15px; }
 )";
 
 QString translated(const char* text)

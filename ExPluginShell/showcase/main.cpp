@@ -41,6 +41,7 @@ void startLog()
         log.init(CStorageLocation::loggerFilesPath().toStdString(), "showcase",
                  getLogLevel().at(0).toLatin1());
         initLoggerForUtilsDll(&log, QString());
+        log.log(LogLevel::Information, "showcase: the host's own logger is at work");
     }
 }
 

@@ -32,15 +32,17 @@ QString libraryTable()
 {
     QString rows;
     for (const Library& library : libraries) {
-        rows += QStringLiteral("<tr><td style=\"padding-right: 24px\">%1</td><td>%2</td></tr>")
+        rows += QStringLiteral("<tr><td style=\"padding-right: 32px\">%1</td><td>%2</td></tr>")
                     .arg(QLatin1String(library.name), QLatin1String(library.licence));
     }
-    return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\">%1</table>").arg(rows);
+    return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\">%1</table>").arg(rows);
 }
 
+/// Style sheets don't reach the colour of links, so it stands here: the bright accent of the palette.
 QString link(const char* address, const QString& text)
 {
-    return QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(address), text);
+    return QStringLiteral("<a style=\"color: #7FD9E8; text-decoration: none\" href=\"%1\">%2</a>")
+        .arg(QLatin1String(address), text);
 }
 
 QString licenceLinks()
@@ -145,7 +147,7 @@ CAboutDlg::CAboutDlg(QWidget* parent)
     content.version = tr("Version %1").arg(QLatin1String(BuildIdentification::productVersion));
     content.copyright = tr("© Tolvan. All rights reserved.");
     content.body =
-        QStringLiteral("<p>%1</p>%2")
+        QStringLiteral("<p style=\"margin-top: 0px; margin-bottom: 10px\">%1</p>%2")
             .arg(tr("Perspective, horizon and lens corrections for your photos. Made with:"), libraryTable());
     content.links = licenceLinks();
     build(*this, QStringLiteral("CAboutDlg"), content, tr("Close"));

@@ -41,11 +41,11 @@ QHBoxLayout* DrawingPage::makePicture()
     caption->setFont(font);
     caption->setFixedWidth(captionWidth);
     caption->setTopMargin(2);
-    translate(QT_TR_NOOP("Drag across the picture to draw a line"),
-              [caption](const QString& text) { caption->setText(text); });
+    const char* const hint = QT_TR_NOOP("Drag across the picture to draw a line");
+    translate(hint, [caption](const QString& text) { caption->setText(text); });
     m_canvas = new GuideCanvas(this);
-    translate(QT_TR_NOOP("Picture with guide lines"),
-              [this](const QString& text) { m_canvas->setAccessibleName(text); });
+    const char* const explanation = QT_TR_NOOP("Picture with guide lines");
+    translate(explanation, [this](const QString& text) { m_canvas->setAccessibleName(text); });
     // The text starts at the label's width: the margin takes it down to the foot of the picture.
     connect(m_canvas, &GuideCanvas::sizeChanged, this, [caption](const QSize& size) {
         caption->setLeftMargin(caption->width() - size.height());
@@ -63,7 +63,8 @@ QHBoxLayout* DrawingPage::makeTools()
     auto* const row = new QHBoxLayout;
     row->setSpacing(12);
     auto* const stretch = new QCheckBox(this);
-    translate(QT_TR_NOOP("Stretch the pattern"), [stretch](const QString& text) { stretch->setText(text); });
+    const char* const description = QT_TR_NOOP("Stretch the pattern");
+    translate(description, [stretch](const QString& text) { stretch->setText(text); });
     connect(stretch, &QCheckBox::toggled, m_canvas, &GuideCanvas::setStretched);
     row->addWidget(stretch);
     row->addWidget(makeButton(QT_TR_NOOP("Remove all lines"), [this] { m_canvas->clear(); }));

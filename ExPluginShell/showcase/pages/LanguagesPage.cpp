@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -41,18 +40,17 @@ void LanguagesPage::addTable()
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->setWordWrap(false);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->setFixedHeight(250);
+    m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_table, &QTableView::activated, this,
             [languages](const QModelIndex& index) { languages->changeLanguage(index.row()); });
     column()->addWidget(m_table);
-    auto* const row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(makeButton(QT_TR_NOOP("Use this language"), [this, languages] {
-        languages->changeLanguage(m_table->currentIndex().row());
-    }));
-    column()->addLayout(row);
+    addButtons({makeButton(QT_TR_NOOP("Use this language"),
+                           [this, languages] { languages->changeLanguage(m_table->currentIndex().row()); })});
 }
 
 void LanguagesPage::addSamples()
@@ -69,8 +67,7 @@ void LanguagesPage::addSamples()
 
 void LanguagesPage::languageChanged()
 {
-    const QStringList headers{tr("Language"), tr("Number in the product family"), tr("Catalogue"),
-                              tr("Abbreviation")};
+    const QStringList headers{tr("Language"), tr("Number"), tr("Catalogue"), tr("Abbreviation")};
     auto* const languages = CLanguageManager::instance();
     for (int i = 0; i < headers.size(); ++i) {
         languages->model()->setHeaderData(i, Qt::Horizontal, headers.at(i));

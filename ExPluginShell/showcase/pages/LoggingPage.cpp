@@ -36,9 +36,10 @@ LoggingPage::LoggingPage(QWidget* parent)
 void LoggingPage::addSender()
 {
     m_message = new QLineEdit(this);
-    translate(QT_TR_NOOP("A line from the showcase"),
-              [this](const QString& text) { m_message->setText(text); });
+    const char* const hint = QT_TR_NOOP("A line from the showcase");
+    translate(hint, [this](const QString& text) { m_message->setText(text); });
     auto* row = new QHBoxLayout;
+    row->setSpacing(8);
     row->addWidget(m_message, 1);
     const struct {
         const char* text;

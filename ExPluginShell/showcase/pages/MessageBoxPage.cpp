@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -33,20 +32,18 @@ QWidget* makeMessageBoxPage(QWidget* parent)
 MessageBoxPage::MessageBoxPage(QWidget* parent)
     : PageWidget(parent)
 {
-    addText();
+    addFields();
     addBoxes();
     addAbout();
     column()->addStretch();
     languageChanged();
 }
 
-void MessageBoxPage::addText()
+void MessageBoxPage::addFields()
 {
     m_text = new QPlainTextEdit(this);
     m_text->setTabChangesFocus(true);
     m_text->setFixedHeight(90);
-    translate(QT_TR_NOOP("Each box brings a text of its own"),
-              [this](const QString& text) { m_text->setPlaceholderText(text); });
     m_height = new QSpinBox(this);
     m_height->setRange(120, 600);
     m_height->setValue(200);
@@ -54,6 +51,8 @@ void MessageBoxPage::addText()
     auto* const form = addForm();
     addRow(form, QT_TR_NOOP("Text"), m_text);
     addRow(form, QT_TR_NOOP("Height"), m_height);
+    addText(QT_TR_NOOP("Without a text each box brings one of its own."))
+        ->setObjectName(QStringLiteral("pageSummary"));
 }
 
 void MessageBoxPage::addBoxes()
@@ -77,12 +76,8 @@ void MessageBoxPage::addBoxes()
 void MessageBoxPage::addAbout()
 {
     addTitle(QT_TR_NOOP("About dialogs"));
-    auto* const row = new QHBoxLayout;
-    row->addWidget(makeButton(QT_TR_NOOP("About the product"), [this] { CAboutDlg(this).exec(); }));
-    row->addWidget(
-        makeButton(QT_TR_NOOP("About the product family"), [this] { CAboutOstraDlg(this).exec(); }));
-    row->addStretch();
-    column()->addLayout(row);
+    addButtons({makeButton(QT_TR_NOOP("About the product"), [this] { CAboutDlg(this).exec(); }),
+                makeButton(QT_TR_NOOP("About the product family"), [this] { CAboutOstraDlg(this).exec(); })});
 }
 
 void MessageBoxPage::showBox(int kind)

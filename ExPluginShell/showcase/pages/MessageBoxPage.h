@@ -19,7 +19,7 @@ protected:
     void languageChanged() override;
 
 private:
-    void addText();
+    void addFields();
     void addBoxes();
     void addAbout();
     void showBox(int kind);

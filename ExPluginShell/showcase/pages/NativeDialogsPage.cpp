@@ -59,7 +59,6 @@ NativeDialogsPage::NativeDialogsPage(QWidget* parent)
     column()->addLayout(grid);
     addTitle(QT_TR_NOOP("What was chosen"));
     m_answer->setReadOnly(true);
-    translate(QT_TR_NOOP("Nothing yet"), [this](const QString& text) { m_answer->setPlaceholderText(text); });
     column()->addWidget(m_answer, 1);
 }
 

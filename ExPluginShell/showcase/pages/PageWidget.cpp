@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -30,6 +31,7 @@ QLabel* PageWidget::addTitle(const char* source)
 {
     auto* label = addText(source);
     label->setObjectName(QStringLiteral("pageSubtitle"));
+    label->setContentsMargins(0, 10, 0, 0);
     return label;
 }
 
@@ -61,9 +63,22 @@ QFormLayout* PageWidget::addForm()
     return form;
 }
 
+void PageWidget::addButtons(std::initializer_list<QPushButton*> buttons)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    for (QPushButton* const button : buttons) {
+        row->addWidget(button);
+    }
+    row->addStretch();
+    m_column->addLayout(row);
+}
+
 void PageWidget::addRow(QFormLayout* form, const char* source, QWidget* field)
 {
+    constexpr int labelWidth = 190; // the same in all forms of a page
     auto* label = new QLabel(this);
+    label->setMinimumWidth(labelWidth);
     label->setBuddy(field);
     translate(source, [label](const QString& text) { label->setText(text); });
     form->addRow(label, field);

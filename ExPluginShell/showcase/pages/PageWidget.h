@@ -17,7 +17,8 @@ class QVBoxLayout;
 /// {
 ///     addTitle(QT_TR_NOOP("Sliders"));
 ///     auto* button = new QPushButton(this);
-///     translate(QT_TR_NOOP("Reset"), [button](const QString& text) { button->setText(text); });
+///     const char* const reset = QT_TR_NOOP("Reset");
+///     translate(reset, [button](const QString& text) { button->setText(text); });
 ///     column()->addWidget(button);
 /// }
 /// \endcode
@@ -30,7 +31,8 @@ public:
 
 protected:
     /// Calls \a apply with the translation of \a source now and whenever the language changes. The context is
-    /// the class of the page, so \a source is marked with QT_TR_NOOP.
+    /// the class of the page, so \a source is marked with QT_TR_NOOP; outside of this call, whose name the
+    /// tools take for a translation of their own.
     void translate(const char* source, std::function<void(const QString&)> apply);
     /// Where the page's widgets go.
     QVBoxLayout* column() const { return m_column; }
@@ -43,6 +45,8 @@ protected:
     QPushButton* makeButton(const char* source, std::function<void()> action);
     /// Adds a form with the label column at the left.
     QFormLayout* addForm();
+    /// Adds a row of buttons, left-aligned.
+    void addButtons(std::initializer_list<QPushButton*> buttons);
     /// Adds a row with a translated label to \a form.
     void addRow(QFormLayout* form, const char* source, QWidget* field);
 

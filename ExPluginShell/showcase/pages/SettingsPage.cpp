@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -77,6 +78,7 @@ void SettingsPage::addValues()
     addRow(form, QT_TR_NOOP("Key"), m_key);
     addRow(form, QT_TR_NOOP("Value"), m_value);
     auto* const row = new QHBoxLayout;
+    row->setSpacing(8);
     row->addWidget(
         makeButton(QT_TR_NOOP("Write"), [this] { CSettings().setValue(m_key->text(), m_value->text()); }));
     row->addWidget(makeButton(QT_TR_NOOP("Remove"), [this] {
@@ -100,6 +102,7 @@ void SettingsPage::addSuiteFile()
     addRow(form, QT_TR_NOOP("File"), path);
     addRow(form, QT_TR_NOOP("Note to the other products"), m_suiteValue);
     auto* const row = new QHBoxLayout;
+    row->setSpacing(8);
     row->addWidget(makeButton(QT_TR_NOOP("Write into the file"), [this] { writeSuiteValue(); }));
     row->addStretch();
     form->addRow(QString(), row);

@@ -5,7 +5,6 @@
 #include <utilsDll/StorageLocation.h>
 
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
@@ -63,12 +62,10 @@ StoragePage::StoragePage(QWidget* parent)
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->setWordWrap(false);
     m_table->setTextElideMode(Qt::ElideMiddle);
     column()->addWidget(m_table, 1);
-    auto* const row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(makeButton(QT_TR_NOOP("Look again"), [this] { fill(); }));
-    column()->addLayout(row);
+    addButtons({makeButton(QT_TR_NOOP("Look again"), [this] { fill(); })});
     languageChanged();
 }
 

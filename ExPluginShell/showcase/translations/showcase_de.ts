@@ -254,6 +254,70 @@
         <source>A SOAP client and the small service that it asks, both in this process.</source>
         <translation>Ein SOAP-Client und der kleine Dienst, den er befragt, beide in diesem Prozess.</translation>
     </message>
+    <message>
+        <source>Logging</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Jede Zeile geht über eine Brücke an den Protokollschreiber des Prozesses.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>Voreinstellungen dieses Produkts und die gemeinsame Datei der Produktfamilie.</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Ablage</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>Alle Ordner und Dateien, die das Produkt kennt.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>Eine Wahl für alle Produkte; Texte, Datum und Zahlen folgen sofort.</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>Alle Standard-Bedienelemente im Stil des Produkts.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>Die eigenen Meldungsfenster des Produkts: 520 Pixel breit, mit Maus oder Tastatur zu beantworten.</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Zeichenwerkzeuge</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>Hilfslinien und Mauszeiger der Korrekturwerkzeuge auf einem vom Programm gemalten Bild.</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>Systemdialoge</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>Die Dialoge des Systems für Dateien und Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -284,6 +348,488 @@
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>AsyncPage</name>
+    <message>
+        <source>Move the slider: its many requests become one call.</source>
+        <translation>Bewegen Sie den Regler: Aus vielen Anforderungen wird ein Aufruf.</translation>
+    </message>
+    <message>
+        <source>Not running.</source>
+        <translation>Läuft nicht.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1 items on a pool of two threads.</source>
+        <translation>%1 Aufgaben auf zwei Threads.</translation>
+    </message>
+    <message>
+        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
+        <translation>Während die Seite wartet, werden Klicks verschluckt; der Fortschrittsbalken läuft weiter.</translation>
+    </message>
+    <message>
+        <source>No clicks yet.</source>
+        <translation>Noch keine Klicks.</translation>
+    </message>
+    <message>
+        <source>Delayed calls</source>
+        <translation>Verzögerte Aufrufe</translation>
+    </message>
+    <message>
+        <source>Periodic call</source>
+        <translation>Regelmäßiger Aufruf</translation>
+    </message>
+    <message>
+        <source>Work items</source>
+        <translation>Aufgaben</translation>
+    </message>
+    <message>
+        <source>Waits</source>
+        <translation>Warten</translation>
+    </message>
+    <message>
+        <source>Wait, input excluded</source>
+        <translation>Warten ohne Eingaben</translation>
+    </message>
+    <message>
+        <source>Wait for a worker</source>
+        <translation>Auf eine Aufgabe warten</translation>
+    </message>
+    <message>
+        <source>Click me meanwhile</source>
+        <translation>Klicken Sie mich inzwischen</translation>
+    </message>
+    <message>
+        <source>%1 requests became %2 calls.</source>
+        <translation>%1 Anforderungen wurden zu %2 Aufrufen.</translation>
+    </message>
+    <message>
+        <source>Every %1 ms.</source>
+        <translation>Alle %1 ms.</translation>
+    </message>
+    <message>
+        <source>Discarded after %1 calls.</source>
+        <translation>Nach %1 Aufrufen verworfen.</translation>
+    </message>
+    <message>
+        <source>%1 calls.</source>
+        <translation>%1 Aufrufe.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items finished, %3 of them stopped.</source>
+        <translation>%1 von %2 Aufgaben beendet, davon %3 angehalten.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 ms: nothing can be clicked.</source>
+        <translation>%1 ms Wartezeit: Nichts lässt sich anklicken.</translation>
+    </message>
+    <message>
+        <source>Over; %1 clicks got through.</source>
+        <translation>Vorbei; %1 Klicks kamen durch.</translation>
+    </message>
+    <message>
+        <source>Waiting for a worker: everything can be clicked.</source>
+        <translation>Warten auf eine Aufgabe: Alles lässt sich anklicken.</translation>
+    </message>
+    <message>
+        <source>The worker has finished.</source>
+        <translation>Die Aufgabe ist beendet.</translation>
+    </message>
+    <message>
+        <source>%1 clicks.</source>
+        <translation>%1 Klicks.</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingPage</name>
+    <message>
+        <source>Drag across the picture to draw a line</source>
+        <translation>Ziehen Sie über das Bild, um eine Linie zu zeichnen</translation>
+    </message>
+    <message>
+        <source>Picture with guide lines</source>
+        <translation>Bild mit Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Stretch the pattern</source>
+        <translation>Muster strecken</translation>
+    </message>
+    <message>
+        <source>Remove all lines</source>
+        <translation>Alle Linien entfernen</translation>
+    </message>
+    <message>
+        <source>Lines: %1</source>
+        <translation>Linien: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagesPage</name>
+    <message>
+        <source>Use this language</source>
+        <translation>Diese Sprache verwenden</translation>
+    </message>
+    <message>
+        <source>What follows the language</source>
+        <translation>Was der Sprache folgt</translation>
+    </message>
+    <message>
+        <source>A date</source>
+        <translation>Ein Datum</translation>
+    </message>
+    <message>
+        <source>A number</source>
+        <translation>Eine Zahl</translation>
+    </message>
+    <message>
+        <source>A button of the toolkit</source>
+        <translation>Eine Schaltfläche des Toolkits</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Kürzel</translation>
+    </message>
+</context>
+<context>
+    <name>LoggingPage</name>
+    <message>
+        <source>Log folder</source>
+        <translation>Ordner der Protokolle</translation>
+    </message>
+    <message>
+        <source>Least important level</source>
+        <translation>Niedrigste Stufe</translation>
+    </message>
+    <message>
+        <source>A line from the showcase</source>
+        <translation>Eine Zeile aus der Vorführung</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The log of this process</source>
+        <translation>Das Protokoll dieses Prozesses</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxPage</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Without a text each box brings one of its own.</source>
+        <translation>Ohne Text bringt jedes Fenster seinen eigenen mit.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>About dialogs</source>
+        <translation>Info-Dialoge</translation>
+    </message>
+    <message>
+        <source>About the product</source>
+        <translation>Über das Produkt</translation>
+    </message>
+    <message>
+        <source>About the product family</source>
+        <translation>Über die Produktfamilie</translation>
+    </message>
+    <message>
+        <source>No answer yet</source>
+        <translation>Noch keine Antwort</translation>
+    </message>
+    <message>
+        <source>The last answer: %1</source>
+        <translation>Die letzte Antwort: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>The picture was saved. You find it beside the original.</source>
+        <translation>Das Bild wurde gespeichert. Sie finden es neben dem Original.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>No lens profile was found for this picture. Distortion is not corrected.</source>
+        <translation>Für dieses Bild wurde kein Objektivprofil gefunden. Die Verzeichnung wird nicht korrigiert.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved, because the disk is full.</source>
+        <translation>Das Bild konnte nicht gespeichert werden, weil der Datenträger voll ist.</translation>
+    </message>
+    <message>
+        <source>Yes or no</source>
+        <translation>Ja oder nein</translation>
+    </message>
+    <message>
+        <source>A picture of this name is there already. Do you want to replace it?</source>
+        <translation>Ein Bild dieses Namens ist schon vorhanden. Möchten Sie es ersetzen?</translation>
+    </message>
+    <message>
+        <source>Save, discard, cancel</source>
+        <translation>Speichern, verwerfen, abbrechen</translation>
+    </message>
+    <message>
+        <source>The picture was changed. Do you want to save your corrections?</source>
+        <translation>Das Bild wurde verändert. Möchten Sie Ihre Korrekturen speichern?</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>The camera was held upright. Do you want to rotate the picture?</source>
+        <translation>Die Kamera wurde hochkant gehalten. Möchten Sie das Bild drehen?</translation>
+    </message>
+    <message>
+        <source>Quit during work</source>
+        <translation>Beenden während der Arbeit</translation>
+    </message>
+    <message>
+        <source>Pictures are still being corrected. What is not finished will be lost.</source>
+        <translation>Es werden noch Bilder korrigiert. Was nicht fertig ist, geht verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>NativeDialogsPage</name>
+    <message>
+        <source>Pictures (*.jpg *.png *.tif);;All files (*)</source>
+        <translation>Bilder (*.jpg *.png *.tif);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open a file</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>Save a file</source>
+        <translation>Datei speichern</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Choose a folder by its pictures</source>
+        <translation>Ordner anhand der Bilder wählen</translation>
+    </message>
+    <message>
+        <source>What was chosen</source>
+        <translation>Was gewählt wurde</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Values are kept in</source>
+        <translation>Werte liegen in</translation>
+    </message>
+    <message>
+        <source>Least important log level</source>
+        <translation>Niedrigste Protokollstufe</translation>
+    </message>
+    <message>
+        <source>Write a log, from the next start on</source>
+        <translation>Protokoll schreiben, ab dem nächsten Start</translation>
+    </message>
+    <message>
+        <source>Crash reports may be sent</source>
+        <translation>Absturzberichte dürfen gesendet werden</translation>
+    </message>
+    <message>
+        <source>Any value</source>
+        <translation>Beliebiger Wert</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>The file of the product family</source>
+        <translation>Die Datei der Produktfamilie</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Note to the other products</source>
+        <translation>Notiz an die anderen Produkte</translation>
+    </message>
+    <message>
+        <source>Write into the file</source>
+        <translation>In die Datei schreiben</translation>
+    </message>
+    <message>
+        <source>a temporary file, gone at the end</source>
+        <translation>einer temporären Datei, am Ende gelöscht</translation>
+    </message>
+    <message>
+        <source>the system&apos;s own store</source>
+        <translation>dem Speicher des Systems</translation>
+    </message>
+</context>
+<context>
+    <name>ShowcaseWindow</name>
+    <message>
+        <source>Trelio Frame – Showcase</source>
+        <translation>Trelio Frame – Vorführung</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>StoragePage</name>
+    <message>
+        <source>Data of the product</source>
+        <translation>Daten des Produkts</translation>
+    </message>
+    <message>
+        <source>Cache on disk</source>
+        <translation>Cache auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Cached token</source>
+        <translation>Gemerktes Token</translation>
+    </message>
+    <message>
+        <source>Packs of the user</source>
+        <translation>Pakete des Benutzers</translation>
+    </message>
+    <message>
+        <source>Favourite presets</source>
+        <translation>Bevorzugte Vorgaben</translation>
+    </message>
+    <message>
+        <source>Calibration data</source>
+        <translation>Kalibrierungsdaten</translation>
+    </message>
+    <message>
+        <source>Crash reports</source>
+        <translation>Absturzberichte</translation>
+    </message>
+    <message>
+        <source>Crash reports under way</source>
+        <translation>Absturzberichte in Arbeit</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Protokolle</translation>
+    </message>
+    <message>
+        <source>Sample pictures</source>
+        <translation>Beispielbilder</translation>
+    </message>
+    <message>
+        <source>Preferences of this computer</source>
+        <translation>Vorgaben dieses Computers</translation>
+    </message>
+    <message>
+        <source>Settings of the product family</source>
+        <translation>Einstellungen der Produktfamilie</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Neu prüfen</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>auf diesem System nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>What for</source>
+        <translation>Wofür</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>There</source>
+        <translation>Vorhanden</translation>
     </message>
 </context>
 </TS>

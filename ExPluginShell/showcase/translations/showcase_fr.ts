@@ -254,6 +254,70 @@
         <source>A SOAP client and the small service that it asks, both in this process.</source>
         <translation>Un client SOAP et le petit service qu’il interroge, tous deux dans ce processus.</translation>
     </message>
+    <message>
+        <source>Logging</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Chaque ligne passe par un seul pont vers l’enregistreur du processus.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>Préférences de ce produit, et fichier partagé par la famille de produits.</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Stockage</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>Tous les dossiers et fichiers que le produit connaît.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>Un seul choix pour tous les produits ; textes, dates et nombres suivent aussitôt.</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>Tous les éléments standard avec le style et les feuilles de style du produit.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Boîtes de message</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>Les boîtes propres au produit : 520 pixels de large, réponse à la souris ou au clavier.</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Outils de dessin</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>Lignes de guidage et curseurs des outils de correction, sur une image peinte par le programme.</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>Dialogues du système</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>Les dialogues du système pour les fichiers et les dossiers.</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -284,6 +348,488 @@
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>AsyncPage</name>
+    <message>
+        <source>Move the slider: its many requests become one call.</source>
+        <translation>Déplacez le curseur : ses nombreuses demandes deviennent un seul appel.</translation>
+    </message>
+    <message>
+        <source>Not running.</source>
+        <translation>À l’arrêt.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>%1 items on a pool of two threads.</source>
+        <translation>%1 tâches sur deux threads.</translation>
+    </message>
+    <message>
+        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
+        <translation>Pendant l’attente, les clics sont ignorés et la barre de progression continue.</translation>
+    </message>
+    <message>
+        <source>No clicks yet.</source>
+        <translation>Aucun clic pour l’instant.</translation>
+    </message>
+    <message>
+        <source>Delayed calls</source>
+        <translation>Appels différés</translation>
+    </message>
+    <message>
+        <source>Periodic call</source>
+        <translation>Appel périodique</translation>
+    </message>
+    <message>
+        <source>Work items</source>
+        <translation>Tâches</translation>
+    </message>
+    <message>
+        <source>Waits</source>
+        <translation>Attentes</translation>
+    </message>
+    <message>
+        <source>Wait, input excluded</source>
+        <translation>Attendre, saisie exclue</translation>
+    </message>
+    <message>
+        <source>Wait for a worker</source>
+        <translation>Attendre une tâche</translation>
+    </message>
+    <message>
+        <source>Click me meanwhile</source>
+        <translation>Cliquez-moi entre-temps</translation>
+    </message>
+    <message>
+        <source>%1 requests became %2 calls.</source>
+        <translation>%1 demandes sont devenues %2 appels.</translation>
+    </message>
+    <message>
+        <source>Every %1 ms.</source>
+        <translation>Toutes les %1 ms.</translation>
+    </message>
+    <message>
+        <source>Discarded after %1 calls.</source>
+        <translation>Abandonné après %1 appels.</translation>
+    </message>
+    <message>
+        <source>%1 calls.</source>
+        <translation>%1 appels.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items finished, %3 of them stopped.</source>
+        <translation>%1 tâches sur %2 terminées, dont %3 arrêtées.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 ms: nothing can be clicked.</source>
+        <translation>Attente de %1 ms : rien n’est cliquable.</translation>
+    </message>
+    <message>
+        <source>Over; %1 clicks got through.</source>
+        <translation>Terminé ; %1 clics sont passés.</translation>
+    </message>
+    <message>
+        <source>Waiting for a worker: everything can be clicked.</source>
+        <translation>Attente d’une tâche : tout est cliquable.</translation>
+    </message>
+    <message>
+        <source>The worker has finished.</source>
+        <translation>La tâche est terminée.</translation>
+    </message>
+    <message>
+        <source>%1 clicks.</source>
+        <translation>%1 clics.</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingPage</name>
+    <message>
+        <source>Drag across the picture to draw a line</source>
+        <translation>Glissez sur l’image pour tracer une ligne</translation>
+    </message>
+    <message>
+        <source>Picture with guide lines</source>
+        <translation>Image avec lignes de guidage</translation>
+    </message>
+    <message>
+        <source>Stretch the pattern</source>
+        <translation>Étirer le motif</translation>
+    </message>
+    <message>
+        <source>Remove all lines</source>
+        <translation>Supprimer toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Lines: %1</source>
+        <translation>Lignes : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagesPage</name>
+    <message>
+        <source>Use this language</source>
+        <translation>Utiliser cette langue</translation>
+    </message>
+    <message>
+        <source>What follows the language</source>
+        <translation>Ce qui suit la langue</translation>
+    </message>
+    <message>
+        <source>A date</source>
+        <translation>Une date</translation>
+    </message>
+    <message>
+        <source>A number</source>
+        <translation>Un nombre</translation>
+    </message>
+    <message>
+        <source>A button of the toolkit</source>
+        <translation>Un bouton du toolkit</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Catalogue</source>
+        <translation>Catalogue</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Abréviation</translation>
+    </message>
+</context>
+<context>
+    <name>LoggingPage</name>
+    <message>
+        <source>Log folder</source>
+        <translation>Dossier des journaux</translation>
+    </message>
+    <message>
+        <source>Least important level</source>
+        <translation>Niveau minimal</translation>
+    </message>
+    <message>
+        <source>A line from the showcase</source>
+        <translation>Une ligne de la démonstration</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Débogage</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>The log of this process</source>
+        <translation>Le journal de ce processus</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxPage</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Without a text each box brings one of its own.</source>
+        <translation>Sans texte, chaque boîte affiche le sien.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Boîtes de message</translation>
+    </message>
+    <message>
+        <source>About dialogs</source>
+        <translation>Dialogues « À propos »</translation>
+    </message>
+    <message>
+        <source>About the product</source>
+        <translation>À propos du produit</translation>
+    </message>
+    <message>
+        <source>About the product family</source>
+        <translation>À propos de la famille</translation>
+    </message>
+    <message>
+        <source>No answer yet</source>
+        <translation>Pas encore de réponse</translation>
+    </message>
+    <message>
+        <source>The last answer: %1</source>
+        <translation>Dernière réponse : %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>The picture was saved. You find it beside the original.</source>
+        <translation>L’image a été enregistrée. Elle se trouve à côté de l’original.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>No lens profile was found for this picture. Distortion is not corrected.</source>
+        <translation>Aucun profil d’objectif n’a été trouvé pour cette image. La distorsion n’est pas corrigée.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved, because the disk is full.</source>
+        <translation>L’image n’a pas pu être enregistrée, car le disque est plein.</translation>
+    </message>
+    <message>
+        <source>Yes or no</source>
+        <translation>Oui ou non</translation>
+    </message>
+    <message>
+        <source>A picture of this name is there already. Do you want to replace it?</source>
+        <translation>Une image de ce nom existe déjà. Voulez-vous la remplacer ?</translation>
+    </message>
+    <message>
+        <source>Save, discard, cancel</source>
+        <translation>Enregistrer, abandonner, annuler</translation>
+    </message>
+    <message>
+        <source>The picture was changed. Do you want to save your corrections?</source>
+        <translation>L’image a été modifiée. Voulez-vous enregistrer vos corrections ?</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Faire pivoter</translation>
+    </message>
+    <message>
+        <source>The camera was held upright. Do you want to rotate the picture?</source>
+        <translation>L’appareil était tenu à la verticale. Voulez-vous faire pivoter l’image ?</translation>
+    </message>
+    <message>
+        <source>Quit during work</source>
+        <translation>Quitter en cours de travail</translation>
+    </message>
+    <message>
+        <source>Pictures are still being corrected. What is not finished will be lost.</source>
+        <translation>Des images sont en cours de correction. Ce qui n’est pas terminé sera perdu.</translation>
+    </message>
+</context>
+<context>
+    <name>NativeDialogsPage</name>
+    <message>
+        <source>Pictures (*.jpg *.png *.tif);;All files (*)</source>
+        <translation>Images (*.jpg *.png *.tif);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Open a file</source>
+        <translation>Ouvrir un fichier</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Ouvrir des fichiers</translation>
+    </message>
+    <message>
+        <source>Save a file</source>
+        <translation>Enregistrer un fichier</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Choose a folder by its pictures</source>
+        <translation>Choisir un dossier d’images</translation>
+    </message>
+    <message>
+        <source>What was chosen</source>
+        <translation>Ce qui a été choisi</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Values are kept in</source>
+        <translation>Les valeurs sont dans</translation>
+    </message>
+    <message>
+        <source>Least important log level</source>
+        <translation>Niveau minimal du journal</translation>
+    </message>
+    <message>
+        <source>Write a log, from the next start on</source>
+        <translation>Tenir un journal, dès le prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Crash reports may be sent</source>
+        <translation>Envoi des rapports d’incident autorisé</translation>
+    </message>
+    <message>
+        <source>Any value</source>
+        <translation>Une valeur quelconque</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Clé</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>The file of the product family</source>
+        <translation>Le fichier de la famille de produits</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Note to the other products</source>
+        <translation>Note aux autres produits</translation>
+    </message>
+    <message>
+        <source>Write into the file</source>
+        <translation>Écrire dans le fichier</translation>
+    </message>
+    <message>
+        <source>a temporary file, gone at the end</source>
+        <translation>un fichier temporaire, effacé à la fin</translation>
+    </message>
+    <message>
+        <source>the system&apos;s own store</source>
+        <translation>le registre du système</translation>
+    </message>
+</context>
+<context>
+    <name>ShowcaseWindow</name>
+    <message>
+        <source>Trelio Frame – Showcase</source>
+        <translation>Trelio Frame – Démonstration</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+</context>
+<context>
+    <name>StoragePage</name>
+    <message>
+        <source>Data of the product</source>
+        <translation>Données du produit</translation>
+    </message>
+    <message>
+        <source>Cache on disk</source>
+        <translation>Cache sur disque</translation>
+    </message>
+    <message>
+        <source>Cached token</source>
+        <translation>Jeton mis en cache</translation>
+    </message>
+    <message>
+        <source>Packs of the user</source>
+        <translation>Paquets de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Favourite presets</source>
+        <translation>Préréglages favoris</translation>
+    </message>
+    <message>
+        <source>Calibration data</source>
+        <translation>Données de calibrage</translation>
+    </message>
+    <message>
+        <source>Crash reports</source>
+        <translation>Rapports d’incident</translation>
+    </message>
+    <message>
+        <source>Crash reports under way</source>
+        <translation>Rapports d’incident en cours</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Journaux</translation>
+    </message>
+    <message>
+        <source>Sample pictures</source>
+        <translation>Images d’exemple</translation>
+    </message>
+    <message>
+        <source>Preferences of this computer</source>
+        <translation>Préférences de cet ordinateur</translation>
+    </message>
+    <message>
+        <source>Settings of the product family</source>
+        <translation>Réglages de la famille de produits</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Vérifier à nouveau</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>absent de ce système</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>What for</source>
+        <translation>Usage</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>There</source>
+        <translation>Présent</translation>
     </message>
 </context>
 </TS>

@@ -177,4 +177,97 @@ Bitte schließen Sie einige andere Programme und versuchen Sie dann, Trelio Fram
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>CAboutDlg</name>
+    <message>
+        <source>About Trelio Frame</source>
+        <translation>Über Trelio Frame</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
+        <translation>Korrekturen von Perspektive, Horizont und Objektiv für Ihre Fotos. Erstellt mit:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>CAboutOstraDlg</name>
+    <message>
+        <source>About the Ostra Collection</source>
+        <translation>Über die Ostra Collection</translation>
+    </message>
+    <message>
+        <source>with Trelio Frame %1</source>
+        <translation>mit Trelio Frame %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
+        <translation>Eine Familie von Plug-ins für Fotografen. Ihre Mitglieder teilen Sprache und Voreinstellungen: Was Sie in einem festlegen, gilt in allen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>Nicht beenden</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Ohne Speichern beenden</translation>
+    </message>
+</context>
 </TS>

@@ -177,4 +177,97 @@ Please close some other programs and try to start Trelio Frame again.</translati
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>CAboutDlg</name>
+    <message>
+        <source>About Trelio Frame</source>
+        <translation>About Trelio Frame</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. All rights reserved.</translation>
+    </message>
+    <message>
+        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
+        <translation>Perspective, horizon and lens corrections for your photos. Made with:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>CAboutOstraDlg</name>
+    <message>
+        <source>About the Ostra Collection</source>
+        <translation>About the Ostra Collection</translation>
+    </message>
+    <message>
+        <source>with Trelio Frame %1</source>
+        <translation>with Trelio Frame %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. All rights reserved.</translation>
+    </message>
+    <message>
+        <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
+        <translation>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>Don&apos;t quit</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Quit without saving</translation>
+    </message>
+</context>
 </TS>

@@ -177,4 +177,97 @@ Veuillez fermer d’autres programmes, puis relancer Trelio Frame.</translation>
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>CAboutDlg</name>
+    <message>
+        <source>About Trelio Frame</source>
+        <translation>À propos de Trelio Frame</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
+        <translation>Corrections de perspective, d’horizon et d’objectif pour vos photos. Réalisé avec :</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>CAboutOstraDlg</name>
+    <message>
+        <source>About the Ostra Collection</source>
+        <translation>À propos de l’Ostra Collection</translation>
+    </message>
+    <message>
+        <source>with Trelio Frame %1</source>
+        <translation>avec Trelio Frame %1</translation>
+    </message>
+    <message>
+        <source>© Tolvan. All rights reserved.</source>
+        <translation>© Tolvan. Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
+        <translation>Une famille de modules pour photographes. Ses membres partagent leur langue et leurs préférences : ce que vous réglez dans l’un vaut pour tous.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialogue</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Faire pivoter</translation>
+    </message>
+    <message>
+        <source>Don&apos;t quit</source>
+        <translation>Ne pas quitter</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Quitter sans enregistrer</translation>
+    </message>
+</context>
 </TS>
