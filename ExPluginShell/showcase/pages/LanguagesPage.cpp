@@ -46,6 +46,7 @@ void LanguagesPage::addTable()
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_table, &QTableView::activated, this,
             [languages](const QModelIndex& index) { languages->changeLanguage(index.row()); });
     column()->addWidget(m_table);

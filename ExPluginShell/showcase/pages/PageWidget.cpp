@@ -76,7 +76,7 @@ void PageWidget::addButtons(std::initializer_list<QPushButton*> buttons)
 
 void PageWidget::addRow(QFormLayout* form, const char* source, QWidget* field)
 {
-    constexpr int labelWidth = 190; // the same in all forms of a page
+    constexpr int labelWidth = 230; // the same in all forms of a page
     auto* label = new QLabel(this);
     label->setMinimumWidth(labelWidth);
     label->setBuddy(field);
