@@ -18,3 +18,18 @@ if(UTILSDLL_SANITIZE)
         -fsanitize=${UTILSDLL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(project_options INTERFACE -fsanitize=${UTILSDLL_SANITIZE})
 endif()
+
+# tolvan_precompile(TARGET [HEADERS <header>...] [FROM other]): precompiles the toolkit's headers for TARGET, or takes those
+# of another target with the same compiler settings. Sources still include what they use: the strict presets build
+# without this.
+function(tolvan_precompile target)
+    cmake_parse_arguments(arg "" "FROM" "HEADERS" ${ARGN})
+    if(NOT UTILSDLL_PRECOMPILE)
+        return()
+    endif()
+    if(arg_FROM)
+        target_precompile_headers(${target} REUSE_FROM ${arg_FROM})
+    else()
+        target_precompile_headers(${target} PRIVATE <QtWidgets/QtWidgets> ${arg_HEADERS})
+    endif()
+endfunction()
