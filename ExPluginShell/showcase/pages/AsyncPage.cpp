@@ -1,5 +1,7 @@
 #include "AsyncPage.h"
 
+#include "Pages.h"
+
 #include <utilsDll/DelayedCall.h>
 #include <utilsDll/ExcludeUserInpuEventLoop.h>
 #include <utilsDll/OperationCompletionWaiter.h>
@@ -46,33 +48,35 @@ private:
     }
 };
 
-QLabel* makeNote(const QString& text)
-{
-    auto* const label = new QLabel(text);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
+QWidget* makeAsyncPage(QWidget* parent)
+{
+    return new AsyncPage(parent);
+}
+
 AsyncPage::AsyncPage(QWidget* parent)
-    : QWidget(parent)
+    : PageWidget(parent)
     , m_slider(new QSlider(Qt::Horizontal))
-    , m_burst(makeNote(tr("Move the slider: its many requests become one call.")))
-    , m_ticks(makeNote(tr("Not running.")))
+    , m_burst(makeNote(QT_TR_NOOP("Move the slider: its many requests become one call.")))
+    , m_ticks(makeNote(QT_TR_NOOP("Not running.")))
     , m_progress(new QProgressBar)
-    , m_start(new QPushButton(tr("Start")))
-    , m_stop(new QPushButton(tr("Stop")))
-    , m_items(makeNote(tr("%1 items on a pool of two threads.").arg(itemCount)))
-    , m_wait(makeNote(tr("While the page waits, clicks are swallowed and the progress bar goes on.")))
-    , m_clicks(makeNote(tr("No clicks yet.")))
+    , m_start(new QPushButton)
+    , m_stop(new QPushButton)
+    , m_items(new QLabel)
+    , m_wait(makeNote(QT_TR_NOOP("While the page waits, clicks are swallowed and the progress bar goes on.")))
+    , m_clicks(makeNote(QT_TR_NOOP("No clicks yet.")))
 {
     m_pool.setMaxThreadCount(2);
-    auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(makeDelayedCalls());
-    layout->addWidget(makeItems());
-    layout->addWidget(makeWaits());
-    layout->addStretch();
+    m_items->setWordWrap(true);
+    const char* const items = QT_TR_NOOP("%1 items on a pool of two threads.");
+    translate(items, [this](const QString& text) { m_items->setText(text.arg(itemCount)); });
+    setText(m_start, QT_TR_NOOP("Start"));
+    setText(m_stop, QT_TR_NOOP("Stop"));
+    column()->addWidget(makeDelayedCalls());
+    column()->addWidget(makeItems());
+    column()->addWidget(makeWaits());
+    column()->addStretch();
 }
 
 AsyncPage::~AsyncPage()
@@ -81,10 +85,31 @@ AsyncPage::~AsyncPage()
     m_pool.waitForDone();
 }
 
+QGroupBox* AsyncPage::makeBox(const char* title)
+{
+    auto* const box = new QGroupBox;
+    translate(title, [box](const QString& text) { box->setTitle(text); });
+    return box;
+}
+
+QLabel* AsyncPage::makeNote(const char* text)
+{
+    auto* const label = new QLabel;
+    label->setWordWrap(true);
+    translate(text, [label](const QString& translated) { label->setText(translated); });
+    return label;
+}
+
+void AsyncPage::setText(QPushButton* button, const char* text)
+{
+    translate(text, [button](const QString& translated) { button->setText(translated); });
+}
+
 QWidget* AsyncPage::makeDelayedCalls()
 {
-    auto* const box = new QGroupBox(tr("Delayed calls"));
-    auto* const periodic = new QPushButton(tr("Periodic call"));
+    auto* const box = makeBox(QT_TR_NOOP("Delayed calls"));
+    auto* const periodic = new QPushButton;
+    setText(periodic, QT_TR_NOOP("Periodic call"));
     periodic->setCheckable(true);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved()));
     connect(periodic, SIGNAL(toggled(bool)), this, SLOT(togglePeriodic(bool)));
@@ -100,7 +125,7 @@ QWidget* AsyncPage::makeDelayedCalls()
 
 QWidget* AsyncPage::makeItems()
 {
-    auto* const box = new QGroupBox(tr("Work items"));
+    auto* const box = makeBox(QT_TR_NOOP("Work items"));
     m_progress->setRange(0, itemCount * stepsPerItem);
     m_progress->setValue(0);
     m_stop->setEnabled(false);
@@ -118,10 +143,13 @@ QWidget* AsyncPage::makeItems()
 
 QWidget* AsyncPage::makeWaits()
 {
-    auto* const box = new QGroupBox(tr("Waits"));
-    auto* const wait = new QPushButton(tr("Wait, input excluded"));
-    auto* const complete = new QPushButton(tr("Wait for a worker"));
-    auto* const click = new QPushButton(tr("Click me meanwhile"));
+    auto* const box = makeBox(QT_TR_NOOP("Waits"));
+    auto* const wait = new QPushButton;
+    setText(wait, QT_TR_NOOP("Wait, input excluded"));
+    auto* const complete = new QPushButton;
+    setText(complete, QT_TR_NOOP("Wait for a worker"));
+    auto* const click = new QPushButton;
+    setText(click, QT_TR_NOOP("Click me meanwhile"));
     connect(wait, SIGNAL(clicked()), this, SLOT(waitWithoutInput()));
     connect(complete, SIGNAL(clicked()), this, SLOT(waitForWorker()));
     connect(click, SIGNAL(clicked()), this, SLOT(onClicked()));

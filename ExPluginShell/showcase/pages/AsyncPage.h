@@ -1,24 +1,26 @@
 #pragma once
 
+#include "PageWidget.h"
+
 #include <QThreadPool>
-#include <QWidget>
 
 #include <memory>
 #include <vector>
 
 class CQRunnableItem;
+class QGroupBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
 class QSlider;
 
 /// Page "Asynchronous": delayed calls, work items, waits and the completion waiter, to try out by hand.
-class AsyncPage : public QWidget
+class AsyncPage : public PageWidget
 {
     Q_OBJECT
 
 public:
-    explicit AsyncPage(QWidget* parent = nullptr);
+    explicit AsyncPage(QWidget* parent);
     ~AsyncPage() override;
 
 private Q_SLOTS:
@@ -35,6 +37,9 @@ private Q_SLOTS:
     void onClicked();
 
 private:
+    QGroupBox* makeBox(const char* title);
+    QLabel* makeNote(const char* text);
+    void setText(QPushButton* button, const char* text);
     QWidget* makeDelayedCalls();
     QWidget* makeItems();
     QWidget* makeWaits();

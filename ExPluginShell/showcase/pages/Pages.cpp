@@ -18,6 +18,14 @@ QVector<Page> pages()
          QT_TRANSLATE_NOOP("Pages",
                            "One choice for all products; texts, dates and numbers follow it at once."),
          &makeLanguagesPage},
+        {"async", QT_TRANSLATE_NOOP("Pages", "Asynchronous"),
+         QT_TRANSLATE_NOOP(
+             "Pages",
+             "Delayed calls, work items and waits: the window answers while something is under way."),
+         &makeAsyncPage},
+        {"files", QT_TRANSLATE_NOOP("Pages", "Files"),
+         QT_TRANSLATE_NOOP("Pages", "Names, sizes, archives, the recycle bin and the file browser."),
+         &makeFilesPage},
         {"style", QT_TRANSLATE_NOOP("Pages", "Look"),
          QT_TRANSLATE_NOOP("Pages", "Every standard widget under the product's style and style sheets."),
          &makeStylePage},
@@ -36,8 +44,5 @@ QVector<Page> pages()
          QT_TRANSLATE_NOOP("Pages",
                            "A SOAP client and the small service that it asks, both in this process."),
          &makeWebServicePage},
-        {"files", QT_TRANSLATE_NOOP("Pages", "Files"),
-         QT_TRANSLATE_NOOP("Pages", "Names, sizes, archives, the recycle bin and the file browser."),
-         &makeFilesPage},
     };
 }

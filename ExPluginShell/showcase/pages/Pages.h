@@ -23,6 +23,7 @@ QWidget* makeLoggingPage(QWidget* parent);
 QWidget* makeSettingsPage(QWidget* parent);
 QWidget* makeStoragePage(QWidget* parent);
 QWidget* makeLanguagesPage(QWidget* parent);
+QWidget* makeAsyncPage(QWidget* parent);
 QWidget* makeMessageBoxPage(QWidget* parent);
 QWidget* makeDrawingPage(QWidget* parent);
 QWidget* makeNativeDialogsPage(QWidget* parent);

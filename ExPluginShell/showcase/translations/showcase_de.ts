@@ -318,6 +318,22 @@
         <source>The dialogs of the system for files and folders.</source>
         <translation>Die Dialoge des Systems für Dateien und Ordner.</translation>
     </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchron</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Verzögerte Aufrufe, Aufgaben und Wartezeiten: Das Fenster bleibt bedienbar.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -830,6 +846,89 @@
     <message>
         <source>There</source>
         <translation>Vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>Als Name und als Pfad</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Größen als Text</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>Ein Ordner als Archiv</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Packen</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Entpacken und vergleichen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>Das Archiv</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Im Dateimanager zeigen</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>In den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>erlaubt</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Nicht ausgeführt: abgebrochen, oder eine Datei ist nicht lesbar oder schreibbar.</translation>
+    </message>
+    <message>
+        <source>%1 files packed into %2.</source>
+        <translation>%1 Dateien in %2 gepackt.</translation>
+    </message>
+    <message>
+        <source>%1 files unpacked; both trees are equal.</source>
+        <translation>%1 Dateien entpackt; beide Ordner sind gleich.</translation>
+    </message>
+    <message>
+        <source>The trees differ: %1</source>
+        <translation>Die Ordner unterscheiden sich: %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>Das Archiv liegt im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>Es gibt kein Archiv.</translation>
     </message>
 </context>
 </TS>

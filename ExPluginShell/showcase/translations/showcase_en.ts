@@ -318,6 +318,22 @@
         <source>The dialogs of the system for files and folders.</source>
         <translation>The dialogs of the system for files and folders.</translation>
     </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchronous</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Delayed calls, work items and waits: the window answers while something is under way.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Names, sizes, archives, the recycle bin and the file browser.</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -830,6 +846,89 @@
     <message>
         <source>There</source>
         <translation>There</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>As a name and as a path</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Sizes as text</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>A folder as an archive</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choose...</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Pack</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Unpack and compare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>The archive</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Show in the file browser</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>Send to the recycle bin</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>may be used</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Not done: cancelled, or a file can&apos;t be read or written.</translation>
+    </message>
+    <message>
+        <source>%1 files packed into %2.</source>
+        <translation>%1 files packed into %2.</translation>
+    </message>
+    <message>
+        <source>%1 files unpacked; both trees are equal.</source>
+        <translation>%1 files unpacked; both trees are equal.</translation>
+    </message>
+    <message>
+        <source>The trees differ: %1</source>
+        <translation>The trees differ: %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>The archive is in the recycle bin.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>There is no archive.</translation>
     </message>
 </context>
 </TS>

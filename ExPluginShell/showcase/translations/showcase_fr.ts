@@ -318,6 +318,22 @@
         <source>The dialogs of the system for files and folders.</source>
         <translation>Les dialogues du système pour les fichiers et les dossiers.</translation>
     </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchrone</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Appels différés, tâches et attentes : la fenêtre répond pendant le travail.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Noms, tailles, archives, corbeille et gestionnaire de fichiers.</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -830,6 +846,89 @@
     <message>
         <source>There</source>
         <translation>Présent</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>Nom de fichier</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>Comme nom et comme chemin</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Tailles en texte</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>Un dossier en archive</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Compresser</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Extraire et comparer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>L’archive</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>utilisable</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Non effectué : annulé, ou un fichier ne peut être lu ou écrit.</translation>
+    </message>
+    <message>
+        <source>%1 files packed into %2.</source>
+        <translation>%1 fichiers compressés dans %2.</translation>
+    </message>
+    <message>
+        <source>%1 files unpacked; both trees are equal.</source>
+        <translation>%1 fichiers extraits ; les deux dossiers sont identiques.</translation>
+    </message>
+    <message>
+        <source>The trees differ: %1</source>
+        <translation>Les dossiers diffèrent : %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>L’archive est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>Il n’y a pas d’archive.</translation>
     </message>
 </context>
 </TS>

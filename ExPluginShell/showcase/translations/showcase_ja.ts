@@ -318,6 +318,22 @@
         <source>The dialogs of the system for files and folders.</source>
         <translation>ファイルとフォルダーを選ぶシステムのダイアログ。</translation>
     </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>非同期</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>遅延呼び出し、作業項目、待機：処理中もウィンドウは応答します。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>名前、サイズ、アーカイブ、ごみ箱、ファイルブラウザー。</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -830,6 +846,89 @@
     <message>
         <source>There</source>
         <translation>有無</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>名前として、パスとして</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>サイズの表記</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>フォルダーをアーカイブに</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>圧縮</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>展開して比較</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>アーカイブ</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>ファイルブラウザーで表示</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>使用できます</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>使用できません</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>実行されませんでした：キャンセルされたか、ファイルを読み書きできません。</translation>
+    </message>
+    <message>
+        <source>%1 files packed into %2.</source>
+        <translation>%1 個のファイルを %2 に圧縮しました。</translation>
+    </message>
+    <message>
+        <source>%1 files unpacked; both trees are equal.</source>
+        <translation>%1 個のファイルを展開しました。内容は一致しています。</translation>
+    </message>
+    <message>
+        <source>The trees differ: %1</source>
+        <translation>内容が異なります：%1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>アーカイブはごみ箱にあります。</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>アーカイブがありません。</translation>
     </message>
 </context>
 </TS>

@@ -318,6 +318,22 @@
         <source>The dialogs of the system for files and folders.</source>
         <translation>用于文件和文件夹的系统对话框。</translation>
     </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>异步</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>延迟调用、工作项和等待：处理期间窗口仍可响应。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
+    </message>
 </context>
 <context>
     <name>WebServicePage</name>
@@ -830,6 +846,89 @@
     <message>
         <source>There</source>
         <translation>存在</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>作为名称和路径</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>大小的文字表示</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>将文件夹打包</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>打包</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>解包并比较</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>压缩文件</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>移到回收站</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>可以使用</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>未完成：已取消，或有文件无法读写。</translation>
+    </message>
+    <message>
+        <source>%1 files packed into %2.</source>
+        <translation>已将 %1 个文件打包到 %2。</translation>
+    </message>
+    <message>
+        <source>%1 files unpacked; both trees are equal.</source>
+        <translation>已解包 %1 个文件；两个文件夹内容相同。</translation>
+    </message>
+    <message>
+        <source>The trees differ: %1</source>
+        <translation>文件夹内容不同：%1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>压缩文件已在回收站中。</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>没有压缩文件。</translation>
     </message>
 </context>
 </TS>
