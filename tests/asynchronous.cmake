@@ -3,6 +3,7 @@ if(UTILSDLL_SANITIZE MATCHES thread)
     add_executable(data_race support/data_race.cpp)
     target_link_libraries(data_race PRIVATE test_support project_options Tolvan::UtilsDllTrelioFrame)
     tolvan_register_test(data_race COMMAND data_race LABELS threads)
+    add_dependencies(thread_tests data_race)
     set_tests_properties(data_race PROPERTIES PASS_REGULAR_EXPRESSION "data race .*data_race.cpp:[0-9]+ in doRun")
 endif()
 

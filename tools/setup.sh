@@ -11,10 +11,12 @@ install_packages() {
     tools/install-deps.sh "$@"
 }
 
-# build PRESET [CMAKE OPTION...]: configures and builds one preset; what the compiler says goes to the terminal only
-# when something is wrong.
+# build PRESET [CMAKE OPTION...]: configures and builds one preset, or of it only the targets named in TARGETS; what the
+# compiler says goes to the terminal only when something is wrong.
 build() {
     local preset=$1 log
+    local -a targets=()
+    [ -z "${TARGETS:-}" ] || read -ra targets <<<"--target $TARGETS"
     shift
     log=$(mktemp)
     echo "== Configuring ($preset)"
@@ -25,7 +27,7 @@ build() {
         return 1
     fi
     echo "== Building ($preset)"
-    if ! cmake --build --preset "$preset" >"$log" 2>&1; then
+    if ! cmake --build --preset "$preset" "${targets[@]}" >"$log" 2>&1; then
         grep -E 'error|FAILED|undefined|warning' "$log" | head -n 40 >&2
         tail -n 20 "$log" >&2
         echo "setup: building '$preset' failed; the last lines are above" >&2

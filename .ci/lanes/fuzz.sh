@@ -3,7 +3,7 @@
 set -euo pipefail
 source tools/setup.sh
 install_packages build test fuzz
-build fuzz
+TARGETS=fuzzers build fuzz
 for target in tests/fuzz/fuzz_*.cpp; do
     name=$(basename "$target" .cpp)
     found="build/fuzz/corpus/$name"

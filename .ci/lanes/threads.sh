@@ -3,5 +3,5 @@
 set -euo pipefail
 source tools/setup.sh
 install_packages build test
-build dev-tsan
+TARGETS=thread_tests build dev-tsan
 ctest --preset dev-tsan
