@@ -50,10 +50,12 @@ void DelayedCallUnloadTest::pendingCallsGoWithTheLibrary()
     QThread worker;
     QObject inWorker;
     inWorker.moveToThread(&worker);
+    // Before the thread starts: under Wine a load that meets the start of a thread can hang.
+    QVERIFY2(resolveInvoke(), qPrintable(library().errorString()));
     worker.start();
     for (int round = 0; round < 3; ++round) {
         const Invoke invoke = resolveInvoke();
-        QVERIFY2(invoke, qPrintable(library().errorString()));
+        QVERIFY(invoke);
         invoke(1, &counter, "m", false);
         QMetaObject::invokeMethod(
             &inWorker, [&] { invoke(1, &counter, "m", false); }, Qt::BlockingQueuedConnection);
