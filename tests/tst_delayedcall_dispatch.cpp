@@ -2,7 +2,9 @@
 #include "TestMain.h"
 
 // The invoker is private to its source: what the public operations can't bring about is tested in here.
+#ifndef __clang__
 #pragma GCC diagnostic ignored "-Wsubobject-linkage" // which is meant for headers
+#endif
 #include "DelayedCall.cpp"
 
 class DelayedCallDispatchTest : public QObject
