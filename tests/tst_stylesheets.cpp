@@ -1,6 +1,7 @@
 #include "TestMain.h"
 #include "WidgetClasses.h"
 
+#include <utilsDll/AboutDlg.h>
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/SharedUtils.h>
 
@@ -56,12 +57,6 @@ private Q_SLOTS:
     void predefinedSheets();
     void fontFamilies();
     void fontsAndIcon();
-};
-
-/// Stands for the about dialog, which the font rules name.
-class CAboutDlg : public QDialog
-{
-    Q_OBJECT
 };
 
 void StyleSheetsTest::initTestCase()
@@ -171,12 +166,12 @@ void StyleSheetsTest::fontFamilies()
     QDialog other;
     CAboutDlg about;
     QLabel elsewhere(&other);
-    QLabel label(&about);
     elsewhere.setObjectName(QStringLiteral("label_1"));
-    label.setObjectName(QStringLiteral("label_1"));
-    QCOMPARE(families(label).constFirst(), QStringLiteral("OpenSansLight"));
+    auto* const label = about.findChild<QLabel*>(QStringLiteral("label_1"));
+    QVERIFY(label);
+    QCOMPARE(families(*label).constFirst(), QStringLiteral("OpenSansLight"));
     QCOMPARE(families(elsewhere).constFirst(), QStringLiteral("Lucida Sans Unicode"));
-    QVERIFY(families(label).size() > 5);
+    QVERIFY(families(*label).size() > 5);
 }
 
 void StyleSheetsTest::fontsAndIcon()
