@@ -45,7 +45,9 @@ QPoint middleOf(const QScreen& screen)
 /// Where the user sees the dialog.
 QPoint seenAt(const QWidget& dialog)
 {
-    return ScreenProbe::canSee() ? ScreenProbe::areaOf(contentColor).topLeft() : dialog.pos();
+    return ScreenProbe::canSee()
+               ? ScreenProbe::areaOf(contentColor, *QGuiApplication::primaryScreen()).topLeft()
+               : dialog.pos();
 }
 
 void showAndWait(QWidget& window)

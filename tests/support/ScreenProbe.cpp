@@ -10,17 +10,15 @@
 namespace ScreenProbe
 {
 
-QRect areaOf(const QColor& color)
+QRect areaOf(const QColor& color, QScreen& screen)
 {
     QRect area;
-    for (QScreen* const screen : QGuiApplication::screens()) {
-        const QImage image = screen->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
-        for (int y = 0; y < image.height(); ++y) {
-            const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-            for (int x = 0; x < image.width(); ++x) {
-                if (line[x] == color.rgb()) {
-                    area |= QRect(screen->geometry().topLeft() + QPoint(x, y), QSize(1, 1));
-                }
+    const QImage image = screen.grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (line[x] == color.rgb()) {
+                area |= QRect(screen.geometry().topLeft() + QPoint(x, y), QSize(1, 1));
             }
         }
     }

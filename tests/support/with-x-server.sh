@@ -1,11 +1,16 @@
 #!/usr/bin/env bash
-# with-x-server.sh COMMAND [ARGUMENT...]: runs a command on an X server of its own with a window manager (Xvfb on a
-# display that was free, openbox), as a Qt program of platform "xcb". Ends both servers, and nobody else's, when the
-# command ends; the exit code is the command's.
+# with-x-server.sh [--two-screens] COMMAND [ARGUMENT...]: runs a command on an X server of its own with a window
+# manager (Xvfb on a display that was free, openbox), as a Qt program of platform "xcb". Ends both servers, and
+# nobody else's, when the command ends; the exit code is the command's.
 set -euo pipefail
 
 start_limit=30 # seconds that a server may take to come up
 
+screens=(-screen 0 1280x1024x24)
+if [ "${1:-}" = --two-screens ]; then
+    screens+=(-screen 1 1024x768x24) # each is a desktop of its own, with a window manager of its own
+    shift
+fi
 if [ $# -eq 0 ]; then
     sed -n '2,4s/^# //p' "$0" >&2
     exit 2
@@ -47,14 +52,16 @@ failed_to_start() {
 mkfifo "$work/display" "$work/manager"
 exec 8<>"$work/display" 9<>"$work/manager"
 
-start_server Xvfb -displayfd 8 -screen 0 1280x1024x24 -nolisten tcp -noreset
+start_server Xvfb -displayfd 8 "${screens[@]}" -nolisten tcp -noreset
 read -r -t "$start_limit" number <&8 || failed_to_start Xvfb
 export DISPLAY=":$number"
 
 # A plain configuration: nothing of the user's is read. The start-up command runs once windows are managed.
-HOME=$work XDG_CONFIG_HOME=$work start_server openbox --sm-disable \
-    --startup "sh -c 'echo ready >\"$work/manager\"'"
-read -r -t "$start_limit" <&9 || failed_to_start openbox
+for ((screen = 0; screen < ${#screens[@]} / 3; ++screen)); do
+    HOME=$work XDG_CONFIG_HOME=$work DISPLAY=$DISPLAY.$screen start_server openbox --sm-disable \
+        --startup "sh -c 'echo ready >\"$work/manager\"'"
+    read -r -t "$start_limit" <&9 || failed_to_start openbox
+done
 exec 8>&- 9>&-
 
 code=0

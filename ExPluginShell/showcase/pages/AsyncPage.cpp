@@ -157,9 +157,10 @@ QWidget* AsyncPage::makeWaits()
     row->addWidget(wait);
     row->addWidget(complete);
     row->addWidget(click);
-    row->addWidget(m_clicks, 1);
+    row->addStretch();
     auto* const layout = new QVBoxLayout(box);
     layout->addLayout(row);
+    layout->addWidget(m_clicks);
     layout->addWidget(m_wait);
     return box;
 }

@@ -44,7 +44,6 @@ void LanguagesPage::addTable()
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_table, &QTableView::activated, this,
@@ -74,6 +73,9 @@ void LanguagesPage::languageChanged()
         languages->model()->setHeaderData(i, Qt::Horizontal, headers.at(i));
     }
     m_table->selectRow(languages->currentLanguageIndex());
+    m_table->resizeRowsToContents();
+    m_table->setFixedHeight(m_table->horizontalHeader()->sizeHint().height() +
+                            m_table->verticalHeader()->length() + 2 * m_table->frameWidth());
     const QLocale locale;
     m_date->setText(locale.toString(QDate(2026, 3, 14), QLocale::LongFormat));
     m_number->setText(locale.toString(1234567.89, 'f', 2));
