@@ -1,6 +1,5 @@
 #include "TestMain.h"
 
-#include <utilsDll/BaseDialog.h>
 #include <utilsDll/GuiUtils.h>
 
 #include <QScreen>
@@ -50,16 +49,20 @@ void ScreensTest::parentChoosesTheScreen()
         QVERIFY(QTest::qWaitForWindowExposed(&parent));
         QTRY_COMPARE(parent.windowHandle()->screen(), screens.at(parentScreen));
     }
-    CBaseDialog dialog(parentScreen >= 0 ? &parent : nullptr);
-    dialog.setFixedSize(size);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QWidget window;
+    window.resize(size);
+    window.winId();
+    window.windowHandle()->setScreen(screens.at(qMax(0, parentScreen)));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    moveWindowToScreenCenter(&window, parentScreen >= 0 ? &parent : nullptr);
     QScreen& expectedScreen = *screens.at(qMax(0, parentScreen));
     const QRect screen = expectedScreen.geometry();
-    const QPoint expected(screen.x() + (screen.width() - size.width()) / 2,
-                          screen.y() + (screen.height() - size.height()) / 2);
-    QCOMPARE(dialog.windowHandle()->screen(), &expectedScreen);
-    QTRY_COMPARE(dialog.geometry(), QRect(expected, size));
+    const QSize frame = window.frameGeometry().size();
+    const QPoint expected(screen.x() + (screen.width() - frame.width()) / 2,
+                          screen.y() + (screen.height() - frame.height()) / 2);
+    QCOMPARE(window.windowHandle()->screen(), &expectedScreen);
+    QTRY_COMPARE(window.frameGeometry().topLeft(), expected);
 }
 
 TOLVAN_GUI_TEST_MAIN(ScreensTest)
