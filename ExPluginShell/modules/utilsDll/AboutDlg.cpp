@@ -32,10 +32,12 @@ QString libraryTable()
 {
     QString rows;
     for (const Library& library : libraries) {
-        rows += QStringLiteral("<tr><td style=\"padding-right: 32px; padding-bottom: 4px\">%1</td><td>%2</td></tr>")
+        rows += QStringLiteral(
+                    "<tr><td style=\"padding-right: 32px; padding-bottom: 4px\">%1</td><td>%2</td></tr>")
                     .arg(QLatin1String(library.name), QLatin1String(library.licence));
     }
-    return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\" style=\"margin-top: 10px\">%1</table>").arg(rows);
+    return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\" style=\"margin-top: 10px\">%1</table>")
+        .arg(rows);
 }
 
 /// Style sheets don't reach the colour of links, so it stands here: the bright accent of the palette.
@@ -146,9 +148,8 @@ CAboutDlg::CAboutDlg(QWidget* parent)
     content.name = QStringLiteral("Trelio Frame");
     content.version = tr("Version %1").arg(QLatin1String(BuildIdentification::productVersion));
     content.copyright = tr("© Tolvan. All rights reserved.");
-    content.body =
-        QStringLiteral("%1%2")
-            .arg(tr("Perspective, horizon and lens corrections for your photos. Made with:"), libraryTable());
+    content.body = QStringLiteral("%1%2").arg(
+        tr("Perspective, horizon and lens corrections for your photos. Made with:"), libraryTable());
     content.links = licenceLinks();
     build(*this, QStringLiteral("CAboutDlg"), content, tr("Close"));
 }
