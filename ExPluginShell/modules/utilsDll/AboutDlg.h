@@ -20,6 +20,7 @@ class UTILSDLL_EXPORT CAboutDlg : public TOLVAN_NAMESPACE::CBaseDialog
     Q_OBJECT
 
 public:
+    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it appears on.
     explicit CAboutDlg(QWidget* parent = nullptr);
     ~CAboutDlg() override;
 };
@@ -31,6 +32,7 @@ class UTILSDLL_EXPORT CAboutOstraDlg : public TOLVAN_NAMESPACE::CBaseDialog
     Q_OBJECT
 
 public:
+    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it appears on.
     explicit CAboutOstraDlg(QWidget* parent = nullptr);
     ~CAboutOstraDlg() override;
 };

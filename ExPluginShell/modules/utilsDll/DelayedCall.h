@@ -71,6 +71,8 @@ public:
     /// those of the parameters: `QVariant(5)` calls `setValue(int)`, `QVariant(5.0)` does not. Write
     /// `QVariant(...)` out: a bare number in the last place would be taken for the flag.
     /// @{
+
+    /// Asks for a call with arguments, see invoke().
     using Arg = const QVariant&;
     static void invokeWithArgs(int msec, QObject* object, const char* method, Arg a1, bool singleShot = true);
     static void invokeWithArgs(int msec, QObject* object, const char* method, Arg a1, Arg a2,

@@ -57,6 +57,8 @@ public:
     /// waitExecuteBlocking(), which waits for the start first. A start wait on an item that has finished
     /// already, or that was stopped before it ran, never returns.
     /// @{
+
+    /// Spins until the item has started, has finished, or has done one after the other.
     void waitStartBlocking();
     void waitFinishBlocking();
     void waitExecuteBlocking();
@@ -67,6 +69,8 @@ public:
     /// and whatever is due in the program runs inside. With \a excludeUserInput no input reaches the
     /// application meanwhile.
     /// @{
+
+    /// Turns the event loop until the item has started, has finished, or has done one after the other.
     void waitStartNonBlocking(bool excludeUserInput);
     void waitFinishNonBlocking(bool excludeUserInput);
     void waitExecuteNonBlocking(bool excludeUserInput);
@@ -78,10 +82,12 @@ protected:
 
     /// The stop request. Once set the item does not clear it itself.
     bool stopFlag() const;
+    /// Sets or clears the stop request.
     void setStopFlag(bool stop);
 
-    /// Enter and leave the executable section; every entry has to be left, also when the work throws.
+    /// Enters the executable section; every entry has to be left, also when the work throws.
     void enterExcecutableSection();
+    /// Leaves the executable section.
     void leaveExcecutableSection();
 
 private:

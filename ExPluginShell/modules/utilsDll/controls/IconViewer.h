@@ -42,6 +42,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    /// Paints the icon within the rectangle of the widget.
     void paintEvent(QPaintEvent* event) override;
 
 private:

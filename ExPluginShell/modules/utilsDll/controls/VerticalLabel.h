@@ -37,6 +37,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    /// Paints the text, and nothing else of QLabel, upwards.
     void paintEvent(QPaintEvent* event) override;
 
 private:
