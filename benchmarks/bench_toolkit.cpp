@@ -1,3 +1,5 @@
+#include "ApplicationStyle.h"
+#include "customtolvanappstyle.h"
 #include "GuiUtils.h"
 #include "MessageBox.h"
 
@@ -173,6 +175,12 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    TOLVAN_NAMESPACE::loadFonts();
+    QApplication::setStyle(new TOLVAN_NAMESPACE::CustomTolvanAppStyle);
+    TOLVAN_NAMESPACE::setPredefinedAppStyleSheet(QString(), &application);
+    if (application.styleSheet().isEmpty()) {
+        return 1; // without the look the boxes would not be those of the product
+    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -98,7 +98,7 @@ void DialogLanguagesTest::boxes_data()
     row("French", 5,
         {"Ne pas enregistrer", "Enregistrer", "Annuler", "Ne pas quitter", "Quitter sans enregistrer"});
     row("Japanese", 12, {"保存しない", "保存", "キャンセル", "終了しない", "保存せずに終了"});
-    row("Chinese", 13, {"不保存", "保存", "取消", "不退出", "退出而不保存"});
+    row("Chinese", 13, {"不保存", "保存", "取消", "不退出", "不保存并退出"});
     row("English", 2, {"Don't save", "Save", "Cancel", "Don't quit", "Quit without saving"});
 }
 
