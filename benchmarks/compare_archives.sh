@@ -39,7 +39,12 @@ PYTHON
 measure() {
     local name=$1 TIMEFORMAT='%U %S %R'
     shift
-    { time "$@" >/dev/null 2>&1; } 2>&1 | awk '{ print $1 + $2, $3 }' >>"$name.times"
+    # gio refuses the trash of file systems in memory, so FOLDER has to be on a disk.
+    { time "$@" >/dev/null 2>"$name.errors" || touch failed; } 2>&1 | awk '{ print $1 + $2, $3 }' >>"$name.times"
+    if [ -e failed ]; then
+        echo "compare_archives: failed: ${*:1:3} ... ($(head -n 1 "$name.errors"))" >&2
+        exit 1
+    fi
 }
 
 median() {

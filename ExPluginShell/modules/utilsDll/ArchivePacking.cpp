@@ -154,7 +154,7 @@ bool packFiles(const QVector<PackedFile>& files, const QString& archive, const A
 {
     QDir().mkpath(QFileInfo(archive).absolutePath());
     ArchiveTarget target(archive);
-    return target.open() && Packer(target, progress).pack(files) && target.commit();
+    return target.begin() && Packer(target, progress).pack(files) && target.commit();
 }
 
 } // namespace TOLVAN_NAMESPACE

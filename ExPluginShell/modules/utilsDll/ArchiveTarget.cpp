@@ -30,7 +30,7 @@ ArchiveTarget::~ArchiveTarget()
     }
 }
 
-bool ArchiveTarget::open()
+bool ArchiveTarget::begin()
 {
     if (!m_file.open(QIODevice::WriteOnly)) {
         m_file.setDirectWriteFallback(true);

@@ -19,7 +19,7 @@ public:
     explicit ArchiveTarget(const QString& path);
     ~ArchiveTarget() override;
 
-    bool open();
+    bool begin();
     /// \return whether the archive is complete and in its place
     bool commit();
 
