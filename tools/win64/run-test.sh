@@ -76,8 +76,16 @@ template="$prefixes/template"
 export WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=d"
 unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME
 
+# Ends everything that runs in a prefix. The server is asked first; Wine's own services outlive a server that is killed,
+# and would stay in memory one set a run.
 stop_wine() {
-    WINEPREFIX="$1" "$wineserver" -k9 >/dev/null 2>&1 || [ $? -le 2 ]
+    local process
+    WINEPREFIX="$1" timeout 10 "$wineserver" -k9 >/dev/null 2>&1 || [ $? -le 2 ]
+    for process in /proc/[0-9]*; do
+        if grep -qzxF "WINEPREFIX=$1" "$process/environ" 2>/dev/null; then
+            kill -9 "${process#/proc/}" 2>/dev/null || continue
+        fi
+    done
 }
 
 # The prefix that all runs are copied from. It is renamed into place, so one that exists is complete.
