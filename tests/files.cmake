@@ -17,3 +17,8 @@ if(NOT WIN32) # the toolkit's own dialogs; the file manager is asked over the bu
     tolvan_add_test(tst_reveal LIBRARIES files_support Qt5::DBus)
     tolvan_add_test(tst_archives_slow INTERNAL LIBRARIES files_support LABELS slow TIMEOUT 900)
 endif()
+if(WIN32)
+    tolvan_add_test(tst_folderpicker_win LIBRARIES files_support)
+    tolvan_add_test(tst_recyclebin_win LIBRARIES files_support ole32 shell32 uuid)
+    set_property(TEST tst_folderpicker_win APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
+endif()

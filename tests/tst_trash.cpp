@@ -62,7 +62,7 @@ void TrashTest::binHoldsTheFile_data()
 void TrashTest::binHoldsTheFile()
 {
 #ifdef Q_OS_WIN
-    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+    QSKIP("the layout of the freedesktop trash; see tst_recyclebin_win");
 #endif
     QFETCH(QString, name);
     const bool isFolder = name.endsWith(QLatin1Char('/'));
@@ -93,7 +93,7 @@ void TrashTest::binHoldsTheFile()
 void TrashTest::sameNameTwice()
 {
 #ifdef Q_OS_WIN
-    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+    QSKIP("the layout of the freedesktop trash; see tst_recyclebin_win");
 #endif
     for (const char* content : {"first", "second", "third"}) {
         QCOMPARE(moveFileToTrash(FileTree::write(path(QStringLiteral("a.jpg")), content)),
@@ -112,7 +112,7 @@ void TrashTest::sameNameTwice()
 void TrashTest::veryLongName()
 {
 #ifdef Q_OS_WIN
-    QSKIP("the layout of the freedesktop trash; see binOfTheShell");
+    QSKIP("the layout of the freedesktop trash; see tst_recyclebin_win");
 #endif
     const QString name = QString(125, QChar(0xE4)) + QStringLiteral(".jpeg"); // 255 bytes
     for (int i = 0; i < 2; ++i) {

@@ -114,7 +114,8 @@ unlink_home() {
 make_run_prefix() {
     local entry
     run="$(mktemp -d "$prefixes/run-XXXXXX")"
-    mkdir -p "$run/home" "$run/drive_c"
+    # Without the folder for data Wine has no recycle bin and deletes for good.
+    mkdir -p "$run/home/.local/share" "$run/drive_c"
     cp -a "$template"/*.reg "$template/.update-timestamp" "$template/dosdevices" "$run/"
     for entry in "$template/drive_c"/*; do
         case "$(basename "$entry")" in
