@@ -24,6 +24,7 @@ private Q_SLOTS:
     void othersListAndRestore();
     void anotherFileSystem();
     void readOnlyFolder();
+    void unusableHome();
 
 private:
     QString path(const QString& name) const { return m_folder->filePath(name); }
@@ -207,6 +208,21 @@ void TrashTest::readOnlyFolder()
     for (const QString& locked : {open.path(), open.filePath(QStringLiteral("locked"))}) {
         QVERIFY(QFile::setPermissions(locked, QFile::Permissions(0x7777)));
     }
+}
+
+/// Whoever has no place for data of his own gets no trash at the top of the file system either.
+void TrashTest::unusableHome()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the layout of the freedesktop trash; see tst_recyclebin_win");
+#endif
+    const QByteArray data = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", "/dev/null/nowhere");
+    const QString file = FileTree::write(path(QStringLiteral("a")), "kept");
+    const ErrorCodes result = moveFileToTrash(file);
+    qputenv("XDG_DATA_HOME", data);
+    QCOMPARE(result, FileOperationFailed);
+    QCOMPARE(FileTree::read(file), QByteArray("kept"));
 }
 
 TOLVAN_CORE_TEST_MAIN(TrashTest)

@@ -177,17 +177,17 @@ bool moveToRecycleBin(const QString& path)
     const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
     const auto status = statusOf(file.absoluteFilePath());
     const auto home = trashOfUser();
-    if (!status || folder.isEmpty() || file.fileName().isEmpty()) {
+    const auto homeStatus = home ? statusOf(home->path) : std::nullopt;
+    if (!status || !homeStatus || folder.isEmpty() || file.fileName().isEmpty()) {
         return false;
     }
-    const auto homeStatus = home ? statusOf(home->path) : std::nullopt;
-    if (!homeStatus || homeStatus->st_dev != status->st_dev) {
+    if (homeStatus->st_dev != status->st_dev) {
         const auto other = trashOfFileSystem(topFolder(folder, status->st_dev));
         if (other && moveInto(*other, folder, file.fileName())) {
             return true;
         }
     }
-    return home && moveInto(*home, folder, file.fileName());
+    return moveInto(*home, folder, file.fileName());
 }
 
 } // namespace Platform
