@@ -4,6 +4,8 @@
 #include "Logging.h"
 
 #include <QGridLayout>
+#include <QHash>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -21,19 +23,20 @@ constexpr int quitBoxHeight = 165;
 constexpr QSize iconSize(34, 34);
 constexpr QSize smallestButton(80, 36);
 
-QIcon informationIcon()
-{
-    return QIcon(QStringLiteral("://icons/messagebox/info_dark_icon.svg"));
-}
+constexpr const char* informationIcon = "://icons/messagebox/info_dark_icon.svg";
+constexpr const char* alertIcon = "://icons/messagebox/alert_dark_icon.svg";
+constexpr const char* questionIcon = "://icons/messagebox/question_mark_dark_icon.svg";
+constexpr const char* saveQuestionIcon = ":/icons/messagebox/question_mark_dark_icon.svg";
 
-QIcon alertIcon()
+/// The icon of this path; a drawing is read and rendered once for all boxes.
+QIcon iconOf(const char* path)
 {
-    return QIcon(QStringLiteral("://icons/messagebox/alert_dark_icon.svg"));
-}
-
-QIcon questionIcon()
-{
-    return QIcon(QStringLiteral("://icons/messagebox/question_mark_dark_icon.svg"));
+    static QHash<QByteArray, QIcon> icons;
+    QIcon& icon = icons[path];
+    if (icon.isNull()) {
+        icon = QIcon(QString::fromLatin1(path));
+    }
+    return icon;
 }
 
 } // namespace
@@ -201,22 +204,22 @@ void CMessageBox::showSimpleMessageBox(QWidget* parent, const QString& text, con
 
 void CMessageBox::information(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, informationIcon(), tr("OK"), height);
+    showSimpleMessageBox(parent, text, iconOf(informationIcon), tr("OK"), height);
 }
 
 void CMessageBox::warning(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, alertIcon(), tr("Close"), height);
+    showSimpleMessageBox(parent, text, iconOf(alertIcon), tr("Close"), height);
 }
 
 void CMessageBox::critical(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, alertIcon(), tr("Close"), height);
+    showSimpleMessageBox(parent, text, iconOf(alertIcon), tr("Close"), height);
 }
 
 QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QString& text, int height)
 {
-    Session session(parent, text, questionIcon());
+    Session session(parent, text, iconOf(questionIcon));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     auto* const yes = session.box().addButton(row, tr("Yes"), "yesButton");
@@ -228,7 +231,7 @@ QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QSt
 QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* parent, const QString& text,
                                                                   int height)
 {
-    Session session(parent, text, QIcon(QStringLiteral(":/icons/messagebox/question_mark_dark_icon.svg")));
+    Session session(parent, text, iconOf(saveQuestionIcon));
     auto* const row = createButtonLayout(session.box(), true);
     auto* const discard = session.box().addButton(row, tr("Don't save"), "discardButton");
     row->addStretch();
@@ -244,7 +247,7 @@ QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* paren
 
 bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text, int height)
 {
-    Session session(parent, text, questionIcon());
+    Session session(parent, text, iconOf(questionIcon));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     auto* const rotate = session.box().addButton(row, tr("Rotate"), "rotateButton");
@@ -256,7 +259,7 @@ bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text, int heigh
 QMessageBox::StandardButton CMessageBox::backgroundProcessingCancelMessage(QWidget* parent,
                                                                            const QString& text)
 {
-    Session session(parent, text, alertIcon());
+    Session session(parent, text, iconOf(alertIcon));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     session.box().addButton(row, tr("Don't quit"), "dontQuitButton");

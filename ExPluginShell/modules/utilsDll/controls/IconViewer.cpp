@@ -2,8 +2,6 @@
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -58,10 +56,6 @@ QSize CIconViewer::sizeHint() const
 
 void CIconViewer::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    QStyleOption option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     if (m_icon.isNull() || rect().isEmpty()) {
         return;
     }
@@ -79,6 +73,7 @@ void CIconViewer::paintEvent(QPaintEvent*)
     }
     QPointF corner((width() - shown.width()) / 2.0, (height() - shown.height()) / 2.0);
     corner = QPointF((corner * ratio).toPoint()) / ratio; // on a whole device pixel
+    QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRectF(corner, shown), pixmap, QRectF(pixmap.rect()));
 }

@@ -12,8 +12,8 @@ namespace TOLVAN_NAMESPACE
 /// Shows an icon as large as the widget allows, centred and in proportion, sharp at any device pixel ratio.
 ///
 /// Drawings fill the widget; of an icon made of bitmaps the nearest one is taken and never enlarged. A
-/// disabled widget shows the icon's disabled mode. Without an icon nothing is painted, so a style sheet's
-/// background stays visible.
+/// disabled widget shows the icon's disabled mode. Nothing else is painted: a background of the style sheet
+/// shows when Qt::WA_StyledBackground is set, as with any widget.
 ///
 /// \code
 /// auto* viewer = new TOLVAN_NAMESPACE::CIconViewer(dialog);
