@@ -81,7 +81,8 @@ void moveWindowToScreenCenter(QWidget* window, QWidget* parent)
     if (!screen.isValid()) {
         return;
     }
-    const QSize frame = window->frameGeometry().size();
+    // While a window manager takes a window over, an X server may tell a frame smaller than what it encloses.
+    const QSize frame = window->frameGeometry().size().expandedTo(window->size());
     window->move(screen.x() + (screen.width() - frame.width()) / 2,
                  screen.y() + (screen.height() - frame.height()) / 2);
 }
