@@ -174,6 +174,9 @@ if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
 fi
 
 export HOME="$run/home" WINEPREFIX="$run"
+# Wine brings no fonts for the screenless platform: the ones that the library carries are installed on the system.
+fonts=/usr/share/fonts/truetype/roboto/unhinted
+[ ! -d "$fonts" ] || export TOLVAN_TEST_FONTS="Z:${fonts}"
 WINEPATH="$(library_path)"
 export WINEPATH
 code=0
