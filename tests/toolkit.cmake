@@ -20,4 +20,10 @@ if(NOT WIN32)
         tolvan_register_test(${name}_x11 LABELS x11 COMMAND
             "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:${name}>)
     endforeach()
+else()
+    # Once more with the system's real windows, on a virtual screen.
+    foreach(name tst_guiutils tst_basedialog tst_controls tst_messagebox tst_aboutdialogs)
+        tolvan_register_test(${name}_desktop COMMAND ${name})
+        set_property(TEST ${name}_desktop APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
+    endforeach()
 endif()

@@ -175,7 +175,7 @@ fi
 
 export HOME="$run/home" WINEPREFIX="$run"
 # Wine brings no fonts for the screenless platform: the ones that the library carries are installed on the system.
-fonts=/usr/share/fonts/truetype/roboto/unhinted
+fonts=/usr/share/fonts/truetype/roboto/unhinted/RobotoTTF
 [ ! -d "$fonts" ] || export TOLVAN_TEST_FONTS="Z:${fonts}"
 WINEPATH="$(library_path)"
 export WINEPATH
