@@ -58,6 +58,22 @@ protected:
     }
 };
 
+/// A menu that keeps its active action whatever the mouse does, and counts the moves.
+class SteadyMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+    int moves = 0;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        moves += event->type() == QEvent::MouseMove ? 1 : 0;
+        return event->type() == QEvent::MouseMove || event->type() == QEvent::Leave || QMenu::event(event);
+    }
+};
+
 void expectReport(int line, const char* message)
 {
     const QString text =
@@ -225,7 +241,7 @@ void GuiUtilsTest::hoverOverMenu()
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QMenu menu(&window);
     QAction* const first = menu.addAction(QStringLiteral("First entry"));
-    QAction* const separator = menu.addSeparator();
+    menu.addSeparator();
     menu.addAction(QStringLiteral("Last entry"));
     menu.popup(window.mapToGlobal({20, 20}));
     QVERIFY(QTest::qWaitForWindowExposed(&menu));
@@ -234,12 +250,22 @@ void GuiUtilsTest::hoverOverMenu()
     menu.setActiveAction(nullptr);
     flickHoverEvent(&menu);
     QCOMPARE(menu.activeAction(), first);
-    QCursor::setPos(menu.mapToGlobal(menu.actionGeometry(separator).center()));
-    QTest::qWait(50);
-    menu.setActiveAction(separator);
-    flickHoverEvent(&menu);
-    QVERIFY(!menu.activeAction());
     menu.close();
+    SteadyMenu steady(&window);
+    QAction* const entry = steady.addAction(QStringLiteral("Entry"));
+    QAction* const separator = steady.addSeparator();
+    steady.popup(window.mapToGlobal({20, 20}));
+    QVERIFY(QTest::qWaitForWindowExposed(&steady));
+    QCursor::setPos(steady.mapToGlobal(steady.rect().center()));
+    QTest::qWait(50);
+    for (QAction* const active : {entry, separator}) {
+        steady.setActiveAction(active);
+        steady.moves = 0;
+        flickHoverEvent(&steady);
+        QCOMPARE(steady.moves, 2);
+        QCOMPARE(steady.activeAction(), active == separator ? nullptr : active);
+    }
+    steady.close();
 }
 
 void GuiUtilsTest::hoverWithoutActiveWindow()
