@@ -27,12 +27,10 @@ packages_of() {
         echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-droid-fallback
         ;;
     test)
-        echo libqt5svg5 xvfb openbox libxtst-dev
-        echo libxml2-utils
-
-# other makes of SOAP; a certificate for a server
+        echo libqt5svg5 libxml2-utils xvfb openbox libxtst-dev
+        # other makes of SOAP; a certificate for a server
         echo php-cli php-soap libkdsoap-dev openssl
-# what reads and writes archives and the trash beside us
+        # what reads and writes archives and the trash beside us
         echo zip unzip p7zip-full libarchive-tools libglib2.0-bin gvfs gvfs-daemons trash-cli dbus
         ;;
     windows)

@@ -20,7 +20,8 @@ class UTILSDLL_EXPORT CAboutDlg : public TOLVAN_NAMESPACE::CBaseDialog
     Q_OBJECT
 
 public:
-    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it appears on.
+    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it
+    /// appears on.
     explicit CAboutDlg(QWidget* parent = nullptr);
     ~CAboutDlg() override;
 };
@@ -32,7 +33,8 @@ class UTILSDLL_EXPORT CAboutOstraDlg : public TOLVAN_NAMESPACE::CBaseDialog
     Q_OBJECT
 
 public:
-    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it appears on.
+    /// Builds the dialog, to be shown with exec() or show(). \a parent owns it and gives the screen it
+    /// appears on.
     explicit CAboutOstraDlg(QWidget* parent = nullptr);
     ~CAboutOstraDlg() override;
 };
