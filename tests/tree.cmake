@@ -6,4 +6,10 @@ if(NOT CMAKE_CROSSCOMPILING)
         "${CMAKE_SOURCE_DIR}/ExPluginShell/modules/utilsDll")
     tolvan_register_test(check_package LABELS package TIMEOUT 300 COMMAND
         "${CMAKE_CURRENT_SOURCE_DIR}/package/check.sh" "${CMAKE_BINARY_DIR}")
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Release")
+        # After a wanted change: exported_symbols.py LIBRARY LIST --update
+        tolvan_register_test(check_exported_symbols COMMAND
+            Python3::Interpreter "${CMAKE_CURRENT_SOURCE_DIR}/checks/exported_symbols.py"
+            $<TARGET_FILE:UtilsDllTrelioFrame> "${CMAKE_CURRENT_SOURCE_DIR}/exported-symbols.txt")
+    endif()
 endif()
