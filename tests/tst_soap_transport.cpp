@@ -283,7 +283,9 @@ void SoapTransportTest::endlessAnswerIsCutOff()
     call.server.answer.endless = true;
     QVERIFY(call.ask());
     QVERIFY2(call.faultText().contains(QStringLiteral("larger than 64 MiB")), qPrintable(call.faultText()));
+#ifndef Q_OS_WIN // Wine may go on taking what is written for a peer that has left
     QVERIFY2(call.server.written < 80 * 1024 * 1024, qPrintable(QString::number(call.server.written)));
+#endif
 }
 
 void SoapTransportTest::unreachable_data()

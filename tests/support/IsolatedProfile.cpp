@@ -14,6 +14,9 @@ IsolatedProfile::IsolatedProfile()
         root.mkpath(QString::fromLatin1(name));
         qputenv(variable, root.filePath(QString::fromLatin1(name)).toLocal8Bit() + suffix);
     };
+    if (qEnvironmentVariableIsEmpty("LC_ALL") && qEnvironmentVariableIsEmpty("LANG")) {
+        qputenv("LC_ALL", "C.UTF-8"); // file names are UTF-8 also where nobody has chosen a language
+    }
     redirect("HOME", "home");
     redirect("XDG_DATA_HOME", "data");
     redirect("XDG_CONFIG_HOME", "config");
