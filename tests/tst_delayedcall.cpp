@@ -75,15 +75,15 @@ void DelayedCallTest::burstBecomesOneCall()
     qint64 elapsed = -1;
     target.inside = [&] { elapsed = sinceLast.elapsed(); };
     for (int i = 0; i < 10; ++i) {
-        CDelayedCall::invoke(100, &target, "m", true);
+        CDelayedCall::invoke(500, &target, "m", true); // a stall of a busy machine is shorter
         sinceLast.start();
         QTest::qWait(10);
     }
     QCOMPARE(target.calls, 0);
     QTRY_COMPARE(target.calls, 1);
-    QVERIFY2(elapsed >= 90, qPrintable(QString::number(elapsed)));
+    QVERIFY2(elapsed >= 490, qPrintable(QString::number(elapsed)));
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QTest::qWait(150);
+    QTest::qWait(600);
     QCOMPARE(target.calls, 1);
 }
 
@@ -101,14 +101,20 @@ void DelayedCallTest::periodicUntilDiscarded()
     Target target;
     QElapsedTimer clock;
     clock.start();
+    qint64 fourth = -1;
+    target.inside = [&] {
+        if (target.calls == 4)
+            fourth = clock.elapsed();
+    };
     CDelayedCall::invoke(50, &target, "m", false);
-    QTRY_COMPARE(target.calls, 4);
-    QVERIFY2(clock.elapsed() >= 180, qPrintable(QString::number(clock.elapsed())));
+    QTRY_VERIFY(target.calls >= 4); // a busy machine may look only after the fifth
+    QVERIFY2(fourth >= 180, qPrintable(QString::number(fourth)));
     QVERIFY(CDelayedCall::isActive(&target, "m"));
     CDelayedCall::discard(&target, "m");
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
+    const int calls = target.calls;
     QTest::qWait(120);
-    QCOMPARE(target.calls, 4);
+    QCOMPARE(target.calls, calls);
 }
 
 void DelayedCallTest::lastRequestWins()
