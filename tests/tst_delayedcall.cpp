@@ -81,7 +81,7 @@ void DelayedCallTest::burstBecomesOneCall()
     }
     QCOMPARE(target.calls, 0);
     QTRY_COMPARE(target.calls, 1);
-    QVERIFY2(elapsed >= 490, qPrintable(QString::number(elapsed)));
+    QVERIFY2(elapsed >= 470, qPrintable(QString::number(elapsed))); // timers of this length may be 5 % early
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
     QTest::qWait(600);
     QCOMPARE(target.calls, 1);
