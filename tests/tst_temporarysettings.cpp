@@ -137,6 +137,7 @@ void TemporarySettingsTest::unusableFolderIsReported()
                         "folder is not valid!");
         CTemporarySettings settings(nullptr);
         settings.setValue(text("k"), 1); // lost, without a crash
+        QVERIFY(!QFile::exists(settings.tempSettingsPath()));
     }
     qputenv(variable, usual);
     QCOMPARE(logger.take(),

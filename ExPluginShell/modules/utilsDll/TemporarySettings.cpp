@@ -20,6 +20,16 @@ QString& lastSettingsPath()
     return path;
 }
 
+/// A store without a folder of its own has a path at the top of the file system, where a privileged process
+/// could write; this format refuses every write, so that no stray file is left there.
+QSettings::Format lostWrites()
+{
+    static const QSettings::Format format = QSettings::registerFormat(
+        QStringLiteral("ini"), [](QIODevice&, QSettings::SettingsMap&) { return true; },
+        [](QIODevice&, const QSettings::SettingsMap&) { return false; });
+    return format;
+}
+
 } // namespace
 
 CTemporarySettings::CTemporarySettings(const char* programPath)
@@ -36,13 +46,14 @@ CTemporarySettings::CTemporarySettings(const char* programPath)
     const QString fileName = QStringLiteral("%1.ini").arg(productName);
     lastSettingsPath() = QDir::toNativeSeparators(m_tempDir->path() + QDir::separator() + fileName);
     const QString path = lastSettingsPath();
-    if (programPath) {
+    if (programPath && m_tempDir->isValid()) {
         const QDir programFolder = QFileInfo(QFile::decodeName(programPath)).absoluteDir();
         QFile::copy(programFolder.absoluteFilePath(seedFileName), path);
         // A seed installed read-only must not make the settings read-only.
         QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner | QFile::WriteOwner);
     }
-    m_settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    m_settings =
+        std::make_unique<QSettings>(path, m_tempDir->isValid() ? QSettings::IniFormat : lostWrites());
 }
 
 CTemporarySettings::~CTemporarySettings()
