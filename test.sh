@@ -15,6 +15,6 @@ fi
 
 source tools/setup.sh
 install_packages build test
-build release
+build release -DUTILSDLL_BUILD_TESTS=ON
 echo "== Running the tests"
 ctest --preset release -LE slow "$@"
