@@ -50,6 +50,7 @@ def draw(family):
     cursor("hand_closed", hand(FIST, ("M11.2 10v2.5", "M14.4 10v2.5", "M17.6 11v2")))
     cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5")))
     cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5")))
-    cross = ("M11.5 2v6.5", "M11.5 16.5v6.5", "M1 12.5h6.5", "M15.5 12.5h6.5")
-    cursor("crosshair", lines(cross, core="1.5", outline="4")
-           + f"\nf={OUTLINE} c 11.5 12.5 1.75\nf={CORE} c 11.5 12.5 1")
+    # Thin, and of whole pixels: the picture stays visible around the point that is aimed at.
+    cross = ("M11.5 2.5v6", "M11.5 16.5v6", "M1.5 12.5h6", "M15.5 12.5h6")
+    cursor("crosshair", lines(cross, core="1", outline="3")
+           + f"\nf={OUTLINE} r 10 11 3 3\nf={CORE} r 11 12 1 1")
