@@ -42,6 +42,8 @@ def problems_of(path):
             yield f"{name} does not keep the placeholders"
         elif source.endswith(".") and not translation.endswith((".", "。")):
             yield f"{name} does not end as a sentence"
+        elif path.stem.endswith("_fr") and re.search(" [:;?!»]|« ", translation):
+            yield f"{name} may break before its punctuation: no-break space"
 
 
 def main():

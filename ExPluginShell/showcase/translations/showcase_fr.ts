@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>Un seul choix pour tous les produits ; textes, dates et nombres suivent aussitôt.</translation>
+        <translation>Un seul choix pour tous les produits ; textes, dates et nombres suivent aussitôt.</translation>
     </message>
     <message>
         <source>Look</source>
@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>Les boîtes propres au produit : 520 pixels de large, réponse à la souris ou au clavier.</translation>
+        <translation>Les boîtes propres au produit : 520 pixels de large, réponse à la souris ou au clavier.</translation>
     </message>
     <message>
         <source>Drawing tools</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>Appels différés, tâches et attentes : la fenêtre répond pendant le travail.</translation>
+        <translation>Appels différés, tâches et attentes : la fenêtre répond pendant le travail.</translation>
     </message>
     <message>
         <source>Files</source>
@@ -359,7 +359,7 @@
     </message>
     <message>
         <source>Fault: %1</source>
-        <translation>Erreur : %1</translation>
+        <translation>Erreur : %1</translation>
     </message>
     <message>
         <source>%1 cm</source>
@@ -370,7 +370,7 @@
     <name>AsyncPage</name>
     <message>
         <source>Move the slider: its many requests become one call.</source>
-        <translation>Déplacez le curseur : ses nombreuses demandes deviennent un seul appel.</translation>
+        <translation>Déplacez le curseur : ses nombreuses demandes deviennent un seul appel.</translation>
     </message>
     <message>
         <source>Not running.</source>
@@ -446,15 +446,15 @@
     </message>
     <message>
         <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>Attente de %1 ms : rien n’est cliquable.</translation>
+        <translation>Attente de %1 ms : rien n’est cliquable.</translation>
     </message>
     <message>
         <source>Over; %1 clicks got through.</source>
-        <translation>Terminé ; %1 clics sont passés.</translation>
+        <translation>Terminé ; %1 clics sont passés.</translation>
     </message>
     <message>
         <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>Attente d’une tâche : tout est cliquable.</translation>
+        <translation>Attente d’une tâche : tout est cliquable.</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>Lines: %1</source>
-        <translation>Lignes : %1</translation>
+        <translation>Lignes : %1</translation>
     </message>
 </context>
 <context>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>About dialogs</source>
-        <translation>Dialogues « À propos »</translation>
+        <translation>Dialogues « À propos »</translation>
     </message>
     <message>
         <source>About the product</source>
@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>The last answer: %1</source>
-        <translation>Dernière réponse : %1</translation>
+        <translation>Dernière réponse : %1</translation>
     </message>
 </context>
 <context>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>A picture of this name is there already. Do you want to replace it?</source>
-        <translation>Une image de ce nom existe déjà. Voulez-vous la remplacer ?</translation>
+        <translation>Une image de ce nom existe déjà. Voulez-vous la remplacer ?</translation>
     </message>
     <message>
         <source>Save, discard, cancel</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>The picture was changed. Do you want to save your corrections?</source>
-        <translation>L’image a été modifiée. Voulez-vous enregistrer vos corrections ?</translation>
+        <translation>L’image a été modifiée. Voulez-vous enregistrer vos corrections ?</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>The camera was held upright. Do you want to rotate the picture?</source>
-        <translation>L’appareil était tenu à la verticale. Voulez-vous faire pivoter l’image ?</translation>
+        <translation>L’appareil était tenu à la verticale. Voulez-vous faire pivoter l’image ?</translation>
     </message>
     <message>
         <source>Quit during work</source>
@@ -908,7 +908,7 @@
     </message>
     <message>
         <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>Non effectué : annulé, ou un fichier ne peut être lu ou écrit.</translation>
+        <translation>Non effectué : annulé, ou un fichier ne peut être lu ou écrit.</translation>
     </message>
     <message>
         <source>%1 files packed into %2.</source>
@@ -916,11 +916,11 @@
     </message>
     <message>
         <source>%1 files unpacked; both trees are equal.</source>
-        <translation>%1 fichiers extraits ; les deux dossiers sont identiques.</translation>
+        <translation>%1 fichiers extraits ; les deux dossiers sont identiques.</translation>
     </message>
     <message>
         <source>The trees differ: %1</source>
-        <translation>Les dossiers diffèrent : %1</translation>
+        <translation>Les dossiers diffèrent : %1</translation>
     </message>
     <message>
         <source>The archive is in the recycle bin.</source>

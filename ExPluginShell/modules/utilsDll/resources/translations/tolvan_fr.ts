@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>Corrections de la perspective, de l’horizon et des défauts d’objectif pour vos photos. Réalisé avec :</translation>
+        <translation>Corrections de la perspective, de l’horizon et des défauts d’objectif pour vos photos. Réalisé avec :</translation>
     </message>
     <message>
         <source>Close</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>A family of plug-ins for photographers. Its members share their language and their preferences, so that what you set in one holds in all.</source>
-        <translation>Une famille de plug-ins pour les photographes. Ses membres partagent leur langue et leurs préférences : ce que vous réglez dans l’un s’applique à tous.</translation>
+        <translation>Une famille de plug-ins pour les photographes. Ses membres partagent leur langue et leurs préférences : ce que vous réglez dans l’un s’applique à tous.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Windows small space message on drive %1</source>
-        <translation>Impossible de démarrer Trelio Frame : l’espace libre sur le disque %1 est insuffisant.
+        <translation>Impossible de démarrer Trelio Frame : l’espace libre sur le disque %1 est insuffisant.
 Veuillez supprimer les fichiers inutiles de ce disque, puis réessayer.</translation>
     </message>
     <message>
