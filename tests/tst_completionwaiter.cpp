@@ -11,19 +11,6 @@
 
 using namespace TOLVAN_NAMESPACE;
 
-namespace
-{
-
-const QString prefix = QStringLiteral("E TOLVAN_NAMESPACE::COperationCompletionWaiter");
-
-QString assertionText(int line)
-{
-    return QStringLiteral("ASSERT in ExPluginShell\\modules\\utilsDll\\OperationCompletionWaiter:%1")
-        .arg(line);
-}
-
-} // namespace
-
 class Operation : public QObject
 {
     Q_OBJECT
@@ -50,9 +37,8 @@ private Q_SLOTS:
     void signalBeforeTheWait();
     void signalDuringTheWait();
     void signalOfAWorkerThread();
-    void outcomeBeforeCompletion();
-    void nullArguments_data();
-    void nullArguments();
+    void assertions_data();
+    void assertions();
     void userInputIsProcessed();
 };
 
@@ -102,46 +88,50 @@ void CompletionWaiterTest::signalOfAWorkerThread()
     takeOver(&operation);
 }
 
-void CompletionWaiterTest::outcomeBeforeCompletion()
+void CompletionWaiterTest::assertions_data()
 {
-    Operation operation;
-    const COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(assertionText(52)));
-    QVERIFY(!waiter.isOperationSuccess());
-    QCOMPARE(installedLogger().take(),
-             QStringList{prefix + QStringLiteral("WithResult::isOperationSuccess: ") + assertionText(52)});
-}
-
-void CompletionWaiterTest::nullArguments_data()
-{
-    QTest::addColumn<bool>("withResult");
-    QTest::addColumn<bool>("noSender");
+    QTest::addColumn<QString>("function");
     QTest::addColumn<int>("line");
-    QTest::newRow("no sender") << false << true << 16;
-    QTest::newRow("no signal") << false << false << 17;
-    QTest::newRow("with result, no sender") << true << true << 43;
-    QTest::newRow("with result, no signal") << true << false << 44;
+    const QString plain = QStringLiteral("::COperationCompletionWaiter");
+    const QString withResult = QStringLiteral("WithResult::COperationCompletionWaiterWithResult");
+    QTest::newRow("no sender") << plain << 16;
+    QTest::newRow("no signal") << plain << 17;
+    QTest::newRow("with result, no sender") << withResult << 43;
+    QTest::newRow("with result, no signal") << withResult << 44;
+    QTest::newRow("outcome before completion") << QStringLiteral("WithResult::isOperationSuccess") << 52;
 }
 
-void CompletionWaiterTest::nullArguments()
+void CompletionWaiterTest::assertions()
 {
-    QFETCH(const bool, withResult);
-    QFETCH(const bool, noSender);
+    QFETCH(const QString, function);
     QFETCH(const int, line);
+    const QString text =
+        QStringLiteral("ASSERT in ExPluginShell\\modules\\utilsDll\\OperationCompletionWaiter:%1").arg(line);
     Operation operation;
-    Operation* const sender = noSender ? nullptr : &operation;
-    const char* const signal = noSender ? SIGNAL(done()) : nullptr;
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(assertionText(line)));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("QObject::connect: ")));
-    if (withResult) {
-        const COperationCompletionWaiterWithResult waiter(sender, signal);
-    } else {
-        const COperationCompletionWaiter waiter(sender, signal);
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(text));
+    if (line < 52) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("QObject::connect: ")));
     }
-    const QString kind = withResult ? QStringLiteral("WithResult") : QString();
+    switch (line) {
+    case 16:
+        COperationCompletionWaiter(nullptr, SIGNAL(done()));
+        break;
+    case 17:
+        COperationCompletionWaiter(&operation, nullptr);
+        break;
+    case 43:
+        COperationCompletionWaiterWithResult(nullptr, SIGNAL(finished(bool)));
+        break;
+    case 44:
+        COperationCompletionWaiterWithResult(&operation, nullptr);
+        break;
+    default:
+        QVERIFY(
+            !COperationCompletionWaiterWithResult(&operation, SIGNAL(finished(bool))).isOperationSuccess());
+    }
     QCOMPARE(installedLogger().take(),
-             QStringList{prefix + kind + QStringLiteral("::COperationCompletionWaiter") + kind +
-                         QStringLiteral(": ") + assertionText(line)});
+             QStringList{QStringLiteral("E TOLVAN_NAMESPACE::COperationCompletionWaiter") + function +
+                         QStringLiteral(": ") + text});
 }
 
 void CompletionWaiterTest::userInputIsProcessed()

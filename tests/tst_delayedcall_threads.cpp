@@ -27,13 +27,12 @@ public Q_SLOTS:
     }
 };
 
-/// A thread that runs a function, then its event loop if wanted, and has ended at the end of the scope.
+/// A thread that runs a function, then its event loop, and has ended at the end of the scope.
 class WorkerThread : public QThread
 {
 public:
-    explicit WorkerThread(std::function<void()> function, bool loop = true)
+    explicit WorkerThread(std::function<void()> function)
         : m_function(std::move(function))
-        , m_loop(loop)
     {
         start();
     }
@@ -49,19 +48,12 @@ protected:
     void run() override
     {
         m_function();
-        ready = true;
-        if (m_loop) {
-            exec();
-        }
+        exec();
         handOver(this);
     }
 
-public:
-    std::atomic<bool> ready{false};
-
 private:
     const std::function<void()> m_function;
-    const bool m_loop;
 };
 
 class DelayedCallThreadsTest : public QObject
@@ -127,15 +119,13 @@ void DelayedCallThreadsTest::threadWithoutAnEventLoop()
 {
     SharedTarget target;
     std::atomic<bool> pending{false};
-    {
-        WorkerThread worker(
-            [&] {
-                CDelayedCall::invoke(0, &target, "m");
-                QThread::msleep(20);
-                pending = CDelayedCall::isActive(&target, "m");
-            },
-            false);
-    }
+    const std::unique_ptr<QThread> worker(QThread::create([&] {
+        CDelayedCall::invoke(0, &target, "m");
+        QThread::msleep(20);
+        pending = CDelayedCall::isActive(&target, "m");
+    }));
+    worker->start();
+    QVERIFY(worker->wait(30000));
     QVERIFY(pending);
     QTest::qWait(20);
     QCOMPARE(target.calls.load(), 0);
