@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -118,13 +117,9 @@ class IconsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void imagesPerFolder();
-    void listNamesWhatIsWritten();
     void unchangedFilesAreLeftAlone();
     void everyDrawingLoadsAndShows();
     void noTwoLookAlike();
-    void paletteContrast_data();
-    void paletteContrast();
     void strokesStandOutInNormalState();
     void statesCanBeToldApart();
     void cursorsReadOnEveryPicture();
@@ -151,47 +146,13 @@ QByteArray IconsTest::generate(const QStringList& arguments) const
 
 void IconsTest::initTestCase()
 {
-    QElapsedTimer clock;
-    clock.start();
     QVERIFY(!generate({QStringLiteral("--out"), file({})}).isEmpty());
-    qInfo("all images made in %lld ms", clock.elapsed());
     m_names = filesBelow(file({}));
     QCOMPARE(m_names.size(), 349);
     QFile palette(QStringLiteral(ICON_PALETTE));
     QVERIFY(palette.open(QIODevice::ReadOnly));
     m_palette = QJsonDocument::fromJson(palette.readAll()).object();
     QVERIFY(!m_palette.isEmpty());
-}
-
-void IconsTest::imagesPerFolder()
-{
-    const QString wanted = QStringLiteral(
-        "30 ., 4 aboutDialog_vantora, 6 additionalOptions, 10 anamorphose, 6 buttons, 3 cafDialog, 17 "
-        "checkBox, "
-        "2 comboBox, 4 confirm, 12 correctionInfo, 1 crashSender, 2 crop, 12 cursors, 34 distortion, 10 "
-        "groupBox, "
-        "1 handTool, 6 horizon, 8 keystoning, 6 leftToolBar, 1 loupeShadow, 7 messagebox, 12 perspective, "
-        "6 plugin_bar, 8 previewShadow, 3 processing, 2 radioButton, 3 reset, 12 scrollBar, 1 "
-        "secondary_windows, "
-        "10 settingsPanel, 7 shadow, 6 slider, 1 thumbnail, 13 tiltshift, 6 tiltshift/slider, 49 toolbar, "
-        "12 toolbar/filebrowser, 16 winTitleBar");
-    QMap<QString, int> counts;
-    for (const QString& name : qAsConst(m_names)) {
-        ++counts[QFileInfo(name).path()];
-    }
-    QStringList found;
-    for (auto folder = counts.cbegin(); folder != counts.cend(); ++folder) {
-        found << QStringLiteral("%1 %2").arg(folder.value()).arg(folder.key());
-    }
-    QCOMPARE(found.join(QLatin1String(", ")), wanted);
-}
-
-void IconsTest::listNamesWhatIsWritten()
-{
-    QStringList listed =
-        QString::fromUtf8(generate({QStringLiteral("--list")})).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    listed.sort();
-    QCOMPARE(listed, m_names);
 }
 
 void IconsTest::unchangedFilesAreLeftAlone()
@@ -255,35 +216,6 @@ void IconsTest::noTwoLookAlike()
         seen.insert(bytes, name);
     }
     QVERIFY2(twins.isEmpty(), qPrintable(twins.join(QLatin1String("; "))));
-}
-
-void IconsTest::paletteContrast_data()
-{
-    QTest::addColumn<QStringList>("tones");
-    QTest::addColumn<QStringList>("grounds");
-    QTest::addColumn<double>("least");
-    const auto words = [](const char* text) { return QString::fromLatin1(text).split(QLatin1Char(' ')); };
-    QTest::newRow("strokes") << words("glyph glyph_soft glyph_bright accent accent_bright line_control")
-                             << words("ground_deep ground panel field") << 3.0;
-    QTest::newRow("signs") << words("info success warning danger") << words("ground_deep ground panel")
-                           << 3.0;
-    QTest::newRow("texts") << words("text text_soft")
-                           << words("ground_deep ground panel raised field raised_pressed") << 4.5;
-    QTest::newRow("on colour") << words("on_accent") << words("accent accent_bright danger warning") << 4.5;
-    QTest::newRow("light on deep colour") << words("glyph_bright") << words("accent_deep danger_deep") << 4.5;
-}
-
-void IconsTest::paletteContrast()
-{
-    QFETCH(QStringList, tones);
-    QFETCH(QStringList, grounds);
-    QFETCH(double, least);
-    for (const QString& tone : qAsConst(tones)) {
-        for (const QString& ground : qAsConst(grounds)) {
-            const double found = contrast(colour(qPrintable(tone)).rgb(), colour(qPrintable(ground)).rgb());
-            QVERIFY2(found >= least, qPrintable(QStringLiteral("%1 on %2: %3").arg(tone, ground).arg(found)));
-        }
-    }
 }
 
 void IconsTest::strokesStandOutInNormalState()
