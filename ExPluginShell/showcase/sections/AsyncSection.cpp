@@ -6,6 +6,7 @@
 #include <utilsDll/OperationCompletionWaiter.h>
 #include <utilsDll/RunnableItem.h>
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QThread>
 #include <QThreadPool>
@@ -23,6 +24,15 @@ void turnLoop(int msec)
     CExcludeUserInpuEventLoop().exec(msec);
 }
 
+/// The same until \a done, ten seconds at most.
+template <class Condition>
+void turnLoopUntil(Condition done)
+{
+    for (const QDeadlineTimer limit(10000); !done() && !limit.hasExpired();) {
+        turnLoop(5);
+    }
+}
+
 void showDelayedCalls(Report& report)
 {
     QTimer target; // its slot start() counts as well as any other
@@ -31,25 +41,26 @@ void showDelayedCalls(Report& report)
     QObject::connect(&target, &QTimer::timeout, [&calls] { ++calls; });
     for (int i = 0; i < 10; ++i) {
         CDelayedCall::invoke(20, &target, "start");
-        turnLoop(2);
+        QThread::msleep(2);
     }
-    turnLoop(80);
+    turnLoopUntil([&] { return calls > 0; });
+    turnLoop(40);
     report.check(QStringLiteral("ten requests within 20 ms"), QStringLiteral("calls made: %1").arg(calls),
                  calls == 1);
 
     calls = 0;
     CDelayedCall::invoke(10, &target, "start", false);
-    turnLoop(100);
+    turnLoopUntil([&] { return calls > 4; });
     CDelayedCall::discard(&target, "start");
     const int beforeDiscard = calls;
     turnLoop(40);
     report.check(
-        QStringLiteral("a periodic call of 10 ms, for 100 ms"),
+        QStringLiteral("a periodic call, every 10 ms"),
         QStringLiteral("calls made: %1, after discard: %2").arg(beforeDiscard).arg(calls - beforeDiscard),
-        beforeDiscard > 2 && calls - beforeDiscard <= 1);
+        beforeDiscard > 4 && calls - beforeDiscard <= 1);
 }
 
-/// Counts to a hundred, unless it is stopped.
+/// Counts to ten thousand, unless it is stopped.
 class CountingItem : public CQRunnableItem
 {
 public:
@@ -62,7 +73,7 @@ public:
 private:
     bool doRun() override
     {
-        for (int i = 0; i < 100; ++i) {
+        for (int i = 0; i < 10000; ++i) {
             if (stopRequired()) {
                 return false;
             }
@@ -89,34 +100,37 @@ void showItems(Report& report)
         });
         pool.start(items.back().get());
     }
-    turnLoop(30);
+    turnLoopUntil([&] { return steps.loadAcquire() > 20; });
     const int progress = steps.loadAcquire();
     for (const auto& item : items) {
         item->stop();
     }
     pool.waitForDone();
-    turnLoop(1);
-    report.check(QStringLiteral("a pool of six work items, stopped"),
-                 QStringLiteral("progress: %1 of 600 steps, stopped at work: %2").arg(progress).arg(stopped),
-                 progress > 0 && progress < 600 && finished == stopped);
+    turnLoop(1); // the last announcements
+    report.check(
+        QStringLiteral("a pool of six work items, stopped"),
+        QStringLiteral("progress: %1 of 60,000 steps, stopped at work: %2").arg(progress).arg(stopped),
+        progress > 0 && progress < 60000 && finished == stopped);
 }
 
 void showWaits(Report& report)
 {
-    int ticks = 0;
+    QAtomicInt ticks(0), done(0);
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&ticks] { ++ticks; });
+    QObject::connect(&timer, &QTimer::timeout, [&ticks] { ticks.ref(); });
     timer.start(5);
-    QAtomicInt done(0);
-    const std::unique_ptr<QThread> worker(QThread::create([&done] {
-        QThread::msleep(60);
+    const std::unique_ptr<QThread> worker(QThread::create([&] {
+        for (int i = 0; i < 1000 && ticks.loadAcquire() < 10; ++i) {
+            QThread::msleep(5);
+        }
         done.storeRelease(1);
     }));
     worker->start();
     waitNonBlockingAtomicIntValue(done, 1, true);
     worker->wait();
     report.check(QStringLiteral("waiting for a worker, input excluded"),
-                 QStringLiteral("a timer ticked %1 times meanwhile").arg(ticks), ticks > 2);
+                 QStringLiteral("a timer ticked %1 times meanwhile").arg(ticks.loadAcquire()),
+                 ticks.loadAcquire() >= 10);
 
     QElapsedTimer clock;
     clock.start();
