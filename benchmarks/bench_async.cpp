@@ -317,14 +317,18 @@ void blockingAnswer(benchmark::State& state)
 }
 BENCHMARK(blockingAnswer)->Name("answer/waitBlocking")->UseManualTime();
 
-/// Nanoseconds that this thread has run or was ready to: what it takes of a core, also on a busy machine.
-qint64 runOrReady()
-{
-    QFile file(QStringLiteral("/proc/thread-self/schedstat"));
-    file.open(QIODevice::ReadOnly);
-    const QList<QByteArray> fields = file.readAll().split(' ');
-    return fields.value(0).toLongLong() + fields.value(1).toLongLong();
-}
+/// Seconds of this thread: on a processor, and ready to run without getting one.
+struct ThreadTimes {
+    ThreadTimes()
+    {
+        QFile file(QStringLiteral("/proc/thread-self/schedstat"));
+        file.open(QIODevice::ReadOnly);
+        const QList<QByteArray> fields = file.readAll().split(' ');
+        running = fields.value(0).toDouble() * 1e-9;
+        ready = fields.value(1).toDouble() * 1e-9;
+    }
+    double running, ready;
+};
 
 /// A precise 1 ms timer during a second: with a wait that polls, and in a loop that sleeps.
 void timerPace(benchmark::State& state)
@@ -342,10 +346,13 @@ void timerPace(benchmark::State& state)
             over.storeRelease(1);
             loop.quit();
         });
-        const qint64 busyBefore = runOrReady();
+        const ThreadTimes before;
         polling ? waitNonBlockingAtomicIntValue(over, 1, true) : void(loop.exec());
         state.counters["ticks"] = ticks;
-        state.counters["core"] = static_cast<double>(runOrReady() - busyBefore) * 1e-9;
+        const ThreadTimes after;
+        state.counters["running"] = after.running - before.running;
+        state.counters["ready"] = after.ready - before.ready;
+        state.counters["ticks_per_running_s"] = ticks / (after.running - before.running);
     }
 }
 BENCHMARK(timerPace)

@@ -14,6 +14,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSlider>
+#include <QToolButton>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void everyClassHasARule_data();
     void everyClassHasARule();
     void predefinedSheets();
+    void settingsCategoriesShowTheirState();
     void fontFamilies();
     void fontsAndIcon();
 };
@@ -153,6 +155,25 @@ void StyleSheetsTest::predefinedSheets()
     QCOMPARE(qApp->styleSheet(), parts.join(QString()));
     setPredefinedAppStyleSheet(QStringLiteral(":/qss/mac.qss"), qApp);
     QCOMPARE(qApp->styleSheet(), contentOf(QStringLiteral("mac")) + parts.mid(1).join(QString()));
+}
+
+void StyleSheetsTest::settingsCategoriesShowTheirState()
+{
+    QWidget column;
+    column.setObjectName(QStringLiteral("settingsCategories"));
+    for (const char* const name : {"general", "display", "performance", "language", "privacy"}) {
+        QToolButton button(&column);
+        button.setObjectName(QLatin1String(name) + QStringLiteral("Button"));
+        button.ensurePolished();
+        for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
+            const QIcon expected(
+                QStringLiteral(":/icons/settingsPanel/settings_%1%2.svg")
+                    .arg(QLatin1String(name), state == QIcon::On ? QStringLiteral("_checked") : QString()));
+            QVERIFY2(button.icon().pixmap(24, QIcon::Normal, state).toImage() ==
+                         expected.pixmap(24).toImage(),
+                     name);
+        }
+    }
 }
 
 void StyleSheetsTest::fontFamilies()
