@@ -45,9 +45,10 @@ UTILSDLL_EXPORT void waitBlocking(const ICustomWaitPredicate& pred);
 ///                         thread other than the main one no input is blocked
 ///
 /// \warning The loop polls without pause: it takes 100 percent of a core as long as it lasts, where a loop
-/// that sleeps takes next to nothing, and on a busy machine the system holds its thread back for that. For
-/// what takes longer than a moment CExcludeUserInpuEventLoop or a COperationCompletionWaiter is the better
-/// choice: they wait asleep.
+/// that sleeps takes next to nothing. Timers keep their pace while the thread has a core; on a busy machine
+/// the system prefers threads that slept, and a 1 ms timer loses as much time as the thread waits for a core
+/// (docs/benchmarks/async.md). For what takes longer than a moment CExcludeUserInpuEventLoop or a
+/// COperationCompletionWaiter is the better choice: they wait asleep.
 /// \warning Whatever is due in the program runs inside the call, see CExcludeUserInpuEventLoop.
 ///
 /// No time-out. In a thread without an event dispatcher it only spins.
