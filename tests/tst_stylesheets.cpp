@@ -6,6 +6,7 @@
 #include <utilsDll/SharedUtils.h>
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QDialog>
 #include <QFile>
 #include <QFontDatabase>
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void everyClassHasARule();
     void predefinedSheets();
     void settingsCategoriesShowTheirState();
+    void calendarArrowsLightUp();
     void fontFamilies();
     void fontsAndIcon();
 };
@@ -173,6 +175,20 @@ void StyleSheetsTest::settingsCategoriesShowTheirState()
                          expected.pixmap(24).toImage(),
                      name);
         }
+    }
+}
+
+void StyleSheetsTest::calendarArrowsLightUp()
+{
+    QCalendarWidget calendar;
+    for (const char* const name : {"previous", "next"}) {
+        auto* const button = calendar.findChild<QToolButton*>(
+            QStringLiteral("qt_calendar_%1month").arg(QString::fromLatin1(name).left(4)));
+        QVERIFY2(button, name);
+        button->ensurePolished();
+        const QIcon hover(QStringLiteral(":/icons/calendar_%1_hover.svg").arg(QLatin1String(name)));
+        const QSize size = button->iconSize();
+        QVERIFY2(button->icon().pixmap(size, QIcon::Active).toImage() == hover.pixmap(size).toImage(), name);
     }
 }
 
