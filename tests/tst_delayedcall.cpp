@@ -3,7 +3,6 @@
 #include <utilsDll/DelayedCall.h>
 
 #include <QElapsedTimer>
-#include <QLibrary>
 #include <QPointer>
 #include <QThread>
 
@@ -71,7 +70,6 @@ private Q_SLOTS:
     void newObjectAtTheSameAddress();
     void insideTheCall_data();
     void insideTheCall();
-    void oneInstanceForAllModules();
 };
 
 void DelayedCallTest::burstBecomesOneCall()
@@ -279,16 +277,6 @@ void DelayedCallTest::insideTheCall()
     }
     delete target;
     delete other;
-}
-
-void DelayedCallTest::oneInstanceForAllModules()
-{
-    using Instance = void* (*)();
-    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/UtilsDllTrelioFrame"));
-    const auto instance =
-        reinterpret_cast<Instance>(library.resolve("_ZN9SingletonI12CDelayedCallE8instanceEv"));
-    QVERIFY2(instance, qPrintable(library.errorString()));
-    QCOMPARE(instance(), static_cast<void*>(&Singleton<CDelayedCall>::instance()));
 }
 
 TOLVAN_CORE_TEST_MAIN(DelayedCallTest)

@@ -57,8 +57,7 @@ private Q_SLOTS:
     void everyClassHasARule_data();
     void everyClassHasARule();
     void predefinedSheets();
-    void settingsCategoriesShowTheirState();
-    void calendarArrowsLightUp();
+    void iconsFollowTheState();
     void fontFamilies();
     void fontsAndIcon();
 };
@@ -159,37 +158,29 @@ void StyleSheetsTest::predefinedSheets()
     QCOMPARE(qApp->styleSheet(), contentOf(QStringLiteral("mac")) + parts.mid(1).join(QString()));
 }
 
-void StyleSheetsTest::settingsCategoriesShowTheirState()
+void StyleSheetsTest::iconsFollowTheState()
 {
+    const auto shows = [](QToolButton& button, QIcon::Mode mode, QIcon::State state, const QString& picture) {
+        button.ensurePolished();
+        const QSize size = button.iconSize();
+        return button.icon().pixmap(size, mode, state).toImage() ==
+               QIcon(QStringLiteral(":/icons/") + picture).pixmap(size).toImage();
+    };
     QWidget column;
     column.setObjectName(QStringLiteral("settingsCategories"));
     for (const char* const name : {"general", "display", "performance", "language", "privacy"}) {
         QToolButton button(&column);
         button.setObjectName(QLatin1String(name) + QStringLiteral("Button"));
-        button.ensurePolished();
-        for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
-            const QIcon expected(
-                QStringLiteral(":/icons/settingsPanel/settings_%1%2.svg")
-                    .arg(QLatin1String(name), state == QIcon::On ? QStringLiteral("_checked") : QString()));
-            QVERIFY2(button.icon().pixmap(24, QIcon::Normal, state).toImage() ==
-                         expected.pixmap(24).toImage(),
-                     name);
-        }
+        const QString picture = QStringLiteral("settingsPanel/settings_%1").arg(QLatin1String(name));
+        QVERIFY2(shows(button, QIcon::Normal, QIcon::Off, picture + QStringLiteral(".svg")), name);
+        QVERIFY2(shows(button, QIcon::Normal, QIcon::On, picture + QStringLiteral("_checked.svg")), name);
     }
-}
-
-void StyleSheetsTest::calendarArrowsLightUp()
-{
     QCalendarWidget calendar;
-    for (const char* const name : {"previous", "next"}) {
-        auto* const button = calendar.findChild<QToolButton*>(
-            QStringLiteral("qt_calendar_%1month").arg(QString::fromLatin1(name).left(4)));
-        QVERIFY2(button, name);
-        button->ensurePolished();
-        const QIcon hover(QStringLiteral(":/icons/calendar_%1_hover.svg").arg(QLatin1String(name)));
-        const QSize size = button->iconSize();
-        QVERIFY2(button->icon().pixmap(size, QIcon::Active).toImage() == hover.pixmap(size).toImage(), name);
-    }
+    auto* const next = calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
+    QVERIFY(next && shows(*next, QIcon::Active, QIcon::Off, QStringLiteral("calendar_next_hover.svg")));
+    auto* const previous = calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_prevmonth"));
+    QVERIFY(previous &&
+            shows(*previous, QIcon::Active, QIcon::Off, QStringLiteral("calendar_previous_hover.svg")));
 }
 
 void StyleSheetsTest::fontFamilies()
