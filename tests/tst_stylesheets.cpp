@@ -12,9 +12,11 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSlider>
+#include <QStyleOptionTitleBar>
 #include <QToolButton>
 
 using namespace TOLVAN_NAMESPACE;
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void everyClassHasARule();
     void predefinedSheets();
     void iconsFollowTheState();
+    void innerWindowsHaveTheirButtons();
     void fontFamilies();
     void fontsAndIcon();
 };
@@ -181,6 +184,29 @@ void StyleSheetsTest::iconsFollowTheState()
     auto* const previous = calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_prevmonth"));
     QVERIFY(previous &&
             shows(*previous, QIcon::Active, QIcon::Off, QStringLiteral("calendar_previous_hover.svg")));
+}
+
+void StyleSheetsTest::innerWindowsHaveTheirButtons()
+{
+    QMdiSubWindow window;
+    QStyleOptionTitleBar bar;
+    bar.initFrom(&window);
+    bar.titleBarFlags = Qt::WindowMinMaxButtonsHint | Qt::WindowSystemMenuHint | Qt::WindowTitleHint;
+    bar.rect = QRect(0, 0, 300, 28);
+    QRegion taken;
+    for (const auto& [control, icon, name] :
+         {std::tuple{QStyle::SC_TitleBarMinButton, QStyle::SP_TitleBarMinButton, "minimize"},
+          std::tuple{QStyle::SC_TitleBarMaxButton, QStyle::SP_TitleBarMaxButton, "maximize"},
+          std::tuple{QStyle::SC_TitleBarCloseButton, QStyle::SP_TitleBarCloseButton, "close"}}) {
+        const QRect place = window.style()->subControlRect(QStyle::CC_TitleBar, &bar, control, &window);
+        QVERIFY2(place.width() >= 18 && place.height() >= 18 && bar.rect.contains(place), name);
+        QVERIFY2(!taken.intersects(place), name);
+        taken += place;
+        const QIcon picture(QStringLiteral(":/icons/winTitleBar/titlebar_%1.svg").arg(QLatin1String(name)));
+        QVERIFY2(window.style()->standardIcon(icon, nullptr, &window).pixmap(24).toImage() ==
+                     picture.pixmap(24).toImage(),
+                 name);
+    }
 }
 
 void StyleSheetsTest::fontFamilies()
