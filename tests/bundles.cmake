@@ -13,6 +13,7 @@ endif()
 if(UTILSDLL_WITH_BUNDLES)
     tolvan_add_test(tst_bundles STANDALONE)
     tolvan_add_test(tst_languagemanager)
+    tolvan_register_desktop_tests(tst_languagemanager)
     # Shows real message boxes where the system has its own.
     tolvan_add_test(tst_errstrings SOURCES tst_errstrings.cpp support/FatalBoxes_$<IF:$<BOOL:${WIN32}>,win,unix>.cpp
         $<$<NOT:$<BOOL:${WIN32}>>:${CMAKE_CURRENT_SOURCE_DIR}/support/AllocationCounter.cpp>)

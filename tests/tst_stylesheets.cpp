@@ -37,8 +37,15 @@ QString contentOf(const QString& sheet)
 
 QStringList messages;
 
+/// Keeps what is said but for what platforms say about themselves.
 void keepMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
+    for (const char* const own :
+         {"This plugin does not support propagateSizeHints()", "QPixmap::fromWinHICON()"}) {
+        if (text.startsWith(QLatin1String(own))) {
+            return;
+        }
+    }
     messages += text;
 }
 
@@ -68,6 +75,7 @@ private Q_SLOTS:
 void StyleSheetsTest::initTestCase()
 {
     QApplication::setStyle(new CustomTolvanAppStyle);
+    chooseExistingFont();
     QVERIFY(!contentOf(QStringLiteral("custom")).isEmpty());
 }
 
@@ -107,7 +115,6 @@ void StyleSheetsTest::parsesAndAppliesWithoutWarning()
         widget->grab();
     }
     qInstallMessageHandler(previous);
-    messages.removeAll(QStringLiteral("This plugin does not support propagateSizeHints()"));
     QCOMPARE(messages, QStringList());
 }
 

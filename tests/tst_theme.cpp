@@ -86,17 +86,30 @@ class ThemeTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
     void textStandsOut_data();
     void textStandsOut();
     void contentOfScrollAreasIsDark();
     void statesCanBeToldApart_data();
     void statesCanBeToldApart();
+
+private:
+    std::unique_ptr<QWidget> m_window; // one for all: a real window takes its time
 };
 
 void ThemeTest::initTestCase()
 {
     QApplication::setStyle(new CustomTolvanAppStyle);
     setPredefinedAppStyleSheet(QString(), qApp);
+    chooseExistingFont();
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(200, 120);
+    m_window->show();
+}
+
+void ThemeTest::cleanupTestCase()
+{
+    m_window.reset(); // before the application
 }
 
 void ThemeTest::textStandsOut_data()
@@ -119,16 +132,14 @@ void ThemeTest::textStandsOut()
 {
     QFETCH(int, row);
     QFETCH(bool, enabled);
-    QWidget window;
-    QWidget* const widget = widgetClasses[row].make();
-    widget->setParent(&window, Qt::Widget);
+    const std::unique_ptr<QWidget> widget(widgetClasses[row].make());
+    widget->setParent(m_window.get(), Qt::Widget);
     widget->setEnabled(enabled);
-    widget->setGeometry(0, 0, 200, 120);
-    window.resize(200, 120);
-    window.show();
+    widget->setGeometry(m_window->rect());
+    widget->show();
     const QColor text =
         widget->palette().color(enabled ? QPalette::Active : QPalette::Disabled, widget->foregroundRole());
-    const QColor ground = mostFrequent(window.grab().toImage());
+    const QColor ground = mostFrequent(m_window->grab().toImage());
     QVERIFY2(contrast(text, ground) >= (enabled ? 4.5 : 3.0),
              qPrintable(QStringLiteral("%1 on %2").arg(text.name(), ground.name())));
 }

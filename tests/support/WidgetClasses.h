@@ -37,3 +37,13 @@ inline const WidgetClass widgetClasses[] = {
     widgetClass<QToolButton>(),     widgetClass<QTreeView>(),        widgetClass<QTreeWidget>(),
     widgetClass<QUndoView>(),       widgetClass<QWizard>(),
 };
+
+/// Makes sure that the application's font is one that the system has. Wine's default is the name of a family without
+/// a single font in it, and the toolkit's font dialog crashes over that.
+inline void chooseExistingFont()
+{
+    const QFontDatabase fonts;
+    if (fonts.styles(QApplication::font().family()).isEmpty()) {
+        QApplication::setFont(QFont(fonts.families().value(0)));
+    }
+}
