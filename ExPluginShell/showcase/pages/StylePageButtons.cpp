@@ -132,7 +132,9 @@ QWidget* StylePage::makeChoices()
 {
     auto* const box = withText(new QGroupBox, QT_TR_NOOP("Check boxes and radio buttons"), "title");
     auto* const grid = new QGridLayout(box);
+    grid->setHorizontalSpacing(18);
     grid->setVerticalSpacing(4);
+    grid->setColumnStretch(6, 1); // what is left over stands at the end, not between the choices
     addStateNames(grid);
     const char* const texts[] = {QT_TR_NOOP("Off"), QT_TR_NOOP("On"), QT_TR_NOOP("Partly")};
     int row = 1;

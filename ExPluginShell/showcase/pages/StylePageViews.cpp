@@ -149,6 +149,8 @@ QWidget* StylePage::makeToolBox()
     for (const char* const name : names) {
         auto* const page = withText(new QLabel, QT_TR_NOOP("Blurred at both ends"));
         page->setWordWrap(true);
+        page->setMargin(10);
+        page->setAlignment(Qt::AlignTop);
         const int index = toolBox->addItem(page, QString());
         translate(name, [toolBox, index](const QString& text) { toolBox->setItemText(index, text); });
     }
