@@ -22,14 +22,11 @@ private Q_SLOTS:
     void cleanupTestCase();
     void styleSheetOfFiles_data();
     void styleSheetOfFiles();
-    void foldersAreNoSheets();
     void largeSheet();
     void wrongCalls();
-    void predefinedListWithoutResources();
     void withoutResourcesFontsAndIconAreLeftAlone();
     void reapplying();
     void transparency();
-    void transparencyIgnoresNull();
 
 private:
     QString write(const QString& name, const QByteArray& content);
@@ -64,6 +61,7 @@ void ApplicationStyleTest::styleSheetOfFiles_data()
     write(QStringLiteral("mark"), "\xEF\xBB\xBFQLabel { color: green }");
     write(QStringLiteral("utf8"), "QLabel#\xC3\xA4\xE6\x97\xA5 { margin: 2px }");
     write(QStringLiteral("empty"), "");
+    QDir(m_folder.path()).mkdir(QStringLiteral("folder"));
 
     QTest::addColumn<QString>("names");
     QTest::addColumn<QString>("read");
@@ -81,6 +79,7 @@ void ApplicationStyleTest::styleSheetOfFiles_data()
     row("UTF-8", "utf8", "utf8", QStringLiteral("QLabel#ä日 { margin: 2px }"));
     row("empty path and empty file", "|empty", "empty", QString());
     row("nothing to read", "none.qss|nor this", "", QString());
+    row("folders", "folder|:/qt-project.org|:/", "", QString());
 }
 
 void ApplicationStyleTest::styleSheetOfFiles()
@@ -91,23 +90,14 @@ void ApplicationStyleTest::styleSheetOfFiles()
     const auto paths = [this](const QString& list) {
         QStringList result;
         for (const QString& name : list.split(QLatin1Char('|'))) {
-            result += name.isEmpty() ? name : m_folder.filePath(name);
+            const bool given = name.isEmpty() || name.startsWith(QLatin1Char(':'));
+            result += given ? name : m_folder.filePath(name);
         }
         return result;
     };
     QCOMPARE(setAppStyleSheet(paths(names), qApp), read.isEmpty() ? QStringList() : paths(read));
     QCOMPARE(qApp->styleSheet(), sheet);
     QCOMPARE(installedLogger().take(), QStringList());
-}
-
-void ApplicationStyleTest::foldersAreNoSheets()
-{
-    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("folder.qss")));
-    const QStringList folders = {m_folder.filePath(QStringLiteral("folder.qss")),
-                                 QStringLiteral(":/qt-project.org")};
-    QVERIFY(QFileInfo(folders.last()).isDir());
-    QCOMPARE(setAppStyleSheet(folders, qApp), QStringList());
-    QCOMPARE(qApp->styleSheet(), QString());
 }
 
 void ApplicationStyleTest::largeSheet()
@@ -137,14 +127,6 @@ void ApplicationStyleTest::wrongCalls()
     setPredefinedAppStyleSheet(QString(), nullptr);
     QCOMPARE(installedLogger().take(), QStringList({assertion, assertion, assertion}));
     QCOMPARE(qApp->styleSheet(), before);
-}
-
-void ApplicationStyleTest::predefinedListWithoutResources()
-{
-    setPredefinedAppStyleSheet(write(QStringLiteral("main.qss"), "QLabel { color: red }"), qApp);
-    QCOMPARE(qApp->styleSheet(), QStringLiteral("QLabel { color: red }"));
-    setPredefinedAppStyleSheet(QString(), qApp);
-    QCOMPARE(qApp->styleSheet(), QString());
 }
 
 void ApplicationStyleTest::withoutResourcesFontsAndIconAreLeftAlone()
@@ -180,6 +162,7 @@ void ApplicationStyleTest::reapplying()
 
 void ApplicationStyleTest::transparency()
 {
+    setWidgetFullTransparency(nullptr); // ignored
     QPushButton button;
     const QPalette before = button.palette();
     setWidgetFullTransparency(&button);
@@ -193,12 +176,6 @@ void ApplicationStyleTest::transparency()
                      qPrintable(QStringLiteral("group %1, role %2").arg(group).arg(role)));
         }
     }
-}
-
-void ApplicationStyleTest::transparencyIgnoresNull()
-{
-    setWidgetFullTransparency(nullptr);
-    QCOMPARE(installedLogger().take(), QStringList());
 }
 
 TOLVAN_GUI_TEST_MAIN(ApplicationStyleTest)

@@ -3,10 +3,8 @@
 
 #include <utilsDll/customtolvanappstyle.h>
 
-#include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
-#include <QStyleOption>
 
 #include <memory>
 
@@ -41,7 +39,6 @@ private Q_SLOTS:
     void renaming();
     void destroying();
     void wrongCalls();
-    void pressedLabelStaysInPlace();
 
 private:
     bool isShifted(const QWidget& widget) const;
@@ -174,25 +171,6 @@ void ButtonShiftTest::wrongCalls()
     QVERIFY(QMetaObject::invokeMethod(m_style.get(), "onNonShiftedButtonObjectNameChanged",
                                       Q_ARG(QString, QStringLiteral("without a sender"))));
     QCOMPARE(installedLogger().take(), QStringList());
-}
-
-void ButtonShiftTest::pressedLabelStaysInPlace()
-{
-    const auto label = [this](const Button& button, bool pressed) {
-        QStyleOptionButton option;
-        option.rect = QRect(0, 0, 80, 30);
-        option.text = QStringLiteral("I");
-        option.state = QStyle::State_Enabled | (pressed ? QStyle::State_Sunken : QStyle::State_Raised);
-        QImage image(option.rect.size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        m_style->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, &button);
-        return image;
-    };
-    Button button("pressed");
-    QVERIFY(label(button, true) != label(button, false));
-    m_style->disableButtonShift(&button, true);
-    QCOMPARE(label(button, true), label(button, false));
 }
 
 TOLVAN_GUI_TEST_MAIN(ButtonShiftTest)

@@ -93,10 +93,7 @@ class CustomStyleTest : public QObject
 private Q_SLOTS:
     void init();
     void metaObject();
-    void hints();
-    void alternatingRowsBelowTheLastRow();
-    void metrics();
-    void toolTipMask_data();
+    void hintsAndMetrics();
     void toolTipMask();
     void focusRectangleAndMenuCheckMarkAreMissing();
     void extensionButton();
@@ -125,8 +122,19 @@ void CustomStyleTest::metaObject()
     QCOMPARE(m_style->baseStyle()->metaObject()->className(), "QWindowsStyle");
 }
 
-void CustomStyleTest::hints()
+void CustomStyleTest::hintsAndMetrics()
 {
+    struct BaseStyle : QProxyStyle {
+        int styleHint(StyleHint hint, const QStyleOption*, const QWidget*, QStyleHintReturn*) const override
+        {
+            return 1000 + hint;
+        }
+        int pixelMetric(PixelMetric metric, const QStyleOption*, const QWidget*) const override
+        {
+            return 1000 + metric;
+        }
+    };
+    m_style->setBaseStyle(new BaseStyle);
     const QHash<int, int> own = {{QStyle::SH_EtchDisabledText, 0},
                                  {QStyle::SH_Menu_AllowActiveAndDisabled, 0},
                                  {QStyle::SH_ProgressDialog_CenterCancelButton, 1},
@@ -136,75 +144,49 @@ void CustomStyleTest::hints()
                                  {QStyle::SH_Menu_MouseTracking, 1},
                                  {QStyle::SH_MenuBar_MouseTracking, 1},
                                  {QStyle::SH_Slider_AbsoluteSetButtons, Qt::LeftButton}};
-    for (int hint = 0; hint <= int(QStyle::SH_SpinBox_StepModifier); ++hint) {
-        const auto h = static_cast<QStyle::StyleHint>(hint);
-        QVERIFY2(m_style->styleHint(h) == own.value(hint, m_stock->styleHint(h)),
-                 qPrintable(QString::number(hint)));
-    }
-}
-
-void CustomStyleTest::alternatingRowsBelowTheLastRow()
-{
-    struct BaseStyle : QProxyStyle {
-        int styleHint(StyleHint, const QStyleOption*, const QWidget*, QStyleHintReturn*) const override
-        {
-            return 7;
-        }
-    };
-    m_style->setBaseStyle(new BaseStyle);
-    const auto hint = [this](const QWidget* widget) {
-        return m_style->styleHint(QStyle::SH_ItemView_PaintAlternatingRowColorsForEmptyArea, nullptr, widget);
-    };
-    const QTreeWidget tree; // a subclass of the tree view
     const QListWidget list;
-    QCOMPARE(hint(&tree), 0);
-    QCOMPARE(hint(&list), 7);
-    QCOMPARE(hint(nullptr), 7);
-}
-
-void CustomStyleTest::metrics()
-{
-    const QPushButton button;
-    for (int metric = 0; metric <= int(QStyle::PM_HeaderDefaultSectionSizeVertical); ++metric) {
-        const auto m = static_cast<QStyle::PixelMetric>(metric);
-        const int wanted = m == QStyle::PM_SubMenuOverlap ? -1 : m_stock->pixelMetric(m, nullptr, &button);
-        QVERIFY2(m_style->pixelMetric(m, nullptr, &button) == wanted, qPrintable(QString::number(metric)));
+    for (int hint = 0; hint <= int(QStyle::SH_SpinBox_StepModifier); ++hint) {
+        QCOMPARE(m_style->styleHint(static_cast<QStyle::StyleHint>(hint), nullptr, &list),
+                 own.value(hint, 1000 + hint));
     }
-}
-
-void CustomStyleTest::toolTipMask_data()
-{
-    QTest::addColumn<QRect>("rect");
-    QTest::newRow("at the origin") << QRect(0, 0, 40, 18);
-    QTest::newRow("elsewhere") << QRect(100, -7, 11, 5);
-    QTest::newRow("smallest with an inside") << QRect(0, 0, 3, 3);
+    const QTreeWidget tree; // a subclass of the tree view
+    QCOMPARE(m_style->styleHint(QStyle::SH_ItemView_PaintAlternatingRowColorsForEmptyArea, nullptr, &tree),
+             0);
+    for (int metric = 0; metric <= int(QStyle::PM_HeaderDefaultSectionSizeVertical); ++metric) {
+        QCOMPARE(m_style->pixelMetric(static_cast<QStyle::PixelMetric>(metric), nullptr, &list),
+                 metric == QStyle::PM_SubMenuOverlap ? -1 : 1000 + metric);
+    }
 }
 
 void CustomStyleTest::toolTipMask()
 {
-    QFETCH(QRect, rect);
+    const auto hint = [this](const QStyleOption* option, QStyleHintReturn* returned) {
+        return m_style->styleHint(QStyle::SH_ToolTip_Mask, option, nullptr, returned);
+    };
     QStyleOption option;
-    option.rect = rect;
     QStyleHintReturnMask mask;
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &mask), 1);
-    const QRect own(QPoint(0, 0), rect.size());
-    QCOMPARE(mask.region.boundingRect(), own);
-    for (int y = 0; y < own.height(); ++y) {
-        for (int x = 0; x < own.width(); ++x) {
-            const bool corner = (x == 0 || x == own.right()) && (y == 0 || y == own.bottom());
-            QVERIFY2(mask.region.contains(QPoint(x, y)) != corner,
-                     qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+    for (const QRect& rect : {QRect(0, 0, 40, 18), QRect(100, -7, 11, 5), QRect(0, 0, 3, 3)}) {
+        option.rect = rect;
+        QCOMPARE(hint(&option, &mask), 1);
+        const QRect own(QPoint(0, 0), rect.size());
+        QCOMPARE(mask.region.boundingRect(), own);
+        for (int y = 0; y < own.height(); ++y) {
+            for (int x = 0; x < own.width(); ++x) {
+                const bool corner = (x == 0 || x == own.right()) && (y == 0 || y == own.bottom());
+                QVERIFY2(mask.region.contains(QPoint(x, y)) != corner,
+                         qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            }
         }
     }
     QStyleHintReturnVariant other;
-    const int stock = m_stock->styleHint(QStyle::SH_ToolTip_Mask, &option);
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &other), stock);
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option), stock);
     QStyleHintReturnMask newer;
     newer.version = 2;
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, &option, nullptr, &newer), stock);
+    const int stock = m_stock->styleHint(QStyle::SH_ToolTip_Mask, &option);
+    QCOMPARE(hint(&option, &other), stock);
+    QCOMPARE(hint(&option, nullptr), stock);
+    QCOMPARE(hint(&option, &newer), stock);
     QVERIFY(newer.region.isEmpty());
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTip_Mask, nullptr, nullptr, &mask), stock); // nothing to mask
+    QCOMPARE(hint(nullptr, &mask), stock); // nothing to mask
 }
 
 void CustomStyleTest::focusRectangleAndMenuCheckMarkAreMissing()
@@ -231,9 +213,8 @@ void CustomStyleTest::extensionButton()
     const QStringList pattern = {QStringLiteral("..  ..  "), QStringLiteral(" ..  .. "),
                                  QStringLiteral("  ..  .."), QStringLiteral(" ..  .. "),
                                  QStringLiteral("..  ..  ")};
-    const QStringList mirrored = {QStringLiteral("  ..  .."), QStringLiteral(" ..  .. "),
-                                  QStringLiteral("..  ..  "), QStringLiteral(" ..  .. "),
-                                  QStringLiteral("  ..  ..")};
+    // The second row is its own mirror image; the outer rows and the middle one are each other's.
+    const QStringList mirrored = {pattern[2], pattern[1], pattern[0], pattern[1], pattern[2]};
     const auto rows = [this](const QStyleOption* option) {
         return rowsOf(m_style->standardPixmap(QStyle::SP_ToolBarHorizontalExtensionButton, option));
     };

@@ -33,8 +33,10 @@ const Language languageTable[] = {
 
 void store(const QVariant& number)
 {
-    QSettings(QStringLiteral("Tolvan"), QStringLiteral("Ostra Collection"))
-        .setValue(QStringLiteral("currentLanguage"), number);
+    if (number.isValid()) {
+        QSettings(QStringLiteral("Tolvan"), QStringLiteral("Ostra Collection"))
+            .setValue(QStringLiteral("currentLanguage"), number);
+    }
 }
 
 int installedByApplication()
@@ -53,7 +55,6 @@ class OpenManager : public CLanguageManager
 {
 public:
     using CLanguageManager::createLanguageModel;
-    using CLanguageManager::setCurrentLanguageNumber;
 };
 
 /// A window that follows the language as the product's windows do.
@@ -84,14 +85,12 @@ private Q_SLOTS:
     void cleanup();
     void metaObject();
     void table();
-    void tableOfOne_data();
-    void tableOfOne();
+    void givenTable_data();
+    void givenTable();
     void storedNumber_data();
     void storedNumber();
     void unknownNumber();
     void fixedAbbreviations();
-    void loading_data();
-    void loading();
     void tenChangesAndBack();
     void applicationFreesTranslators();
     void sameLanguage();
@@ -156,7 +155,7 @@ void LanguageManagerTest::table()
                                         "Cannot find language with ID: 7")));
 }
 
-void LanguageManagerTest::tableOfOne_data()
+void LanguageManagerTest::givenTable_data()
 {
     const QStringList one{QStringLiteral("1")};
     const QStringList two{QStringLiteral("1"), QStringLiteral("2")};
@@ -174,7 +173,7 @@ void LanguageManagerTest::tableOfOne_data()
     QTest::newRow("nothing") << QStringList() << QStringList() << QStringList() << QStringList() << 0 << "";
 }
 
-void LanguageManagerTest::tableOfOne()
+void LanguageManagerTest::givenTable()
 {
     QFETCH(QStringList, names);
     QFETCH(QStringList, numbers);
@@ -198,9 +197,7 @@ void LanguageManagerTest::storedNumber_data()
     QTest::addColumn<unsigned>("number");
     QTest::addColumn<QString>("abbreviation");
     QTest::newRow("nothing") << QVariant() << 2u << "en";
-    QTest::newRow("a number") << QVariant(13) << 13u << "zh-CN";
     QTest::newRow("a number as text") << QVariant(QStringLiteral("12")) << 12u << "ja";
-    QTest::newRow("zero") << QVariant(0) << 0u << "de";
     QTest::newRow("no number") << QVariant(QStringLiteral("German")) << 2u << "en";
     QTest::newRow("empty text") << QVariant(QString()) << 2u << "en";
     QTest::newRow("no language of the suite") << QVariant(7) << 2u << "en";
@@ -210,9 +207,7 @@ void LanguageManagerTest::storedNumber()
 {
     QFETCH(QVariant, stored);
     QFETCH(QString, abbreviation);
-    if (stored.isValid()) {
-        store(stored);
-    }
+    store(stored);
     CLanguageManager manager;
     QTEST(CLanguageManager::currentLanguageNumber(), "number");
     // One abbreviation needs the table, the other does not.
@@ -250,8 +245,6 @@ void LanguageManagerTest::fixedAbbreviations()
     for (const Language& language : languageTable) {
         QCOMPARE(CLanguageManager::stringFromCodeLanguage(language.number),
                  QString::fromLatin1(language.abbreviation));
-        OpenManager::setCurrentLanguageNumber(language.number);
-        QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
     }
     for (unsigned code : {1u, 14u, 4294967295u}) {
         try {
@@ -265,48 +258,32 @@ void LanguageManagerTest::fixedAbbreviations()
     }
 }
 
-void LanguageManagerTest::loading_data()
-{
-    QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(languageTable)); ++row) {
-        QTest::newRow(languageTable[row].abbreviation) << row;
-    }
-}
-
-void LanguageManagerTest::loading()
-{
-    QFETCH(int, row);
-    const Language& language = languageTable[row];
-    store(language.number);
-    CLanguageManager manager;
-    manager.loadLanguageForApp();
-    QCOMPARE(manager.loadedLanguageID(), language.number);
-    QCOMPARE(installedByApplication(), language.translators);
-    QCOMPARE(QObject::tr("Error"), QString::fromUtf8(language.error));
-    QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
-    QCOMPARE(QLocale().language(), QLocale(QString::fromLatin1(language.abbreviation)).language());
-}
-
 void LanguageManagerTest::tenChangesAndBack()
 {
+    store(5);
     CLanguageManager manager;
     manager.loadLanguageForApp();
+    int translators = 2;
+    QCOMPARE(installedByApplication(), translators);
+    QCOMPARE(QObject::tr("Error"), QStringLiteral("Erreur"));
     Window window;
     window.show();
     QSignalSpy changed(&manager, SIGNAL(languageChanged()));
-    int expectedTranslators = 1;
     const int order[] = {0, 2, 1, 3, 4, 0, 1, 4, 2, 3, 1};
     for (int place : order) {
         const Language& language = languageTable[place];
+        const int before = window.changes;
         QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(language.number)));
         // The one installed last goes; the product's catalogue of a language with two stays beneath.
-        expectedTranslators += language.translators - 1;
-        QCOMPARE(installedByApplication(), expectedTranslators);
+        translators += language.translators - 1;
+        QCOMPARE(installedByApplication(), translators);
+        QCOMPARE(manager.loadedLanguageID(), language.number);
         QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
-        const int before = window.changes;
-        QTRY_COMPARE(window.text(), QString::fromUtf8(language.error));
-        QVERIFY(window.changes > before);
+        QCOMPARE(QLocale().language(), QLocale(QString::fromLatin1(language.abbreviation)).language());
         QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
+        QCoreApplication::sendPostedEvents();
+        QVERIFY(window.changes > before);
+        QCOMPARE(window.text(), QString::fromUtf8(language.error));
     }
     QCOMPARE(changed.size(), int(std::size(order)));
     QCOMPARE(installedLogger().take(), QStringList());

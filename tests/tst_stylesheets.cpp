@@ -63,7 +63,6 @@ private Q_SLOTS:
     void parsesAndAppliesWithoutWarning_data();
     void parsesAndAppliesWithoutWarning();
     void everyImageIsThere();
-    void everyClassHasARule_data();
     void everyClassHasARule();
     void predefinedSheets();
     void iconsFollowTheState();
@@ -134,28 +133,21 @@ void StyleSheetsTest::everyImageIsThere()
     }
 }
 
-void StyleSheetsTest::everyClassHasARule_data()
-{
-    QTest::addColumn<int>("row");
-    int row = 0;
-    for (const WidgetClass& entry : widgetClasses) {
-        QTest::newRow(entry.name) << row++;
-    }
-}
-
 /// Its own or that of a class between it and QWidget.
 void StyleSheetsTest::everyClassHasARule()
 {
-    QFETCH(int, row);
-    const std::unique_ptr<QWidget> widget(widgetClasses[row].make());
-    const QString sheet = qApp->styleSheet();
-    QStringList names;
-    for (auto* meta = widget->metaObject(); meta != &QWidget::staticMetaObject; meta = meta->superClass()) {
-        names += QString::fromLatin1(meta->className());
+    for (const WidgetClass& entry : widgetClasses) {
+        const std::unique_ptr<QWidget> widget(entry.make());
+        QStringList names;
+        for (auto* meta = widget->metaObject(); meta != &QWidget::staticMetaObject;
+             meta = meta->superClass()) {
+            names += QString::fromLatin1(meta->className());
+        }
+        const QRegularExpression rule(
+            QStringLiteral("(^|, )(%1)\\b[^{}]*[,{]").arg(names.join(QLatin1Char('|'))),
+            QRegularExpression::MultilineOption);
+        QVERIFY2(rule.match(qApp->styleSheet()).hasMatch(), entry.name);
     }
-    const QString begins = QStringLiteral("(^|, )(%1)\\b[^{}]*[,{]").arg(names.join(QLatin1Char('|')));
-    const QRegularExpression rule(begins, QRegularExpression::MultilineOption);
-    QVERIFY2(rule.match(sheet).hasMatch(), qPrintable(names.join(QLatin1Char(' '))));
 }
 
 void StyleSheetsTest::predefinedSheets()

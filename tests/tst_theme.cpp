@@ -5,8 +5,8 @@
 #include <utilsDll/SharedUtils.h>
 
 #include <cmath>
-#include <functional>
 #include <memory>
+#include <type_traits>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -39,42 +39,56 @@ QColor mostFrequent(const QImage& image)
     return QColor(most.key());
 }
 
-/// A widget drawn in a state of the caller's choice, on the ground of a window.
-struct Drawing {
-    std::unique_ptr<QWidget> window;
-    QWidget* widget;
-    std::function<void(QPainter&, QStyle::State)> draw;
-
-    QImage image(QStyle::State state, bool enabled = true) const
+/// A button that is drawn in a state of the caller's choice, whatever the mouse and the keyboard do.
+template <class Button, class Option>
+struct Stated : Button {
+    explicit Stated(QStyle::State wanted)
+        : state(wanted)
     {
-        widget->setEnabled(enabled);
-        QImage result(widget->size(), QImage::Format_RGB32);
-        result.fill(QColor(0x24, 0x25, 0x28));
-        QPainter painter(&result);
-        draw(painter, state | (enabled ? QStyle::State_Enabled : QStyle::State_None));
-        return result;
     }
+    void paintEvent(QPaintEvent*) override
+    {
+        Option option;
+        this->initStyleOption(&option);
+        option.state |= state;
+        QStylePainter painter(this);
+        if constexpr (std::is_same_v<Button, QToolButton>) {
+            painter.drawComplexControl(QStyle::CC_ToolButton, option);
+        } else {
+            const bool isCheckBox = std::is_same_v<Button, QCheckBox>;
+            const bool isRadioButton = std::is_same_v<Button, QRadioButton>;
+            painter.drawControl(isCheckBox      ? QStyle::CE_CheckBox
+                                : isRadioButton ? QStyle::CE_RadioButton
+                                                : QStyle::CE_PushButton,
+                                option);
+        }
+    }
+    const QStyle::State state;
 };
 
-template <class Button, class Option>
-Drawing button(QStyle::ControlElement element, const std::function<void(Button&)>& prepare)
+std::unique_ptr<QAbstractButton> makeButton(const QString& kind, QStyle::State state)
 {
-    auto window = std::make_unique<QWidget>();
-    auto* const widget = new Button(window.get());
-    widget->setText(QStringLiteral("Text"));
-    prepare(*widget);
-    widget->resize(90, 30);
-    widget->ensurePolished();
-    return {std::move(window), widget, [widget, element](QPainter& painter, QStyle::State state) {
-                Option option;
-                option.initFrom(widget);
-                option.text = widget->text();
-                option.state = state;
-                if (widget->isCheckable()) {
-                    option.state |= widget->isChecked() ? QStyle::State_On : QStyle::State_Off;
-                }
-                widget->style()->drawControl(element, &option, &painter, widget);
-            }};
+    const auto is = [&kind](const char* word) { return kind.contains(QLatin1String(word)); };
+    std::unique_ptr<QAbstractButton> button;
+    if (is("check box")) {
+        button = std::make_unique<Stated<QCheckBox, QStyleOptionButton>>(state);
+    } else if (is("radio button")) {
+        button = std::make_unique<Stated<QRadioButton, QStyleOptionButton>>(state);
+    } else if (is("tool button")) {
+        button = std::make_unique<Stated<QToolButton, QStyleOptionToolButton>>(state);
+    } else {
+        auto push = std::make_unique<Stated<QPushButton, QStyleOptionButton>>(state);
+        push->setDefault(is("default"));
+        push->setFlat(is("flat"));
+        button = std::move(push);
+    }
+    button->setText(QStringLiteral("Text"));
+    button->setCheckable(button->isCheckable() || is("checked"));
+    button->setChecked(is("checked"));
+    if (is("partly")) {
+        static_cast<QCheckBox&>(*button).setCheckState(Qt::PartiallyChecked);
+    }
+    return button;
 }
 
 } // namespace
@@ -169,33 +183,20 @@ void ThemeTest::statesCanBeToldApart_data()
 void ThemeTest::statesCanBeToldApart()
 {
     QFETCH(QString, kind);
-    const bool checked = kind.contains(QLatin1String("checked"));
-    const Drawing drawing = [&]() -> Drawing {
-        if (kind.endsWith(QLatin1String("check box"))) {
-            return button<QCheckBox, QStyleOptionButton>(QStyle::CE_CheckBox, [&](QCheckBox& box) {
-                box.setCheckState(kind.startsWith(QLatin1String("partly")) ? Qt::PartiallyChecked
-                                  : checked                                ? Qt::Checked
-                                                                           : Qt::Unchecked);
-            });
-        }
-        if (kind.endsWith(QLatin1String("radio button"))) {
-            return button<QRadioButton, QStyleOptionButton>(
-                QStyle::CE_RadioButton, [&](QRadioButton& radio) { radio.setChecked(checked); });
-        }
-        return button<QPushButton, QStyleOptionButton>(QStyle::CE_PushButton, [&](QPushButton& push) {
-            push.setDefault(kind.startsWith(QLatin1String("default")));
-            push.setFlat(kind.startsWith(QLatin1String("flat")));
-            push.setCheckable(checked);
-            push.setChecked(checked);
-        });
-    }();
-    const QImage normal = drawing.image(QStyle::State_None);
-    const QHash<QString, QImage> images = {
-        {QStringLiteral("normal"), normal},
-        {QStringLiteral("hover"), drawing.image(QStyle::State_MouseOver)},
-        {QStringLiteral("pressed"), drawing.image(QStyle::State_Sunken)},
-        {QStringLiteral("focus"), drawing.image(QStyle::State_HasFocus)},
-        {QStringLiteral("disabled"), drawing.image(QStyle::State_None, false)}};
+    const auto drawn = [&](QStyle::State state, bool enabled = true) {
+        const auto button = makeButton(kind, state);
+        button->setParent(m_window.get());
+        button->setEnabled(enabled);
+        button->setGeometry(0, 0, 90, 30);
+        button->show();
+        return m_window->grab(button->geometry()).toImage();
+    };
+    const QImage normal = drawn(QStyle::State_None);
+    const QHash<QString, QImage> images = {{QStringLiteral("normal"), normal},
+                                           {QStringLiteral("hover"), drawn(QStyle::State_MouseOver)},
+                                           {QStringLiteral("pressed"), drawn(QStyle::State_Sunken)},
+                                           {QStringLiteral("focus"), drawn(QStyle::State_HasFocus)},
+                                           {QStringLiteral("disabled"), drawn(QStyle::State_None, false)}};
     for (auto one = images.cbegin(); one != images.cend(); ++one) {
         for (auto other = images.cbegin(); other != images.cend(); ++other) {
             QVERIFY2(one == other || *one != *other, qPrintable(one.key() + QLatin1Char(' ') + other.key()));
