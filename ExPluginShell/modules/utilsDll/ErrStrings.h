@@ -42,7 +42,8 @@ public:
     /// texts are shown.
     void Retranslate();
 
-    /// Too little free space on the drive of the temporary folder: the program cannot start.
+    /// Too little free space on the drive of the temporary folder: the program cannot start. Where paths have
+    /// no drive the message names the folder.
     void ShowSmallFreeSpaceDialog() const;
     /// Out of memory in a program of its own, which will be closed.
     void ShowOutOfMemoryDialog() const;
