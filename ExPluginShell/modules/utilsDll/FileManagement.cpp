@@ -2,11 +2,11 @@
 
 #include "Logging.h"
 #include "platform/FileMoves.h"
+#include "platform/FolderContent.h"
 #include "platform/ShellSelection.h"
 #include "platform/Trash.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QStorageInfo>
 
 #include <algorithm>
@@ -100,11 +100,17 @@ QString nativeCleanPath(const QString& path)
     return QDir::toNativeSeparators(QDir::cleanPath(path));
 }
 
-/// A link to a folder is removed like a file; where the system keeps such links as folders, as a folder.
-bool removeFileOrLink(const QFileInfo& entry)
+/// \return what became of the entry handled last; false when there was none
+bool removeEntries(Platform::FolderContent folder)
 {
-    const QString path = entry.filePath();
-    return QFile::remove(path) || ((entry.isSymLink() || entry.isJunction()) && QDir().rmdir(path));
+    bool removed = false;
+    for (const Platform::FolderEntry& entry : folder.entries()) {
+        removed = entry.isFolder ? removeEntries(folder.folder(entry)) : folder.removeFile(entry);
+        if (!removed) {
+            break;
+        }
+    }
+    return removed;
 }
 
 } // namespace
@@ -142,25 +148,17 @@ ErrorCodes moveFileToTrash(const QString& path)
     if (!QFileInfo::exists(path)) {
         return FileOperationFailed;
     }
-    return Platform::moveToRecycleBin(path) ? FileOperationSucceeded : FileOperationFailed;
+    if (!Platform::moveToRecycleBin(path)) {
+        UTILSDLL_LOG(LogLevel::Error, "TOLVAN_NAMESPACE::moveFileToTrash")
+            << "the recycle bin does not take " << path;
+        return FileOperationFailed;
+    }
+    return FileOperationSucceeded;
 }
 
 bool removeDirectoryContent(const QDir& dir)
 {
-    if (!dir.exists()) {
-        return false;
-    }
-    const auto entries = dir.entryInfoList(
-        QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
-    bool removed = false;
-    for (const QFileInfo& entry : entries) {
-        const bool isFolder = entry.isDir() && !entry.isSymLink() && !entry.isJunction();
-        removed = isFolder ? removeDirectoryContent(QDir(entry.filePath())) : removeFileOrLink(entry);
-        if (!removed) {
-            break;
-        }
-    }
-    return removed;
+    return removeEntries(Platform::FolderContent(dir));
 }
 
 qint64 availableDiskSpace(const QString& path)
