@@ -92,12 +92,24 @@ void copyTree(const fs::path& from, const fs::path& to)
     fs::last_write_time(to, fs::last_write_time(from));
 }
 
+/// Folders in which nothing may be changed could not be taken back.
+void makeRemovable(const fs::path& folder)
+{
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, ignored)) {
+        if (entry.is_directory(ignored) && !entry.is_symlink(ignored)) {
+            fs::permissions(entry.path(), fs::perms::owner_all, fs::perm_options::add, ignored);
+        }
+    }
+}
+
 bool moveByCopying(const QString& from, const QString& to)
 {
     const fs::path source = systemPath(from);
     const fs::path target = systemPath(to);
+    const fs::path folder = source.has_parent_path() ? source.parent_path() : fs::path(".");
     struct stat existing = {};
-    if (lstat(target.c_str(), &existing) == 0 || access(source.parent_path().c_str(), W_OK) != 0) {
+    if (lstat(target.c_str(), &existing) == 0 || access(folder.c_str(), W_OK) != 0) {
         return false;
     }
     // Copied in a folder beside the target: the last step is again a rename that replaces nothing.
@@ -105,13 +117,15 @@ bool moveByCopying(const QString& from, const QString& to)
     if (!beside.isValid()) {
         return false;
     }
+    bool moved = false;
     try {
         const fs::path copy = systemPath(beside.path()) / "content";
         copyTree(source, copy);
-        if (!renameInPlace(copy, target)) {
-            return false;
-        }
+        moved = renameInPlace(copy, target);
     } catch (const fs::filesystem_error&) {
+    }
+    if (!moved) {
+        makeRemovable(systemPath(beside.path()));
         return false;
     }
     std::error_code error;
