@@ -42,7 +42,8 @@ enum FileCompareCondition {
 ///
 /// A last part of a path begins after a slash or a backslash on every system; only the system's own separator
 /// divides the parts whose length counts. Blanks and dots at the end, control characters and marks that
-/// change the direction of writing pass. \param name   what the user typed; length is counted in UTF-16 units
+/// change the direction of writing pass.
+/// \param name   what the user typed; length is counted in UTF-16 units
 /// \param isPath true when \a name may hold folders and a drive
 /// \return true when it may be used; the reason for a refusal is not told
 UTILSDLL_EXPORT bool validateFileName(const QString& name, bool isPath);
@@ -62,10 +63,14 @@ UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QFileInfo& a, const QFileInfo& 
 /// On Windows a file may move to another drive, a folder not; renaming to the same name succeeds there.
 /// Elsewhere both move across file systems: the content is copied beside the target, with its times and
 /// permissions, and the target appears whole; then the source is removed. A source that can't be removed
-/// makes the call fail; a file's copy is then withdrawn, a folder's copy stays. \par Blocking Until the move
-/// is complete, which across file systems takes as long as copying. \param from path of an existing file or
-/// folder \param to   path that is not in use; its folder has to exist \return whether the file has its new
-/// name now
+/// makes the call fail; a file's copy is then withdrawn, a folder's copy stays.
+///
+/// \par Blocking
+/// Until the move is complete, which across file systems takes as long as copying.
+///
+/// \param from path of an existing file or folder
+/// \param to   path that is not in use; its folder has to exist
+/// \return whether the file has its new name now
 UTILSDLL_EXPORT bool renameFile(const QString& from, const QString& to);
 
 /// Moves a file or a folder to the recycle bin, without asking.
@@ -74,14 +79,17 @@ UTILSDLL_EXPORT bool renameFile(const QString& from, const QString& to);
 /// On Windows the path goes to the shell as it is: give a full path with backslashes, since the shell deletes
 /// what it is told in a relative path for good. Elsewhere the file goes to the desktop's trash (the user's
 /// own, or that of the file system that holds it) and any program that knows the freedesktop layout restores
-/// it; where the file system offers no trash it is copied into the user's own. \return
-/// FileOperationSucceeded, or FileOperationFailed when there is no such file or the system refuses
+/// it; where the file system offers no trash it is copied into the user's own.
+/// \return FileOperationSucceeded, or FileOperationFailed when there is no such file or the system refuses,
+///         which is logged
 UTILSDLL_EXPORT ErrorCodes moveFileToTrash(const QString& path);
 
 /// Deletes everything in a folder; the folder itself stays, and so does every folder below it, emptied.
 ///
 /// Hidden and system entries are deleted as well. A link is deleted, never followed. Folders are handled
-/// before files, and the first entry that can't be deleted ends the work.
+/// before files, and the first entry that can't be deleted ends the work; so does, elsewhere than on Windows,
+/// a folder nested deeper than the files that the process may have open. Name filters of \a dir keep the
+/// other files in it.
 ///
 /// \warning The result tells little: it is that of the entry handled last. A folder without entries answers
 /// false, and so does any tree with an empty folder in it, since emptying that one answers false and ends the

@@ -98,24 +98,28 @@ std::optional<TrashFolder> trashOfFileSystem(const QString& top)
     return own;
 }
 
+/// At most \a length bytes, and no part of a character at the end.
+QByteArray shortened(const QByteArray& text, int length)
+{
+    if (text.size() <= length) {
+        return text;
+    }
+    while (length > 0 && (static_cast<unsigned char>(text.at(length)) & 0xC0) == 0x80) {
+        --length;
+    }
+    return text.left(length);
+}
+
 /// The first free name is that of the file; then a number stands before its suffix. Shortened where the name
 /// of the info file would become too long.
 QByteArray nameInTrash(const QByteArray& fileName, int attempt)
 {
     const QByteArray number = attempt == 1 ? QByteArray() : '.' + QByteArray::number(attempt);
     const int dot = fileName.lastIndexOf('.');
-    QByteArray suffix = dot > 0 ? fileName.mid(dot) : QByteArray();
-    QByteArray base = dot > 0 ? fileName.left(dot) : fileName;
+    const QByteArray base = dot > 0 ? fileName.left(dot) : fileName;
     const int room = longestFileName - static_cast<int>(sizeof ".trashinfo") - number.size();
-    suffix.truncate(room / 2);
-    if (base.size() + suffix.size() > room) {
-        int length = room - suffix.size();
-        while (length > 0 && (static_cast<unsigned char>(base.at(length)) & 0xC0) == 0x80) {
-            --length; // not in the middle of a character
-        }
-        base.truncate(length);
-    }
-    return base + number + suffix;
+    const QByteArray suffix = shortened(fileName.mid(base.size()), qMax(room / 2, room - base.size()));
+    return shortened(base, room - suffix.size()) + number + suffix;
 }
 
 /// Percent-encoded, so that line feeds, percent signs and bytes that are no text come back as they were.
