@@ -20,8 +20,8 @@ namespace TOLVAN_NAMESPACE
 ///
 /// Each file becomes one entry with the file's own name, without its folder. Of two files of the same name in
 /// different folders both are stored, under that one name, and the result is true; unpacking leaves the one
-/// that comes last in the list. A link is stored as a link, not as the file it points to (elsewhere than on
-/// Windows).
+/// that comes last in the list. A link, to a file or a folder, is stored as a link, not as what it points to
+/// (elsewhere than on Windows).
 ///
 /// The archive is written beside its target and put in its place at the end: on failure there is no archive,
 /// and one that was there before is untouched. Only where the folder refuses new files is an existing archive
@@ -35,7 +35,8 @@ UTILSDLL_EXPORT bool CompressFiles(const QStringList& files, const QString& arch
 ///
 /// An existing file is replaced by the entry of its name, whole: an entry that can't be read in full leaves
 /// the old file as it was. Of two entries of one name the later stays. Permissions are taken from the
-/// archive, but the owner can always read a file and use a folder; times are not taken.
+/// archive where the file system keeps them, but the owner can always read a file and use a folder; times
+/// are not taken.
 ///
 /// Nothing is reported. Entries that fail are left out and the others are written. An entry fails when
 /// - its name leads out of the folder: "..", an absolute path, a drive, through a link;

@@ -32,6 +32,14 @@ constexpr quint16 encryptedFlag = 0x0001;
 constexpr quint16 utf8Flag = 0x0800;
 constexpr int countOverflow = 0xFFFF; // an archive without ZIP64 can't say how many more there are
 
+/// Not every file system knows permissions; a file without them is extracted all the same.
+void setPermissions(QFileDevice& file, QFile::Permissions permissions)
+{
+    if (permissions) {
+        file.setPermissions(permissions | QFile::ReadOwner);
+    }
+}
+
 /// Unpacks one archive into one folder.
 class Extractor
 {
@@ -112,7 +120,11 @@ bool Extractor::extractCurrent()
     }
     const QFile::Permissions permissions = m_entry.getPermissions();
     if (isFolder) {
-        return m_folder.enter(parts) && m_folder.setPermissions(permissions);
+        if (!m_folder.enter(parts)) {
+            return false;
+        }
+        m_folder.setPermissions(permissions);
+        return true;
     }
     const QString fileName = parts.takeLast();
     if (!m_folder.enter(parts)) {
@@ -141,7 +153,8 @@ bool Extractor::extractFile(const QString& target, QFile::Permissions permission
         file.remove();
         return false;
     }
-    return !permissions || file.setPermissions(permissions | QFile::ReadOwner);
+    setPermissions(file, permissions);
+    return true;
 }
 
 bool Extractor::replaceFile(const QString& target, QFile::Permissions permissions)
@@ -154,9 +167,7 @@ bool Extractor::replaceFile(const QString& target, QFile::Permissions permission
     if (!file.open(QIODevice::WriteOnly) || !copyContent(file)) {
         return false;
     }
-    if (permissions) {
-        file.setPermissions(permissions | QFile::ReadOwner);
-    }
+    setPermissions(file, permissions);
     return file.commit();
 }
 

@@ -76,7 +76,7 @@ bool Packer::pack(const QVector<PackedFile>& files)
 bool Packer::packFile(const PackedFile& file)
 {
     const QFileInfo source(file.path);
-    if (!source.exists() || source.isDir() || file.name.isEmpty() ||
+    if (!source.exists() || (source.isDir() && !source.isSymLink()) || file.name.isEmpty() ||
         file.name.toUtf8().size() > longestName) {
         return false;
     }

@@ -63,10 +63,12 @@ QStringList ExtractionFolder::currentRealParts() const
     return real.mid(m_root.size()).split(QLatin1Char('/'), Qt::SkipEmptyParts);
 }
 
-bool ExtractionFolder::setPermissions(QFile::Permissions permissions) const
+void ExtractionFolder::setPermissions(QFile::Permissions permissions) const
 {
     constexpr QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    return !permissions || QFile::setPermissions(m_current, permissions | owner);
+    if (permissions) {
+        QFile::setPermissions(m_current, permissions | owner);
+    }
 }
 
 } // namespace TOLVAN_NAMESPACE

@@ -24,8 +24,9 @@ public:
     const QString& currentPath() const { return m_current; }
     /// Parts of that folder below the root once its links are resolved.
     QStringList currentRealParts() const;
-    /// Gives that folder permissions of an archive; its owner can always use it. None leave it as it is.
-    bool setPermissions(QFile::Permissions permissions) const;
+    /// Gives that folder permissions of an archive; its owner can always use it. None leave it as it is, and
+    /// so does a folder that belongs to somebody else.
+    void setPermissions(QFile::Permissions permissions) const;
 
 private:
     bool step(const QString& path);
