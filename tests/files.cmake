@@ -1,14 +1,15 @@
 # Files, archives and native dialogs. What the system or other programs have to answer runs where they are.
-add_library(files_support STATIC support/FileTree.cpp support/Sandbox.cpp support/ZipWriter.cpp)
+add_library(files_support STATIC
+    support/FileTree.cpp support/FolderTest.h support/Sandbox.cpp support/ZipWriter.cpp)
 target_include_directories(files_support PUBLIC support)
 target_link_libraries(files_support PUBLIC Qt5::Core QuaZip::QuaZip ZLIB::ZLIB PRIVATE project_options)
 tolvan_add_test(tst_filenames)
 tolvan_add_test(tst_filesizes INTERNAL)
 tolvan_add_test(tst_filemanagement LIBRARIES files_support)
-tolvan_add_test(tst_trash LIBRARIES files_support)
 tolvan_add_test(tst_archives INTERNAL LIBRARIES files_support)
 tolvan_add_test(tst_archives_hostile INTERNAL LIBRARIES files_support)
-if(NOT WIN32) # the toolkit's own dialogs; the file manager is asked over the bus
+if(NOT WIN32) # the desktop's trash; the toolkit's own dialogs; the file manager is asked over the bus
+    tolvan_add_test(tst_trash LIBRARIES files_support)
     add_library(dialogs_module MODULE support/dialogs_module.cpp)
     target_link_libraries(dialogs_module PRIVATE Tolvan::UtilsDllTrelioFrame project_options)
     tolvan_add_test(tst_nativedialogs LIBRARIES files_support)
@@ -19,6 +20,6 @@ if(NOT WIN32) # the toolkit's own dialogs; the file manager is asked over the bu
 endif()
 if(WIN32)
     tolvan_add_test(tst_folderpicker_win LIBRARIES files_support)
-    tolvan_add_test(tst_recyclebin_win LIBRARIES files_support ole32 shell32 uuid)
+    tolvan_add_test(tst_recyclebin_win LIBRARIES files_support ole32 shell32 shlwapi uuid)
     set_property(TEST tst_folderpicker_win APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
 endif()

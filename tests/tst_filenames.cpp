@@ -35,7 +35,6 @@ void FileNamesTest::validity_data()
     const auto text = [](const char* utf8) { return QString::fromUtf8(utf8); };
     row("empty", QString(), false, false);
     row("plain", text("photo.jpg"), true, true);
-    row("one blank", text(" "), true, true);
     row("blanks and dots at the end", text("a. ."), true, true);
     row("only separators", text("///"), false, true);
     row("dot", text("."), true, true);
@@ -45,8 +44,6 @@ void FileNamesTest::validity_data()
     row("cleaned away", text("a/../b"), true, true);
     row("leads up", text("../b"), false, false);
     row("drive and path", text("C:/Photos/a.jpg"), false, true);
-    row("drive and path, backslashes", text("C:\\Photos\\a.jpg"), false, true);
-    row("slash", text("a/b"), false, true);
     row("backslash", text("a\\b"), false, true);
     row("network path", text("//server/share/a"), false, true);
     for (const char forbidden : QByteArray("<>\"|?*")) {
@@ -57,19 +54,10 @@ void FileNamesTest::validity_data()
     row("line feed", text("a\nb"), true, true);
     row("surrogate pair", text("\xF0\x9F\x93\xB7.jpg"), true, true);
     row("right-to-left override", text("a\xE2\x80\xAEgpj.exe"), true, true);
-    row("device", text("CON"), false, false);
-    row("device in lower case", text("con"), false, false);
-    row("device in mixed case", text("nUl"), false, false);
     row("device and extension", text("con.txt"), true, true);
     row("device and colon", text("CON:"), false, true);
     row("device and blank", text("CON "), true, true);
-    row("COM0", text("COM0"), true, true);
-    row("COM1", text("COM1"), false, false);
-    row("LPT9", text("lpt9"), false, false);
-    row("COM10", text("COM10"), true, true);
     row("superscript digit", text("COM\xC2\xB9"), true, true);
-    row("device at the end of a path", text("C:/a/nul"), false, false);
-    row("device behind a backslash", text("C:\\a\\nul"), false, false);
     row("device behind a line feed in the folder", text("a\nb/nul"), false, false);
     row("device as a folder", text("C:/nul/a"), false, true);
     row("device and a separator behind it", text("C:/a/nul/"), false, false);
@@ -90,28 +78,21 @@ void FileNamesTest::deviceNamesAsThePatternsSay()
                                            "LPT1|LPT2|LPT3|LPT4|LPT5|LPT6|LPT7|LPT8|LPT9)");
     const QRegExp whole(devices, Qt::CaseInsensitive);
     const QRegExp last(QStringLiteral(".*[/\\\\]") + devices, Qt::CaseInsensitive);
-    const QStringList stems = {QStringLiteral("CON"),
-                               QStringLiteral("con"),
-                               QStringLiteral("CO"),
-                               QStringLiteral("PRN"),
-                               QStringLiteral("aux"),
-                               QStringLiteral("NUL"),
-                               QStringLiteral("COM"),
-                               QStringLiteral("lpt"),
-                               QStringLiteral("LPTT"),
-                               QStringLiteral("\u212AON"),
-                               QString()};
+    const QStringList stems =
+        QStringLiteral("|CON|con|CO|PRN|aux|NUL|COM|lpt|LPTT|\u212AON").split(QLatin1Char('|'));
+    const QStringList ends = QStringLiteral("|0|1|9|10|.|.txt").split(QLatin1Char('|'));
+    const QStringList folders = QStringLiteral("|x|C:/a/|a\\").split(QLatin1Char('|'));
     int refused = 0;
-    for (const QString& before :
-         {QString(), QStringLiteral("a/"), QStringLiteral("a\\"), QStringLiteral("x")}) {
+    for (const QString& before : folders) {
         for (const QString& stem : stems) {
-            for (const QString& end : {QString(), QStringLiteral("0"), QStringLiteral("1"),
-                                       QStringLiteral("9"), QStringLiteral("10"), QStringLiteral(".")}) {
+            for (const QString& end : ends) {
                 const QString name = before + stem + end;
                 const QString path = QDir::toNativeSeparators(QDir::cleanPath(name));
-                const bool expected = !path.isEmpty() && !whole.exactMatch(path) && !last.exactMatch(path);
-                QVERIFY2(validateFileName(name, true) == expected, qPrintable(name));
-                refused += !expected;
+                const bool free = !path.isEmpty() && !whole.exactMatch(path);
+                const bool bare = !path.contains(QRegExp(QStringLiteral("[:/\\\\]")));
+                QVERIFY2(validateFileName(name, false) == (free && bare), qPrintable(name));
+                QVERIFY2(validateFileName(name, true) == (free && !last.exactMatch(path)), qPrintable(name));
+                refused += !free || last.exactMatch(path);
             }
         }
     }

@@ -44,7 +44,6 @@ void FileSizesTest::fileSizes_data()
         QTest::newRow(text) << bytes << QString::fromLatin1(text);
     };
     row(0, "0B");
-    row(1, "1B");
     row(1024, "1024B");
     row(1025, "1.0KB");
     row(1024 * 1024 - 1, "1024.0KB");
@@ -52,7 +51,6 @@ void FileSizesTest::fileSizes_data()
     row(1024 * 1024 + 1, "1.0MB");
     row(1024 * 1024 * 3 / 2, "1.5MB");
     row(Q_INT64_C(5) << 40, "5242880.0MB");
-    row(-1, "-1B");
     row(-2000000, "-2e+06B");
 }
 
@@ -75,8 +73,6 @@ void FileSizesTest::imageSizes_data()
     QTest::newRow("centimetres at 120") << 2 << 120 << QStringLiteral("40.6 x 22.9cm");
     QTest::newRow("millimetres at 96") << 3 << 96 << QStringLiteral("508 x 286mm");
     QTest::newRow("millimetres at 120") << 3 << 120 << QStringLiteral("406 x 229mm");
-    QTest::newRow("unknown") << 4 << 96 << QString();
-    QTest::newRow("negative") << -1 << 96 << QString();
 }
 
 void FileSizesTest::imageSizes()
@@ -84,9 +80,8 @@ void FileSizesTest::imageSizes()
     QFETCH(int, unit);
     QFETCH(int, dpi);
     QTEST(imageSizeText(QSize(1920, 1080), unit, {dpi, dpi}), "text");
-    if (unit == 1) { // across and down have each their own
-        QCOMPARE(imageSizeText(QSize(960, 600), unit, {96, 120}), QStringLiteral("10.00 x 5.00in"));
-    }
+    // Across and down have each their own.
+    QCOMPARE(imageSizeText(QSize(960, 600), 1, {96, 120}), QStringLiteral("10.00 x 5.00in"));
 }
 
 void FileSizesTest::unitOfTheSettings()
@@ -103,14 +98,16 @@ void FileSizesTest::unitOfTheSettings()
 void FileSizesTest::unknownUnitIsReported()
 {
     auto& logger = installedLogger();
-    CSettings().setValue(QStringLiteral("imageSizeUnits"), 4);
-    logger.take();
-    QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20px"));
-    const QStringList lines = logger.take();
-    QCOMPARE(lines.size(), 1);
-    const QString start = QStringLiteral(
-        "E TOLVAN_NAMESPACE::sizeToString: ASSERT in ExPluginShell\\modules\\utilsDll\\FileManagement:");
-    QVERIFY2(lines.constFirst().startsWith(start), qPrintable(lines.constFirst()));
+    for (const int unit : {4, -1}) {
+        CSettings().setValue(QStringLiteral("imageSizeUnits"), unit);
+        logger.take();
+        QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20px"));
+        const QString line = logger.take().join(QLatin1Char('\n'));
+        const QRegularExpression expected(
+            QStringLiteral("^E TOLVAN_NAMESPACE::sizeToString: ASSERT in "
+                           "ExPluginShell\\\\modules\\\\utilsDll\\\\FileManagement:\\d+$"));
+        QVERIFY2(expected.match(line).hasMatch(), qPrintable(line));
+    }
 }
 
 void FileSizesTest::unitWordsAreTranslated()

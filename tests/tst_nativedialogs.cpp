@@ -1,4 +1,5 @@
 #include "FileTree.h"
+#include "FolderTest.h"
 #include "TestMain.h"
 
 #include <utilsDll/NativeDialogs.h>
@@ -14,6 +15,9 @@
 #include <functional>
 
 using namespace TOLVAN_NAMESPACE;
+
+using Ask = std::function<QString(const QString& folder, QString* selectedFilter)>;
+Q_DECLARE_METATYPE(Ask)
 
 namespace
 {
@@ -71,16 +75,16 @@ QPushButton* selectButton(const QFileDialog& dialog)
 
 } // namespace
 
-class NativeDialogsTest : public QObject
+class NativeDialogsTest : public FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void oneObjectForAllModules();
     void standardDialogsGetNoOptions_data();
     void standardDialogsGetNoOptions();
-    void answersAreNotRead();
     void pickerShowsImagesOnly();
     void pickerReturnsTheOpenFolder_data();
     void pickerReturnsTheOpenFolder();
@@ -92,39 +96,49 @@ private:
     QString pick(const std::function<void(QFileDialog&)>& step, bool* shown = nullptr) const
     {
         DialogStep watcher(step);
-        const QString folder =
-            dialogs().getFileBrowserDirectory(nullptr, QStringLiteral("Pictures"), m_folder->path(),
+        const QString picked =
+            dialogs().getFileBrowserDirectory(nullptr, QStringLiteral("Pictures"), folder(),
                                               QStringLiteral("*.jpg *.png"), QFileDialog::ReadOnly);
         if (shown) {
             *shown = watcher.happened();
         }
-        return folder;
+        return picked;
     }
     /// The view that lists the folder, once it shows \a name, and that row.
     static QModelIndex rowOf(const QFileDialog& dialog, const QString& name, QAbstractItemView*& view);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+/// The answers for scripted runs are set for all that follows: every dialog is shown all the same.
+void NativeDialogsTest::initTestCase()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    dialogs().setOpenFileName(QStringLiteral("x"));
+    dialogs().setSaveFileName(QStringLiteral("x"));
+    dialogs().setExistingDirectory(QStringLiteral("x"));
+    dialogs().setOpenFileNames({QStringLiteral("x"), 1});
+}
 
 void NativeDialogsTest::init()
 {
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_folder = std::make_unique<QTemporaryDir>();
-    FileTree::write(m_folder->filePath(QStringLiteral("photo.jpg")));
-    FileTree::write(m_folder->filePath(QStringLiteral("notes.txt")));
-    FileTree::write(m_folder->filePath(QStringLiteral("below/drawing.png")));
+    FolderTest::init();
+    FileTree::write(path("photo.jpg"));
+    FileTree::write(path("notes.txt"));
+    FileTree::write(path("below/drawing.png"));
 }
 
 QModelIndex NativeDialogsTest::rowOf(const QFileDialog& dialog, const QString& name, QAbstractItemView*& view)
 {
     view = dialog.findChild<QListView*>(QStringLiteral("listView"));
-    QModelIndexList rows;
-    for (int i = 0; view && rows.isEmpty() && i < 250; ++i) {
-        QTest::qWait(20); // the folder is read by a thread
-        rows = view->model()->match(view->rootIndex().model()->index(0, 0, view->rootIndex()),
-                                    Qt::DisplayRole, name, 1, Qt::MatchExactly);
+    const auto row = [&] {
+        const QModelIndex root = view->rootIndex();
+        return view->model()
+            ->match(root.model()->index(0, 0, root), Qt::DisplayRole, name, 1, Qt::MatchExactly)
+            .value(0);
+    };
+    if (!QTest::qWaitFor([&] { return row().isValid(); }, 30000)) { // the folder is read by a thread
+        qWarning("%s is not shown", qPrintable(name));
     }
-    return rows.value(0);
+    return row();
 }
 
 void NativeDialogsTest::oneObjectForAllModules()
@@ -138,65 +152,44 @@ void NativeDialogsTest::oneObjectForAllModules()
 
 void NativeDialogsTest::standardDialogsGetNoOptions_data()
 {
-    QTest::addColumn<int>("which");
+    QTest::addColumn<Ask>("ask");
     QTest::addColumn<int>("fileMode");
-    QTest::addColumn<bool>("foldersOnly");
-    QTest::newRow("open file") << 0 << int(QFileDialog::ExistingFile) << false;
-    QTest::newRow("open files") << 1 << int(QFileDialog::ExistingFiles) << false;
-    QTest::newRow("save file") << 2 << int(QFileDialog::AnyFile) << false;
-    QTest::newRow("existing folder") << 3 << -1 << true;
-}
-
-void NativeDialogsTest::standardDialogsGetNoOptions()
-{
-    QFETCH(int, which);
-    QFETCH(int, fileMode);
-    QFETCH(bool, foldersOnly);
-    DialogStep step([&](QFileDialog& dialog) {
-        QVERIFY(fileMode < 0 || int(dialog.fileMode()) == fileMode);
-        QCOMPARE(dialog.testOption(QFileDialog::ShowDirsOnly), foldersOnly);
-        QVERIFY(!dialog.testOption(QFileDialog::ReadOnly));
-        QVERIFY(!dialog.testOption(QFileDialog::DontConfirmOverwrite));
-        QVERIFY(!dialog.testOption(QFileDialog::HideNameFilterDetails));
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Title"));
-        QCOMPARE(dialog.directory(), QDir(m_folder->path()));
-        if (!foldersOnly) {
-            QCOMPARE(dialog.nameFilters(),
-                     QStringList({QStringLiteral("Text (*.txt)"), QStringLiteral("All (*)")}));
-            QCOMPARE(dialog.selectedNameFilter(), QStringLiteral("All (*)"));
-        }
-    });
     const QFileDialog::Options options =
         QFileDialog::ReadOnly | QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails;
     const QString title = QStringLiteral("Title");
     const QString filter = QStringLiteral("Text (*.txt);;All (*)");
-    QString chosen = QStringLiteral("All (*)");
-    const QString folder = m_folder->path();
-    switch (which) {
-    case 0:
-        QVERIFY(dialogs().getOpenFileName(nullptr, title, folder, filter, &chosen, options).isEmpty());
-        break;
-    case 1:
-        QVERIFY(dialogs().getOpenFileNames(nullptr, title, folder, filter, &chosen, options).isEmpty());
-        break;
-    case 2:
-        QVERIFY(dialogs().getSaveFileName(nullptr, title, folder, filter, &chosen, options).isEmpty());
-        break;
-    default:
-        QVERIFY(dialogs().getExistingDirectory(nullptr, title, folder, options).isEmpty());
-    }
-    QVERIFY(step.happened());
+    const auto row = [](const char* name, QFileDialog::FileMode mode, const Ask& ask) {
+        QTest::newRow(name) << ask << int(mode);
+    };
+    row("open file", QFileDialog::ExistingFile, [=](const QString& in, QString* chosen) {
+        return dialogs().getOpenFileName(nullptr, title, in, filter, chosen, options);
+    });
+    row("open files", QFileDialog::ExistingFiles, [=](const QString& in, QString* chosen) {
+        return dialogs().getOpenFileNames(nullptr, title, in, filter, chosen, options).join(QLatin1Char(','));
+    });
+    row("save file", QFileDialog::AnyFile, [=](const QString& in, QString* chosen) {
+        return dialogs().getSaveFileName(nullptr, title, in, filter, chosen, options);
+    });
+    row("existing folder", QFileDialog::Directory, [=](const QString& in, QString*) {
+        return dialogs().getExistingDirectory(nullptr, title, in, options);
+    });
 }
 
-void NativeDialogsTest::answersAreNotRead()
+void NativeDialogsTest::standardDialogsGetNoOptions()
 {
-    dialogs().setOpenFileName(QStringLiteral("x"));
-    dialogs().setSaveFileName(QStringLiteral("x"));
-    dialogs().setExistingDirectory(QStringLiteral("x"));
-    dialogs().setOpenFileNames({QStringLiteral("x"), 1});
-    DialogStep step([](QFileDialog&) {});
-    QVERIFY(
-        dialogs().getOpenFileName(nullptr, QString(), m_folder->path(), QString(), nullptr, {}).isEmpty());
+    QFETCH(Ask, ask);
+    QFETCH(int, fileMode);
+    const bool forFolders = fileMode == QFileDialog::Directory;
+    DialogStep step([&](QFileDialog& dialog) {
+        QVERIFY(forFolders || dialog.fileMode() == fileMode);
+        const QFileDialog::Options expected = forFolders ? QFileDialog::ShowDirsOnly : QFileDialog::Options();
+        QCOMPARE(dialog.options() & ~QFileDialog::DontUseNativeDialog, expected);
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Title"));
+        QCOMPARE(dialog.directory(), QDir(folder()));
+        QVERIFY(forFolders || dialog.selectedNameFilter() == QLatin1String("All (*)"));
+    });
+    QString chosen = QStringLiteral("All (*)");
+    QCOMPARE(ask(folder(), &chosen), QString());
     QVERIFY(step.happened());
 }
 
@@ -217,20 +210,20 @@ void NativeDialogsTest::pickerShowsImagesOnly()
 void NativeDialogsTest::pickerReturnsTheOpenFolder_data()
 {
     QTest::addColumn<QString>("steps");
-    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("below");
     QTest::newRow("at once") << QString() << QString();
     QTest::newRow("a file double-clicked") << QStringLiteral("double photo.jpg") << QString();
     QTest::newRow("Enter on a file") << QStringLiteral("enter photo.jpg") << QString();
     QTest::newRow("a file typed") << QStringLiteral("type photo.jpg") << QString();
-    QTest::newRow("a folder double-clicked") << QStringLiteral("double below") << QStringLiteral("/below");
-    QTest::newRow("a folder typed") << QStringLiteral("type below") << QStringLiteral("/below");
+    QTest::newRow("a folder double-clicked") << QStringLiteral("double below") << QStringLiteral("below");
+    QTest::newRow("a folder typed") << QStringLiteral("type below") << QStringLiteral("below");
     QTest::newRow("a folder marked only") << QStringLiteral("click below") << QString();
 }
 
 void NativeDialogsTest::pickerReturnsTheOpenFolder()
 {
     QFETCH(QString, steps);
-    QFETCH(QString, folder);
+    QFETCH(QString, below);
     const QString what = steps.section(QLatin1Char(' '), 0, 0);
     const QString name = steps.section(QLatin1Char(' '), 1);
     const QString picked = pick([&](QFileDialog& dialog) {
@@ -251,7 +244,7 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder()
             }
         }
         QVERIFY(dialog.isVisible());
-        QTRY_COMPARE(dialog.directory(), QDir(m_folder->path() + folder));
+        QTRY_COMPARE(dialog.directory(), QDir(path(below)));
         if (steps.isEmpty()) {
             selectButton(dialog)->setFocus();
             QTest::keyClick(selectButton(dialog), Qt::Key_Space);
@@ -260,7 +253,7 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder()
         }
         QVERIFY(!dialog.isVisible());
     });
-    QCOMPARE(picked, QDir::toNativeSeparators(m_folder->path() + folder));
+    QCOMPARE(picked, QDir::toNativeSeparators(QDir::cleanPath(path(below))));
 }
 
 void NativeDialogsTest::pickerCancelled()
@@ -280,16 +273,13 @@ void NativeDialogsTest::onePickerAtATime()
         QTest::mouseClick(selectButton(dialog), Qt::LeftButton);
     });
     QVERIFY(second.isEmpty());
-    QCOMPARE(first, QDir::toNativeSeparators(m_folder->path()));
+    QCOMPARE(first, QDir::toNativeSeparators(folder()));
 }
 
 void NativeDialogsTest::pickerNeedsItsFolder()
 {
     DialogStep step([](QFileDialog&) {});
-    QVERIFY(dialogs()
-                .getFileBrowserDirectory(nullptr, QString(), m_folder->filePath(QStringLiteral("missing")),
-                                         QString(), {})
-                .isEmpty());
+    QVERIFY(dialogs().getFileBrowserDirectory(nullptr, QString(), path("missing"), QString(), {}).isEmpty());
     QVERIFY(!step.happened());
 }
 

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <shlobj.h>
+#include <shlwapi.h>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -30,17 +31,14 @@ QStringList recycleBin()
         while (items->Next(1, &item, nullptr) == S_OK) {
             STRRET text = {};
             wchar_t name[MAX_PATH] = {};
-            if (SUCCEEDED(bin->GetDisplayNameOf(item, SHGDN_INFOLDER, &text)) && text.uType == STRRET_WSTR) {
-                names += QString::fromWCharArray(text.pOleStr);
-                CoTaskMemFree(text.pOleStr);
-            } else {
+            if (SUCCEEDED(bin->GetDisplayNameOf(item, SHGDN_INFOLDER, &text)) &&
+                SUCCEEDED(StrRetToBufW(&text, item, name, MAX_PATH))) {
                 names += QString::fromWCharArray(name);
             }
             CoTaskMemFree(item);
         }
     }
-    for (IUnknown* object :
-         {static_cast<IUnknown*>(items), static_cast<IUnknown*>(bin), static_cast<IUnknown*>(desktop)}) {
+    for (IUnknown* object : std::initializer_list<IUnknown*>{items, bin, desktop}) {
         if (object) {
             object->Release();
         }
@@ -58,14 +56,24 @@ class RecycleBinTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(SUCCEEDED(CoInitialize(nullptr))); }
+    void missingFile();
     void binHoldsTheFile_data();
     void binHoldsTheFile();
-    void openFileStays();
+    void openFile();
     void cleanupTestCase() { CoUninitialize(); }
 
 private:
     QTemporaryDir m_folder;
 };
+
+void RecycleBinTest::missingFile()
+{
+    const QStringList before = recycleBin();
+    for (const QString& path : {QString(), m_folder.filePath(QStringLiteral("missing"))}) {
+        QCOMPARE(moveFileToTrash(path), FileOperationFailed);
+    }
+    QCOMPARE(recycleBin(), before);
+}
 
 void RecycleBinTest::binHoldsTheFile_data()
 {
@@ -90,15 +98,19 @@ void RecycleBinTest::binHoldsTheFile()
     }
 }
 
-void RecycleBinTest::openFileStays()
+/// The system refuses a file that somebody has open for himself.
+void RecycleBinTest::openFile()
 {
     const QString path = QDir::toNativeSeparators(FileTree::write(m_folder.filePath(QStringLiteral("held"))));
     const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(path.utf16()), GENERIC_READ, 0, nullptr,
                                     OPEN_EXISTING, 0, nullptr);
     QVERIFY(held != INVALID_HANDLE_VALUE);
+    const int before = recycleBin().size();
     const ErrorCodes result = moveFileToTrash(path);
     CloseHandle(held);
-    QVERIFY(result == FileOperationSucceeded || QFile::exists(path));
+    QCOMPARE(result, FileOperationFailed);
+    QVERIFY(QFile::exists(path));
+    QCOMPARE(recycleBin().size(), before);
 }
 
 TOLVAN_CORE_TEST_MAIN(RecycleBinTest)

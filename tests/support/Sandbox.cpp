@@ -1,8 +1,21 @@
 #include "Sandbox.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+bool underWine()
+{
+#ifdef Q_OS_WIN
+    return GetProcAddress(GetModuleHandleW(L"ntdll"), "wine_get_version") != nullptr;
+#else
+    return false;
+#endif
+}
 
 #ifdef Q_OS_LINUX
 #include <sched.h>
@@ -33,6 +46,9 @@ SecondVolume::SecondVolume()
     : m_path(QDir::temp().filePath(QStringLiteral("volume")))
 {
     QDir().mkpath(m_path);
+    // Asked for while the answer is right, and remembered: the program was loaded from a file of the mounts
+    // that are left here, whose path then begins at the machine's root, also for a process in a chroot.
+    QCoreApplication::applicationFilePath();
     if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("tmpfs", QFile::encodeName(m_path).constData(), "tmpfs", 0, "mode=777") != 0) {
         m_problem = QStringLiteral("a second file system can't be mounted (only root may): ") +

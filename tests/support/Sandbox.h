@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+/// Whether this is a Windows program that runs under Wine.
+bool underWine();
+
 /// Turns a root process into an ordinary user ("nobody") while it lives, so that permissions mean something.
 /// Does nothing for a process that is no root, nor on Windows.
 class OrdinaryUser
@@ -18,7 +21,8 @@ private:
     bool m_changed = false;
 };
 
-/// A file system of the process's own, in memory, which nobody else sees. Made before any thread is started.
+/// A file system of the process's own, in memory, which nobody else sees. Made before any thread is started,
+/// after the application object.
 class SecondVolume
 {
 public:
