@@ -20,6 +20,6 @@ if(NOT WIN32) # the desktop's trash; the toolkit's own dialogs; the file manager
 endif()
 if(WIN32)
     tolvan_add_test(tst_folderpicker_win LIBRARIES files_support)
-    tolvan_add_test(tst_recyclebin_win LIBRARIES files_support ole32 shell32 shlwapi uuid)
+    tolvan_add_test(tst_recyclebin_win LIBRARIES files_support shell32)
     set_property(TEST tst_folderpicker_win APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
 endif()

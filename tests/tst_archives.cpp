@@ -32,7 +32,6 @@ private Q_SLOTS:
     void emptyAndMissingArchives();
     void existingFilesAreReplacedWhole();
     void permissions();
-    void foldersOfOthers();
     void linksInside();
     void linksArePacked();
     void progressAndCancelling();
@@ -267,6 +266,8 @@ void ArchivesTest::existingFilesAreReplacedWhole()
                                {QStringLiteral("last"), "last"}}));
 }
 
+/// The owner can always use what was unpacked. A folder of somebody else's can't be changed, but written
+/// into.
 void ArchivesTest::permissions()
 {
     QVERIFY(unpack(zipOf({{"locked/", "", 0, 040000 | 0555}, {"locked/a", "a", 8, 0100000 | 0222}})));
@@ -276,21 +277,13 @@ void ArchivesTest::permissions()
     QVERIFY(!QFileInfo(path("out/locked/a")).permission(QFile::ReadGroup));
     QVERIFY(!QFileInfo(path("out/locked")).permission(QFile::WriteGroup));
 #endif
-}
-
-/// Their permissions can't be changed, but they can be written into.
-void ArchivesTest::foldersOfOthers()
-{
     QVERIFY(QDir().mkpath(path("out/shared")));
-    for (const QString& open : {QFileInfo(QDir::tempPath()).path(), folder(), path("out/shared")}) {
+    FileTree::write(path("test.zip"), zipOf({{"shared/", "", 0, 040755}, {"shared/a", "a"}}));
+    for (const QString& open : {folder(), path("out/shared")}) {
         QVERIFY(QFile::setPermissions(open, QFile::Permissions(0x7777)));
     }
-    FileTree::write(path("test.zip"), zipOf({{"shared/", "", 0, 040755}, {"shared/a", "a"}}));
-    {
-        const OrdinaryUser user;
-        QVERIFY(extractEntries(path("test.zip"), path("out")));
-    }
-    QCOMPARE(FileTree::read(path("out/shared/a")), QByteArray("a"));
+    const OrdinaryUser user;
+    QVERIFY(extractEntries(path("test.zip"), path("out")));
 }
 
 void ArchivesTest::linksInside()
@@ -301,11 +294,11 @@ void ArchivesTest::linksInside()
     QVERIFY(QDir().mkpath(path("out")));
     const QByteArray zip = zipOf({{"a/file", "content"},
                                   {"link", "a/file", 0, 0120777},
-                                  {"b/up", "../a", 8, 0120777},
+                                  {"b/up", "./../a", 8, 0120777},
                                   {"b/up/through", "inside"}});
     const Tree expected = {{QStringLiteral("a/"), "folder"},      {QStringLiteral("a/file"), "content"},
                            {QStringLiteral("link"), "-> a/file"}, {QStringLiteral("b/"), "folder"},
-                           {QStringLiteral("b/up"), "-> ../a"},   {QStringLiteral("a/through"), "inside"}};
+                           {QStringLiteral("b/up"), "-> ./../a"}, {QStringLiteral("a/through"), "inside"}};
     for (int i = 0; i < 2; ++i) { // the second time over what is there
         QVERIFY(unpack(zip));
         QCOMPARE(unpacked(), expected);

@@ -8,6 +8,7 @@
 
 #include <QDateTime>
 #include <QProcess>
+#include <QStorageInfo>
 
 #include <atomic>
 
@@ -203,7 +204,6 @@ void FileManagementTest::refusedAcrossFileSystems()
     FileTree::write(path("locked/file"));
     permit(path("locked"), 0x5555);
     permit(folder(), 0x7777);
-    permit(QFileInfo(QDir::tempPath()).path(), 0x7755);
     const auto before = FileTree::of(m_volume.path());
     {
         const OrdinaryUser user;
@@ -283,7 +283,6 @@ void FileManagementTest::emptyingStopsAtTheFirstFailure()
     FileTree::write(path("z"));
     permit(folder(), 0x7777);
     permit(path("locked"), 0x5555);
-    permit(QFileInfo(QDir::tempPath()).path(), 0x7755);
     {
         const OrdinaryUser user;
         QVERIFY(!removeDirectoryContent(QDir(folder())));
@@ -304,8 +303,11 @@ void FileManagementTest::emptyingMeetsAnOpenFile()
 
 void FileManagementTest::freeSpace()
 {
-    QVERIFY(availableDiskSpace(folder()) > 0);
     QCOMPARE(availableDiskSpace(path("not there")), qint64(-1));
+    if (!QStorageInfo(folder()).isValid()) {
+        QSKIP("the toolkit knows no volume here: a chroot whose root is not mounted by itself");
+    }
+    QVERIFY(availableDiskSpace(folder()) > 0);
 }
 
 void FileManagementTest::showingInAMissingFolderIsReported()

@@ -27,13 +27,17 @@ class FileSizesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QVERIFY(QCoreApplication::installTranslator(&m_translator)); }
     void fileSizes_data();
     void fileSizes();
     void imageSizes_data();
     void imageSizes();
     void unitOfTheSettings();
     void unknownUnitIsReported();
-    void unitWordsAreTranslated();
+    void cleanupTestCase() { QCoreApplication::removeTranslator(&m_translator); }
+
+private:
+    MarkingTranslator m_translator;
 };
 
 void FileSizesTest::fileSizes_data()
@@ -43,15 +47,15 @@ void FileSizesTest::fileSizes_data()
     const auto row = [](qint64 bytes, const char* text) {
         QTest::newRow(text) << bytes << QString::fromLatin1(text);
     };
-    row(0, "0B");
-    row(1024, "1024B");
-    row(1025, "1.0KB");
-    row(1024 * 1024 - 1, "1024.0KB");
-    row(1024 * 1024, "1024.0KB");
-    row(1024 * 1024 + 1, "1.0MB");
-    row(1024 * 1024 * 3 / 2, "1.5MB");
-    row(Q_INT64_C(5) << 40, "5242880.0MB");
-    row(-2000000, "-2e+06B");
+    row(0, "0<B>");
+    row(1024, "1024<B>");
+    row(1025, "1.0<KB>");
+    row(1024 * 1024 - 1, "1024.0<KB>");
+    row(1024 * 1024, "1024.0<KB>");
+    row(1024 * 1024 + 1, "1.0<MB>");
+    row(1024 * 1024 * 3 / 2, "1.5<MB>");
+    row(Q_INT64_C(5) << 40, "5242880.0<MB>");
+    row(-2000000, "-2e+06<B>");
 }
 
 void FileSizesTest::fileSizes()
@@ -65,14 +69,14 @@ void FileSizesTest::imageSizes_data()
     QTest::addColumn<int>("unit");
     QTest::addColumn<int>("dpi");
     QTest::addColumn<QString>("text");
-    QTest::newRow("pixels") << 0 << 96 << QStringLiteral("1920 x 1080px");
-    QTest::newRow("pixels at 120") << 0 << 120 << QStringLiteral("1920 x 1080px");
-    QTest::newRow("inches at 96") << 1 << 96 << QStringLiteral("20.00 x 11.25in");
-    QTest::newRow("inches at 120") << 1 << 120 << QStringLiteral("16.00 x 9.00in");
-    QTest::newRow("centimetres at 96") << 2 << 96 << QStringLiteral("50.8 x 28.6cm");
-    QTest::newRow("centimetres at 120") << 2 << 120 << QStringLiteral("40.6 x 22.9cm");
-    QTest::newRow("millimetres at 96") << 3 << 96 << QStringLiteral("508 x 286mm");
-    QTest::newRow("millimetres at 120") << 3 << 120 << QStringLiteral("406 x 229mm");
+    QTest::newRow("pixels") << 0 << 96 << QStringLiteral("1920 x 1080<px>");
+    QTest::newRow("pixels at 120") << 0 << 120 << QStringLiteral("1920 x 1080<px>");
+    QTest::newRow("inches at 96") << 1 << 96 << QStringLiteral("20.00 x 11.25<in>");
+    QTest::newRow("inches at 120") << 1 << 120 << QStringLiteral("16.00 x 9.00<in>");
+    QTest::newRow("centimetres at 96") << 2 << 96 << QStringLiteral("50.8 x 28.6<cm>");
+    QTest::newRow("centimetres at 120") << 2 << 120 << QStringLiteral("40.6 x 22.9<cm>");
+    QTest::newRow("millimetres at 96") << 3 << 96 << QStringLiteral("508 x 286<mm>");
+    QTest::newRow("millimetres at 120") << 3 << 120 << QStringLiteral("406 x 229<mm>");
 }
 
 void FileSizesTest::imageSizes()
@@ -81,13 +85,13 @@ void FileSizesTest::imageSizes()
     QFETCH(int, dpi);
     QTEST(imageSizeText(QSize(1920, 1080), unit, {dpi, dpi}), "text");
     // Across and down have each their own.
-    QCOMPARE(imageSizeText(QSize(960, 600), 1, {96, 120}), QStringLiteral("10.00 x 5.00in"));
+    QCOMPARE(imageSizeText(QSize(960, 600), 1, {96, 120}), QStringLiteral("10.00 x 5.00<in>"));
 }
 
 void FileSizesTest::unitOfTheSettings()
 {
     CSettings().remove(QStringLiteral("imageSizeUnits"));
-    QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20px"));
+    QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20<px>"));
     CSettings().setValue(QStringLiteral("imageSizeUnits"), 1);
     const QScreen* const screen = QGuiApplication::primaryScreen();
     QVERIFY(screen);
@@ -101,28 +105,13 @@ void FileSizesTest::unknownUnitIsReported()
     for (const int unit : {4, -1}) {
         CSettings().setValue(QStringLiteral("imageSizeUnits"), unit);
         logger.take();
-        QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20px"));
+        QCOMPARE(sizeToString(QSize(30, 20)), QStringLiteral("30 x 20<px>"));
         const QString line = logger.take().join(QLatin1Char('\n'));
         const QRegularExpression expected(
             QStringLiteral("^E TOLVAN_NAMESPACE::sizeToString: ASSERT in "
                            "ExPluginShell\\\\modules\\\\utilsDll\\\\FileManagement:\\d+$"));
         QVERIFY2(expected.match(line).hasMatch(), qPrintable(line));
     }
-}
-
-void FileSizesTest::unitWordsAreTranslated()
-{
-    MarkingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCOMPARE(fileSizeToString(7), QStringLiteral("7<B>"));
-    QCOMPARE(fileSizeToString(2048), QStringLiteral("2.0<KB>"));
-    QCOMPARE(fileSizeToString(3 << 20), QStringLiteral("3.0<MB>"));
-    const QStringList units = {QStringLiteral("<px>"), QStringLiteral("<in>"), QStringLiteral("<cm>"),
-                               QStringLiteral("<mm>")};
-    for (int unit = 0; unit < units.size(); ++unit) {
-        QVERIFY(imageSizeText(QSize(1, 1), unit, {96, 96}).endsWith(units.at(unit)));
-    }
-    QCoreApplication::removeTranslator(&translator);
 }
 
 TOLVAN_GUI_TEST_MAIN(FileSizesTest)

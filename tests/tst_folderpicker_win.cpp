@@ -1,4 +1,5 @@
 #include "FileTree.h"
+#include "FolderTest.h"
 #include "TestMain.h"
 
 #include <utilsDll/NativeDialogs.h>
@@ -31,59 +32,63 @@ HWND waitForPicker()
 } // namespace
 
 /// The system's own dialog, driven from a second thread as a user would.
-class FolderPickerTest : public QObject
+class FolderPickerTest : public FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void selectFolder_data();
     void selectFolder();
-    void spaceBarOnTheButton();
     void choosingAFileKeepsItOpen();
-    void cancelled();
     void missingFolder();
 
 private:
-    QString pick(const QString& folder, const std::function<void(HWND)>& steps, bool* shown = nullptr)
+    /// Runs the steps again and again until the picker has gone: it may not be ready for the first ones.
+    QString pick(const std::function<void(HWND)>& steps) const
     {
-        HWND dialog = nullptr;
+        bool shown = false;
         std::thread user([&] {
-            dialog = waitForPicker();
-            if (dialog) {
-                Sleep(300); // its list is filled
+            const HWND dialog = waitForPicker();
+            shown = dialog != nullptr;
+            for (int i = 0; i < 100 && IsWindow(dialog); ++i) {
                 steps(dialog);
+                Sleep(200);
             }
         });
         const QString chosen = Singleton<CNativeDialogs>::instance().getFileBrowserDirectory(
-            nullptr, QStringLiteral("Test picker"), folder, QStringLiteral("*.jpg *.png"), {});
+            nullptr, QStringLiteral("Test picker"), folder(), QStringLiteral("*.jpg *.png"), {});
         user.join();
-        if (shown) {
-            *shown = dialog != nullptr;
-        }
-        return chosen;
+        return shown ? chosen : QStringLiteral("never shown");
     }
-
-    QTemporaryDir m_folder;
 };
+
+void FolderPickerTest::selectFolder_data()
+{
+    QTest::addColumn<int>("control"); // 0 is the dialog itself
+    QTest::addColumn<uint>("message");
+    QTest::addColumn<uint>("key");
+    QTest::addColumn<bool>("chosen");
+    QTest::newRow("mouse on the button") << IDOK << uint(WM_LBUTTONUP) << 0u << true;
+    QTest::newRow("space bar on the button") << IDOK << uint(WM_KEYUP) << uint(VK_SPACE) << true;
+    QTest::newRow("closed") << 0 << uint(WM_CLOSE) << 0u << false;
+}
 
 void FolderPickerTest::selectFolder()
 {
-    FileTree::write(m_folder.filePath(QStringLiteral("photo.jpg")));
-    const QString chosen = pick(
-        m_folder.path(), [](HWND dialog) { PostMessageW(GetDlgItem(dialog, IDOK), WM_LBUTTONUP, 0, 0); });
-    QCOMPARE(chosen, QDir::toNativeSeparators(m_folder.path()));
-}
-
-void FolderPickerTest::spaceBarOnTheButton()
-{
-    const QString chosen = pick(
-        m_folder.path(), [](HWND dialog) { PostMessageW(GetDlgItem(dialog, IDOK), WM_KEYUP, VK_SPACE, 0); });
-    QCOMPARE(chosen, QDir::toNativeSeparators(m_folder.path()));
+    QFETCH(int, control);
+    QFETCH(uint, message);
+    QFETCH(uint, key);
+    QFETCH(bool, chosen);
+    const QString picked = pick(
+        [&](HWND dialog) { PostMessageW(control ? GetDlgItem(dialog, control) : dialog, message, key, 0); });
+    QCOMPARE(picked, chosen ? QDir::toNativeSeparators(folder()) : QString());
 }
 
 void FolderPickerTest::choosingAFileKeepsItOpen()
 {
+    FileTree::write(path("photo.jpg"));
     bool stayed = false;
-    const QString chosen = pick(m_folder.path(), [&](HWND dialog) {
+    const QString picked = pick([&](HWND dialog) {
         const HWND name = GetDlgItem(dialog, 1148); // the common dialog's field for the name
         SendMessageW(name ? name : dialog, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"photo.jpg"));
         SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED),
@@ -93,24 +98,15 @@ void FolderPickerTest::choosingAFileKeepsItOpen()
         PostMessageW(dialog, WM_CLOSE, 0, 0);
     });
     QVERIFY(stayed);
-    QVERIFY(chosen.isEmpty());
-}
-
-void FolderPickerTest::cancelled()
-{
-    bool shown = false;
-    QVERIFY(pick(
-                m_folder.path(), [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); }, &shown)
-                .isEmpty());
-    QVERIFY(shown);
+    QCOMPARE(picked, QString());
 }
 
 void FolderPickerTest::missingFolder()
 {
-    QVERIFY(Singleton<CNativeDialogs>::instance()
-                .getFileBrowserDirectory(nullptr, QStringLiteral("Never shown"),
-                                         m_folder.filePath(QStringLiteral("missing")), QString(), {})
-                .isEmpty());
+    QVERIFY(
+        Singleton<CNativeDialogs>::instance()
+            .getFileBrowserDirectory(nullptr, QStringLiteral("Never shown"), path("missing"), QString(), {})
+            .isEmpty());
 }
 
 TOLVAN_GUI_TEST_MAIN(FolderPickerTest)

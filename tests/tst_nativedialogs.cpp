@@ -4,7 +4,6 @@
 
 #include <utilsDll/NativeDialogs.h>
 
-#include <QDialogButtonBox>
 #include <QLibrary>
 #include <QLineEdit>
 #include <QListView>
@@ -28,24 +27,22 @@ CNativeDialogs& dialogs()
 }
 
 /// Runs a step as soon as a file dialog is open and ready; closes the dialog if the step did not.
-class DialogStep : public QObject
+class DialogStep
 {
-    Q_OBJECT
-
 public:
     explicit DialogStep(std::function<void(QFileDialog&)> step)
         : m_step(std::move(step))
     {
-        connect(&m_timer, SIGNAL(timeout()), this, SLOT(look()));
+        m_timer.callOnTimeout([this] { look(); });
         m_timer.start(20);
     }
     bool happened() const { return m_happened; }
 
-private Q_SLOTS:
+private:
     void look()
     {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible() || m_happened) {
+        if (!dialog || !dialog->isVisible()) {
             return;
         }
         m_timer.stop();
@@ -56,7 +53,6 @@ private Q_SLOTS:
         }
     }
 
-private:
     std::function<void(QFileDialog&)> m_step;
     QTimer m_timer;
     bool m_happened = false;
@@ -64,13 +60,7 @@ private:
 
 QPushButton* selectButton(const QFileDialog& dialog)
 {
-    const auto buttons = dialog.findChildren<QPushButton*>();
-    for (QPushButton* const button : buttons) {
-        if (button->text() == QLatin1String("Select Folder") && button->isVisible()) {
-            return button;
-        }
-    }
-    return nullptr;
+    return dialog.findChild<QPushButton*>(QStringLiteral("selectFolderButton"));
 }
 
 } // namespace
@@ -198,7 +188,9 @@ void NativeDialogsTest::pickerShowsImagesOnly()
     pick([&](QFileDialog& dialog) {
         QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Image Files (*.jpg *.png)")));
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Pictures"));
-        QVERIFY(selectButton(dialog) && selectButton(dialog)->isEnabled());
+        QVERIFY(selectButton(dialog) && selectButton(dialog)->isVisible());
+        QCOMPARE(selectButton(dialog)->text(), QStringLiteral("Select Folder"));
+        QVERIFY(selectButton(dialog)->isEnabled());
         QAbstractItemView* view = nullptr;
         QVERIFY(rowOf(dialog, QStringLiteral("photo.jpg"), view).isValid());
         QCOMPARE(view->model()->rowCount(view->rootIndex()), 2); // and the folder
@@ -211,13 +203,16 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder_data()
 {
     QTest::addColumn<QString>("steps");
     QTest::addColumn<QString>("below");
-    QTest::newRow("at once") << QString() << QString();
-    QTest::newRow("a file double-clicked") << QStringLiteral("double photo.jpg") << QString();
-    QTest::newRow("Enter on a file") << QStringLiteral("enter photo.jpg") << QString();
-    QTest::newRow("a file typed") << QStringLiteral("type photo.jpg") << QString();
-    QTest::newRow("a folder double-clicked") << QStringLiteral("double below") << QStringLiteral("below");
-    QTest::newRow("a folder typed") << QStringLiteral("type below") << QStringLiteral("below");
-    QTest::newRow("a folder marked only") << QStringLiteral("click below") << QString();
+    const auto row = [](const char* title, const char* steps, const char* below) {
+        QTest::newRow(title) << QString::fromLatin1(steps) << QString::fromLatin1(below);
+    };
+    row("at once", "", "");
+    row("a file double-clicked", "double photo.jpg", "");
+    row("Enter on a file", "enter photo.jpg", "");
+    row("a file typed", "type photo.jpg", "");
+    row("a folder double-clicked", "double below", "below");
+    row("a folder typed", "type below", "below");
+    row("a folder marked only", "click below", "");
 }
 
 void NativeDialogsTest::pickerReturnsTheOpenFolder()

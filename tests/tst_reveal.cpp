@@ -1,4 +1,5 @@
 #include "FileTree.h"
+#include "FolderTest.h"
 #include "TestMain.h"
 
 #include <utilsDll/FileManagement.h>
@@ -52,7 +53,7 @@ public Q_SLOTS:
     void open(const QUrl& url) { opened += url; }
 };
 
-class RevealTest : public QObject
+class RevealTest : public FolderTest
 {
     Q_OBJECT
 
@@ -63,13 +64,13 @@ private Q_SLOTS:
     void busWithoutFileManager();
     void exactAddresses();
     void slowFileManager();
-    void busThatDied();
+    void busThatDied(); // the last: the bus library knows one address in the life of a process
 
 private:
     void startBus();
-    QString path(const QString& name) const { return m_folder.filePath(name); }
+    void nobodyShowsFiles();
+    static QDBusConnection fileManager(const QString& name, FileManagerStub& stub);
 
-    QTemporaryDir m_folder;
     FolderOpener m_opener;
     QProcess m_bus;
     QThread m_thread;
@@ -82,40 +83,61 @@ void RevealTest::initTestCase()
 
 void RevealTest::init()
 {
+    FolderTest::init();
     m_opener.opened.clear();
+}
+
+QDBusConnection RevealTest::fileManager(const QString& name, FileManagerStub& stub)
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    if (!bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &stub,
+                            QDBusConnection::ExportScriptableSlots) ||
+        !bus.registerService(QStringLiteral("org.freedesktop.FileManager1"))) {
+        qFatal("%s", qPrintable(bus.lastError().message()));
+    }
+    return bus;
 }
 
 void RevealTest::startBus()
 {
-    if (m_bus.state() != QProcess::NotRunning) {
-        return;
+    if (m_bus.state() == QProcess::NotRunning) {
+        m_bus.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                                    QStringLiteral("--print-address")});
+        QVERIFY2(m_bus.waitForReadyRead(30000), "dbus-daemon does not start");
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
     }
-    m_bus.start(QStringLiteral("dbus-daemon"),
-                {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
-    QVERIFY2(m_bus.waitForReadyRead(10000), "dbus-daemon does not start");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
+}
+
+/// The folder is opened, and without much waiting.
+void RevealTest::nobodyShowsFiles()
+{
+    const QString file = FileTree::write(path("a"));
+    qint64 quickest = std::numeric_limits<qint64>::max(); // a busy machine may delay any single one
+    for (int i = 0; i < 3; ++i) {
+        QElapsedTimer time;
+        time.start();
+        selectFilesInShell(folder(), {file});
+        quickest = std::min(quickest, time.elapsed());
+    }
+    QVERIFY2(quickest < 1000, qPrintable(QString::number(quickest)));
+    const QUrl opened = QUrl::fromLocalFile(folder());
+    QCOMPARE(m_opener.opened, QList<QUrl>({opened, opened, opened}));
 }
 
 void RevealTest::withoutABus()
 {
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-    qputenv("XDG_RUNTIME_DIR", m_folder.path().toLocal8Bit());
-    const QString file = FileTree::write(path(QStringLiteral("a")));
-    QElapsedTimer time;
-    time.start();
-    selectFilesInShell(m_folder.path(), {file});
-    QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
-    QCOMPARE(m_opener.opened, QList<QUrl>({QUrl::fromLocalFile(m_folder.path())}));
+    qputenv("XDG_RUNTIME_DIR", folder().toLocal8Bit());
+    nobodyShowsFiles();
     m_opener.opened.clear();
-    selectFilesInShell(m_folder.path(), {}); // nothing to show: nothing opens
+    selectFilesInShell(folder(), {}); // nothing to show: nothing opens
     QVERIFY(m_opener.opened.isEmpty());
 }
 
 void RevealTest::busWithoutFileManager()
 {
     startBus();
-    selectFilesInShell(m_folder.path(), {FileTree::write(path(QStringLiteral("a")))});
-    QCOMPARE(m_opener.opened.size(), 1);
+    nobodyShowsFiles();
 }
 
 void RevealTest::exactAddresses()
@@ -125,11 +147,7 @@ void RevealTest::exactAddresses()
     stub.moveToThread(&m_thread);
     m_thread.start();
     const QString name = QStringLiteral("stub");
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    QVERIFY2(bus.isConnected(), qPrintable(bus.lastError().message()));
-    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &stub,
-                               QDBusConnection::ExportScriptableSlots));
-    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    QDBusConnection bus = fileManager(name, stub);
 
     QStringList files;
     for (const char* file :
@@ -137,14 +155,14 @@ void RevealTest::exactAddresses()
         files += FileTree::write(path(QString::fromUtf8(file)));
     }
     QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("there is no file .*missing")));
-    selectFilesInShell(m_folder.path(), files + QStringList{path(QStringLiteral("missing")), QString()});
-    const QString root = QStringLiteral("file://") + m_folder.path() + QLatin1Char('/');
+    selectFilesInShell(folder(), files + QStringList{path("missing"), QString()});
+    const QString root = QStringLiteral("file://") + folder() + QLatin1Char('/');
     QStringList expected;
     for (const char* uri :
          {"a%20b", "a%23b", "100%25", "a%2520b", "q%3Fx%3D1%26y", "%C3%A4%E6%97%A5", "a%3Bb%27c%22%5Bd%5D"}) {
         expected += root + QLatin1String(uri);
     }
-    QCOMPARE(stub.shown(), expected + QStringList{QString()});
+    QTRY_COMPARE(stub.shown(), expected + QStringList{QString()});
     QVERIFY(m_opener.opened.isEmpty());
 
     bus.unregisterObject(QStringLiteral("/org/freedesktop/FileManager1"));
@@ -159,14 +177,11 @@ void RevealTest::slowFileManager()
     startBus();
     const QString name = QStringLiteral("slow");
     FileManagerStub stub; // lives in this thread, which does not answer while it asks
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &stub,
-                               QDBusConnection::ExportScriptableSlots));
-    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    const QDBusConnection bus = fileManager(name, stub);
     QElapsedTimer time;
     time.start();
-    selectFilesInShell(m_folder.path(), {FileTree::write(path(QStringLiteral("a")))});
-    QVERIFY2(time.elapsed() < 1500, qPrintable(QString::number(time.elapsed())));
+    selectFilesInShell(folder(), {FileTree::write(path("a"))});
+    QVERIFY2(time.elapsed() < 10000, "the bus's own patience is 25 seconds");
     QVERIFY(m_opener.opened.isEmpty());
     QTRY_COMPARE(stub.shown().size(), 2);
     QDBusConnection::disconnectFromBus(name);
@@ -177,11 +192,7 @@ void RevealTest::busThatDied()
     startBus();
     m_bus.terminate();
     QVERIFY(m_bus.waitForFinished(10000));
-    QElapsedTimer time;
-    time.start();
-    selectFilesInShell(m_folder.path(), {FileTree::write(path(QStringLiteral("a")))});
-    QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
-    QCOMPARE(m_opener.opened.size(), 1);
+    nobodyShowsFiles();
 }
 
 TOLVAN_GUI_TEST_MAIN(RevealTest)

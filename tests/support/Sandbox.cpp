@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -31,8 +32,13 @@ constexpr unsigned nobody = 65534;
 } // namespace
 
 OrdinaryUser::OrdinaryUser()
-    : m_changed(getuid() == 0 && setresgid(nobody, nobody, 0) == 0 && setresuid(nobody, nobody, 0) == 0)
 {
+    if (getuid() == 0) {
+        const auto all = QFile::Permissions(0x7777);
+        QFile::setPermissions(QFileInfo(QDir::tempPath()).path(), all); // the profile lets others in
+        QFile::setPermissions(QDir::tempPath(), all);
+        m_changed = setresgid(nobody, nobody, 0) == 0 && setresuid(nobody, nobody, 0) == 0;
+    }
 }
 
 OrdinaryUser::~OrdinaryUser()

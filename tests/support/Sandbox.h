@@ -8,7 +8,7 @@
 bool underWine();
 
 /// Turns a root process into an ordinary user ("nobody") while it lives, so that permissions mean something.
-/// Does nothing for a process that is no root, nor on Windows.
+/// Does nothing for a process that is no root, nor on Windows. The test's profile is opened to everybody.
 class OrdinaryUser
 {
 public:
