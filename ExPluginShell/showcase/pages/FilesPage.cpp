@@ -43,6 +43,18 @@ void FilesPage::addNames()
     connect(m_name, SIGNAL(textChanged(QString)), this, SLOT(checkName()));
     addRow(form, QT_TR_NOOP("File name"), m_name);
     addRow(form, QT_TR_NOOP("As a name and as a path"), m_verdict);
+    auto* paths = new QWidget(this);
+    auto* row = new QHBoxLayout(paths);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_firstPath = new QLineEdit(QStringLiteral("photos/sea.jpg"), paths);
+    m_secondPath = new QLineEdit(QStringLiteral("Photos/Sea.png"), paths);
+    for (QLineEdit* const path : {m_firstPath, m_secondPath}) {
+        row->addWidget(path);
+        connect(path, SIGNAL(textChanged(QString)), this, SLOT(comparePaths()));
+    }
+    m_comparison = new QLabel(this);
+    addRow(form, QT_TR_NOOP("Two paths"), paths);
+    addRow(form, QT_TR_NOOP("As a whole and without suffix"), m_comparison);
     addRow(form, QT_TR_NOOP("Sizes as text"), m_sizes);
 }
 
@@ -99,6 +111,7 @@ QString FilesPage::unpackedPath() const
 void FilesPage::languageChanged()
 {
     checkName();
+    comparePaths();
     m_sizes->setText(
         QStringList{fileSizeToString(1024), fileSizeToString(1572864), sizeToString(QSize(6000, 4000))}.join(
             QStringLiteral("   ")));
@@ -110,6 +123,17 @@ void FilesPage::checkName()
         return validateFileName(m_name->text(), isPath) ? tr("may be used") : tr("refused");
     };
     m_verdict->setText(verdict(false) + QStringLiteral("   ") + verdict(true));
+}
+
+void FilesPage::comparePaths()
+{
+    const auto verdict = [this](FileCompareCondition condition) {
+        return isEqualFileOrDirNames(QFileInfo(m_firstPath->text()), QFileInfo(m_secondPath->text()),
+                                     condition)
+                   ? tr("equal")
+                   : tr("different");
+    };
+    m_comparison->setText(verdict(CompareFullPath) + QStringLiteral("   ") + verdict(CompareDirAndBaseName));
 }
 
 void FilesPage::chooseFolder()

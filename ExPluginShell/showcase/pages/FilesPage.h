@@ -10,8 +10,8 @@ class QLineEdit;
 class QProgressBar;
 class QPushButton;
 
-/// File names checked while they are typed, a folder packed and unpacked with a bar, files shown and thrown
-/// away.
+/// File names checked and paths compared while they are typed, a folder packed and unpacked with a bar, files
+/// shown and thrown away.
 class FilesPage : public PageWidget
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ protected:
 
 private Q_SLOTS:
     void checkName();
+    void comparePaths();
     void workEnded();
 
 private:
@@ -39,6 +40,9 @@ private:
 
     QLineEdit* m_name = nullptr;
     QLabel* m_verdict = nullptr;
+    QLineEdit* m_firstPath = nullptr;
+    QLineEdit* m_secondPath = nullptr;
+    QLabel* m_comparison = nullptr;
     QLabel* m_sizes = nullptr;
     QLineEdit* m_folder = nullptr;
     QProgressBar* m_bar = nullptr;

@@ -859,6 +859,22 @@
         <translation>Als Name und als Pfad</translation>
     </message>
     <message>
+        <source>Two paths</source>
+        <translation>Zwei Pfade</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>Im Ganzen und ohne Endung</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
         <source>Sizes as text</source>
         <translation>Größen als Text</translation>
     </message>

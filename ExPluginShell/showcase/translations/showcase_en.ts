@@ -859,6 +859,22 @@
         <translation>As a name and as a path</translation>
     </message>
     <message>
+        <source>Two paths</source>
+        <translation>Two paths</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>As a whole and without suffix</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>equal</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>different</translation>
+    </message>
+    <message>
         <source>Sizes as text</source>
         <translation>Sizes as text</translation>
     </message>

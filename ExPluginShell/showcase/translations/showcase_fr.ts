@@ -859,6 +859,22 @@
         <translation>Comme nom et comme chemin</translation>
     </message>
     <message>
+        <source>Two paths</source>
+        <translation>Deux chemins</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>En entier et sans extension</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>égaux</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différents</translation>
+    </message>
+    <message>
         <source>Sizes as text</source>
         <translation>Tailles en texte</translation>
     </message>

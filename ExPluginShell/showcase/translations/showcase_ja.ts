@@ -859,6 +859,22 @@
         <translation>名前として、パスとして</translation>
     </message>
     <message>
+        <source>Two paths</source>
+        <translation>2つのパス</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>全体、および拡張子なし</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>同じ</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>異なる</translation>
+    </message>
+    <message>
         <source>Sizes as text</source>
         <translation>サイズの表記</translation>
     </message>

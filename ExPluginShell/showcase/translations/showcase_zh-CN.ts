@@ -859,6 +859,22 @@
         <translation>作为名称和路径</translation>
     </message>
     <message>
+        <source>Two paths</source>
+        <translation>两个路径</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>完整比较和不含扩展名比较</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
         <source>Sizes as text</source>
         <translation>大小的文字表示</translation>
     </message>
