@@ -11,6 +11,12 @@
 #include <QStorageInfo>
 
 #include <atomic>
+#ifdef Q_OS_LINUX
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -20,15 +26,39 @@ namespace
 constexpr int races = 1000;
 const bool windows = QDir::separator() == QLatin1Char('\\');
 
+/// What the file system knows; the calls of the library come by here first.
+enum FileSystem {
+    Modern,
+    WithoutExclusiveRename,
+    WithoutSecondNames, ///< and without the exclusive rename
+};
+FileSystem fileSystem = Modern;
+
 QString raceName(const QString& folder, const char* kind, int round)
 {
     return folder + QLatin1Char('/') + QLatin1String(kind) + QString::number(round);
 }
 
+#ifdef Q_OS_LINUX
+extern "C" Q_DECL_EXPORT int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
+                                       unsigned flags) noexcept
+{
+    errno = EINVAL;
+    return fileSystem == Modern ? int(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags)) : -1;
+}
+
+extern "C" Q_DECL_EXPORT int link(const char* from, const char* to) noexcept
+{
+    errno = EPERM;
+    return fileSystem == WithoutSecondNames ? -1 : linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+#endif
+
 /// One of two processes that rename their own file of each round to the same target. They meet before each
 /// round at a counter in a shared file.
-int runRacer(const QString& folder, const QByteArray& who)
+int runRacer(const QString& folder, const QByteArray& who, int kind)
 {
+    fileSystem = static_cast<FileSystem>(kind);
     QFile counters(folder + QStringLiteral("/counters"));
     if (!counters.open(QIODevice::ReadWrite)) {
         return 2;
@@ -58,6 +88,7 @@ private Q_SLOTS:
     void rename_data();
     void rename();
     void renameOfNothingOrOntoALink();
+    void thousandRaces_data();
     void thousandRaces();
     void acrossFileSystems();
     void refusedAcrossFileSystems();
@@ -78,8 +109,12 @@ void FileManagementTest::rename_data()
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
     QTest::addColumn<bool>("renamed");
+    QTest::addColumn<int>("kind");
     const auto row = [](const char* title, const char* from, const char* to, bool renamed) {
-        QTest::newRow(title) << QString::fromUtf8(from) << QString::fromUtf8(to) << renamed;
+        for (int kind = Modern; kind <= (windows ? Modern : WithoutSecondNames); ++kind) {
+            QTest::addRow("%s %d", title, kind)
+                << QString::fromUtf8(from) << QString::fromUtf8(to) << renamed << kind;
+        }
     };
     row("file into another folder", "file", "folder/new", true);
     row("uncleaned paths", "folder/../file", "./folder//new", true);
@@ -113,7 +148,11 @@ void FileManagementTest::rename()
             expected.insert(target + name.mid(source.size()), expected.take(name));
         }
     }
-    QCOMPARE(renameFile(path(from), path(to)), renamed);
+    QFETCH(int, kind);
+    fileSystem = static_cast<FileSystem>(kind);
+    const bool result = renameFile(path(from), path(to));
+    fileSystem = Modern;
+    QCOMPARE(result, renamed);
     const auto after = FileTree::of(folder()); // with the names as they are spelled
     if (underWine() && source.compare(target, Qt::CaseInsensitive) == 0 && after == before) {
         return; // it keeps the old spelling and calls that a success
@@ -134,8 +173,19 @@ void FileManagementTest::renameOfNothingOrOntoALink()
     }
 }
 
+void FileManagementTest::thousandRaces_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("any file system") << int(Modern);
+    if (!windows) {
+        QTest::newRow("without exclusive rename") << int(WithoutExclusiveRename);
+        QTest::newRow("without second names") << int(WithoutSecondNames);
+    }
+}
+
 void FileManagementTest::thousandRaces()
 {
+    QFETCH(int, kind);
     for (int round = 0; round < races; ++round) {
         FileTree::write(raceName(folder(), "a", round), "a");
         FileTree::write(raceName(folder(), "b", round), "b");
@@ -143,8 +193,9 @@ void FileManagementTest::thousandRaces()
     FileTree::write(path("counters"), QByteArray(races * int(sizeof(int)), '\0'));
     QProcess racers[2];
     for (int i = 0; i < 2; ++i) {
-        racers[i].start(QCoreApplication::applicationFilePath(),
-                        {QStringLiteral("--racer"), folder(), QLatin1String(i == 0 ? "a" : "b")});
+        racers[i].start(
+            QCoreApplication::applicationFilePath(),
+            {QStringLiteral("--racer"), folder(), QLatin1String(i == 0 ? "a" : "b"), QString::number(kind)});
     }
     for (QProcess& racer : racers) {
         QVERIFY2(racer.waitForFinished(100000), qPrintable(racer.errorString()));
@@ -328,8 +379,8 @@ void FileManagementTest::showingInAMissingFolderIsReported()
 
 int main(int argc, char* argv[])
 {
-    if (argc == 4 && qstrcmp(argv[1], "--racer") == 0) {
-        return runRacer(QFile::decodeName(argv[2]), argv[3]);
+    if (argc == 5 && qstrcmp(argv[1], "--racer") == 0) {
+        return runRacer(QFile::decodeName(argv[2]), argv[3], atoi(argv[4]));
     }
     return TestMain::run<QCoreApplication, FileManagementTest>(argc, argv);
 }

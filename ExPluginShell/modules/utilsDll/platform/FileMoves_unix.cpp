@@ -26,27 +26,38 @@ fs::path systemPath(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// For file systems that don't know the exclusive rename: the target name is claimed first, by a hard link or
-/// an empty folder, which only one process can make.
+/// Takes back what a failed step has left, without touching the reason of the failure.
+bool withdraw(const fs::path& path)
+{
+    const int reason = errno;
+    std::remove(path.c_str());
+    errno = reason;
+    return false;
+}
+
+/// An empty folder or file, which only one process can make.
+bool claim(const fs::path& name, bool asFolder)
+{
+    if (asFolder) {
+        return mkdir(name.c_str(), S_IRWXU) == 0;
+    }
+    const int file = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    return file >= 0 && close(file) == 0;
+}
+
+/// For file systems that don't know the exclusive rename: a file gets the target as a second name, if it may
+/// have two; otherwise the target is claimed first.
 bool renameByClaim(const fs::path& from, const fs::path& to)
 {
     struct stat status = {};
     if (lstat(from.c_str(), &status) != 0) {
         return false;
     }
-    if (!S_ISDIR(status.st_mode)) {
-        return link(from.c_str(), to.c_str()) == 0 && unlink(from.c_str()) == 0;
+    const bool isFolder = S_ISDIR(status.st_mode);
+    if (!isFolder && link(from.c_str(), to.c_str()) == 0) {
+        return unlink(from.c_str()) == 0 || withdraw(to);
     }
-    if (mkdir(to.c_str(), S_IRWXU) != 0) {
-        return false;
-    }
-    if (rename(from.c_str(), to.c_str()) == 0) {
-        return true;
-    }
-    const int reason = errno;
-    rmdir(to.c_str());
-    errno = reason;
-    return false;
+    return claim(to, isFolder) && (rename(from.c_str(), to.c_str()) == 0 || withdraw(to));
 }
 
 /// On failure errno tells why.
