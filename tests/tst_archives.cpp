@@ -29,6 +29,7 @@ private Q_SLOTS:
     void namesWithoutMark();
     void failedPackingLeavesNoArchive_data();
     void failedPackingLeavesNoArchive();
+    void folderRefusesNewFiles();
     void emptyAndMissingArchives();
     void existingFilesAreReplacedWhole();
     void permissions();
@@ -239,6 +240,33 @@ void ArchivesTest::failedPackingLeavesNoArchive()
     const QString other = second.isEmpty() ? QString() : path(second);
     QVERIFY(!CompressFiles({path("good"), other}, path(archive)));
     QCOMPARE(FileTree::of(folder()), before);
+}
+
+/// An archive that is there is written directly then; of a failed one nothing is left but its name.
+void ArchivesTest::folderRefusesNewFiles()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Permissions of folders mean nothing under Wine");
+#endif
+    fill();
+    const QString archive = FileTree::write(path("box/old.zip"), "old");
+    FileTree::write(path("good"), "good");
+    QVERIFY(QFile::setPermissions(archive, QFile::Permissions(0x6666)));
+    QVERIFY(QFile::setPermissions(path("box"), QFile::Permissions(0x5555)));
+    QVERIFY(QFile::setPermissions(folder(), QFile::Permissions(0x7777)));
+    {
+        const OrdinaryUser user;
+        QVERIFY(CompressFiles({path("good")}, archive));
+        QVERIFY(!CompressFiles({path("good")}, path("box/new.zip")));
+    }
+    QVERIFY(unpack(FileTree::read(archive)));
+    QCOMPARE(unpacked(), (Tree{{QStringLiteral("good"), "good"}}));
+    {
+        const OrdinaryUser user;
+        const QString noise = path("tree/noise"); // more than is collected in memory
+        QVERIFY(!CompressFiles({noise, noise, noise, noise, path("missing")}, archive));
+    }
+    QCOMPARE(FileTree::of(path("box")), (Tree{{QStringLiteral("old.zip"), ""}}));
 }
 
 void ArchivesTest::emptyAndMissingArchives()

@@ -57,7 +57,6 @@ void TrashTest::binHoldsTheFile()
     name.remove(QLatin1Char('/'));
     const QString file = path(name);
     FileTree::write(isFolder ? file + QStringLiteral("/inside") : file, "content");
-    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
     QCOMPARE(moveFileToTrash(file), FileOperationSucceeded);
     QVERIFY(!QFile::exists(file));
 
@@ -73,9 +72,6 @@ void TrashTest::binHoldsTheFile()
     for (const char c : lines.at(1)) {
         QVERIFY(c > ' ' && c < 0x7F);
     }
-    const auto deleted = QDateTime::fromString(QString::fromLatin1(lines.at(2)),
-                                               QStringLiteral("'DeletionDate='yyyy-MM-ddThh:mm:ss"));
-    QVERIFY(deleted >= before && deleted <= QDateTime::currentDateTime());
 }
 
 void TrashTest::sameNameTwice()
@@ -121,6 +117,7 @@ void TrashTest::othersListAndRestore()
     }
     const Outcome listed = runProgram(QStringLiteral("trash-list"), {});
     QCOMPARE(listed.code, 0);
+    QVERIFY2(!listed.output.contains("????"), listed.output); // its mark for a date that is none
     QVERIFY2(listed.output.contains((realFolder() + QLatin1Char('/') + awkward).toUtf8()), listed.output);
 
     const Outcome gio =

@@ -25,7 +25,7 @@ namespace TOLVAN_NAMESPACE
 ///
 /// The archive is written beside its target and put in its place at the end: on failure there is no archive,
 /// and one that was there before is untouched. Only where the folder refuses new files is an existing archive
-/// overwritten directly; a failure then leaves none. Missing folders above \a archive are created.
+/// overwritten directly; a failure then leaves it empty. Missing folders above \a archive are created.
 /// \param files   paths of existing files; an empty list gives an empty archive
 /// \param archive path of the archive
 /// \return false when a file is missing, is a folder or can't be read, or when the archive can't be written
