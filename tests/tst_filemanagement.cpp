@@ -11,6 +11,7 @@
 #include <QStorageInfo>
 
 #include <atomic>
+#include <thread>
 #ifdef Q_OS_LINUX
 #include <cerrno>
 #include <fcntl.h>
@@ -54,8 +55,18 @@ extern "C" Q_DECL_EXPORT int link(const char* from, const char* to) noexcept
 }
 #endif
 
+/// Both come back at the same moment: the first time they wait in a friendly way, the second time awake.
+void meet(std::atomic<int>& arrived, std::atomic<int>& awake)
+{
+    for (++arrived; arrived < 2;) {
+        std::this_thread::yield();
+    }
+    for (++awake; awake < 2;) {
+    }
+}
+
 /// One of two processes that rename their own file of each round to the same target. They meet before each
-/// round at a counter in a shared file.
+/// round at counters in a shared file.
 int runRacer(const QString& folder, const QByteArray& who, int kind)
 {
     fileSystem = static_cast<FileSystem>(kind);
@@ -63,11 +74,9 @@ int runRacer(const QString& folder, const QByteArray& who, int kind)
     if (!counters.open(QIODevice::ReadWrite)) {
         return 2;
     }
-    auto* const arrived = reinterpret_cast<std::atomic<int>*>(counters.map(0, races * qint64(sizeof(int))));
+    auto* const arrived = reinterpret_cast<std::atomic<int>*>(counters.map(0, counters.size()));
     for (int round = 0; arrived && round < races; ++round) {
-        ++arrived[round];
-        while (arrived[round] < 2) {
-        }
+        meet(arrived[2 * round], arrived[2 * round + 1]);
         renameFile(raceName(folder, who, round), raceName(folder, "target", round));
     }
     return arrived ? 0 : 2;
@@ -190,7 +199,7 @@ void FileManagementTest::thousandRaces()
         FileTree::write(raceName(folder(), "a", round), "a");
         FileTree::write(raceName(folder(), "b", round), "b");
     }
-    FileTree::write(path("counters"), QByteArray(races * int(sizeof(int)), '\0'));
+    FileTree::write(path("counters"), QByteArray(2 * races * int(sizeof(int)), '\0'));
     QProcess racers[2];
     for (int i = 0; i < 2; ++i) {
         racers[i].start(

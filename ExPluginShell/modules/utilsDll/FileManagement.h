@@ -80,8 +80,8 @@ UTILSDLL_EXPORT bool renameFile(const QString& from, const QString& to);
 /// what it is told in a relative path for good. Elsewhere the file goes to the desktop's trash (the user's
 /// own, or that of the file system that holds it) and any program that knows the freedesktop layout restores
 /// it; where the file system offers no trash it is copied into the user's own.
-/// \return FileOperationSucceeded, or FileOperationFailed when there is no such file or the system refuses,
-///         which is logged
+/// \return FileOperationSucceeded, or FileOperationFailed when there is no such file or, which is logged, the
+///         system refuses
 UTILSDLL_EXPORT ErrorCodes moveFileToTrash(const QString& path);
 
 /// Deletes everything in a folder; the folder itself stays, and so does every folder below it, emptied.
