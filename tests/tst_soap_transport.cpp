@@ -7,11 +7,9 @@
 #include <QFile>
 #include <QNetworkProxy>
 #include <QProcess>
-#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-
-#include <functional>
+#include <QThread>
 
 Q_DECLARE_METATYPE(HttpLoopback::Answer)
 
@@ -26,8 +24,11 @@ QByteArray envelope(const QByteArray& body)
 }
 
 const QByteArray good = envelope("<pingResponse><r>pong</r></pingResponse>");
+const QByteArray large = good + "<!--" + QByteArray(5000000, 'x') + "-->"; // more than fits the read-ahead
 const QByteArray serverFault =
     envelope("<e:Fault><faultcode>e:Server.Busy</faultcode><faultstring>too busy</faultstring></e:Fault>");
+
+const QString unasked = QStringLiteral("Other The server could not be asked: ");
 
 /// A transport, its server, and what its signals told.
 struct Call : QObject {
@@ -56,7 +57,15 @@ public:
         return QTest::qWaitFor([this] { return order.size() >= 2; }, 15000) && order == QStringLiteral("ab");
     }
 
-    QString faultText() const { return transport.getResponse().faultString().toString(); }
+    /// "value" and the text of the first child, or the class of the fault and its text.
+    QString outcome() const
+    {
+        const QtSoapMessage& answer = transport.getResponse();
+        if (!answer.isFault())
+            return QStringLiteral("value ") + answer.returnValue().toString();
+        const char* const codes[] = {"VersionMismatch", "MustUnderstand", "Client", "Server", "Other"};
+        return QLatin1String(codes[answer.faultCode()]) + QLatin1Char(' ') + answer.faultString().toString();
+    }
 
     HttpLoopback server;
     QtSoapHttpTransport transport;
@@ -88,17 +97,14 @@ private Q_SLOTS:
     void actions_data();
     void actions();
     void severalInARow();
-    void overlapping();
+    void overlappingAndFromItsSlot();
     void answers_data();
     void answers();
-    void failures_data();
-    void failures();
     void endlessAnswerIsCutOff();
     void unreachable_data();
     void unreachable();
-    void destroyedUnderWay();
-    void destroyedByItsSlot();
-    void submittedFromItsSlot();
+    void destroyed_data();
+    void destroyed();
     void foreignRequestsOfTheManager();
     void proxy();
     void authentication();
@@ -112,8 +118,7 @@ void SoapTransportTest::requestOnTheWire()
     QVERIFY(!call.transport.networkReply());
     QVERIFY(!call.transport.getResponse().method().isValid());
     QVERIFY(call.ask(QStringLiteral("/a b/ser?x=1&y=%20")));
-    QCOMPARE(call.transport.getResponse().returnValue().toString(), QStringLiteral("pong"));
-    QCOMPARE(call.received.returnValue().toString(), QStringLiteral("pong"));
+    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
     const auto& request = call.server.requests.first();
     QCOMPARE(request.line, QByteArray("POST /a%20b/ser?x=1&y=%20 HTTP/1.1"));
     QCOMPARE(request.header("Content-Type").toLower(), QByteArray("text/xml;charset=utf-8"));
@@ -153,7 +158,7 @@ void SoapTransportTest::actions()
 void SoapTransportTest::severalInARow()
 {
     Call call;
-    for (int k = 0; k < 20; ++k) {
+    for (int k = 0; k < 6; ++k) {
         call.server.answer.status = k % 3 ? "200 OK" : "500 Internal Server Error";
         call.server.answer.body =
             k % 3 ? envelope("<r><n>" + QByteArray::number(k) + "</n></r>") : serverFault;
@@ -162,130 +167,94 @@ void SoapTransportTest::severalInARow()
         if (k % 3)
             QCOMPARE(call.transport.getResponse().returnValue().toInt(), k);
     }
-    QCOMPARE(call.server.requests.size(), 20);
+    QCOMPARE(call.server.requests.size(), 6);
     QVERIFY(call.transport.networkAccessManager()->findChildren<QNetworkReply*>().size() <= 2);
 }
 
-void SoapTransportTest::overlapping()
+void SoapTransportTest::overlappingAndFromItsSlot()
 {
     Call call;
     call.server.answer.body = good;
-    for (int k = 0; k < 5; ++k)
-        call.submit();
+    int left = 3;
+    connect(&call.transport, qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
+        if (left-- > 0)
+            call.submit();
+    });
+    call.submit();
+    call.submit();
     QTRY_COMPARE_WITH_TIMEOUT(call.order, QStringLiteral("ababababab"), 30000);
 }
 
 void SoapTransportTest::answers_data()
 {
-    QTest::addColumn<QByteArray>("status");
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("expected"); // the text of the first child, or "fault: " and its text
-    const QByteArray xml = "text/xml", latin = "text/xml; charset=\"ISO-8859-1\"";
-    const QByteArray word = envelope("<r><a>Gr\xF6\xDF"
-                                     "e</a></r>");
-    QTest::newRow("fault with 500") << QByteArray("500 Oops") << xml << serverFault << "fault: too busy";
-    QTest::newRow("fault with 200") << QByteArray("200 OK") << xml << serverFault << "fault: too busy";
-    QTest::newRow("fault with 401") << QByteArray("403 No") << xml << serverFault << "fault: too busy";
-    QTest::newRow("message of another type")
-        << QByteArray("200 OK") << QByteArray("application/soap") << good << "pong";
-    QTest::newRow("taken on") << QByteArray("202 Accepted") << xml << QByteArray() << QString();
-    QTest::newRow("character set of the header")
-        << QByteArray("200 OK") << latin << word << QStringLiteral("Größe");
-    QTest::newRow("of the document") << QByteArray("200 OK") << QByteArray("text/xml;charset=us-ascii")
-                                     << "<?xml version='1.0' encoding='iso-8859-1'?>" + word
-                                     << QStringLiteral("Größe");
+    using Answer = HttpLoopback::Answer;
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<int>("timeout");
+    QTest::addColumn<QString>("outcome"); // what outcome() says of the answer, as a pattern
+    const auto row = [](const char* name, const char* outcome, const Answer& answer, int timeout = 10000) {
+        QTest::newRow(name) << answer << timeout << QString::fromUtf8(outcome);
+    };
+    const QByteArray ok = "200 OK", oops = "500 Oops", xml = "text/xml", html = "text/html";
+    const QByteArray latin = envelope("<r><a>\xF6\xDF</a></r>"), mail = "220 example.org ESMTP\r\n\r\n";
+    row("fault with 500", "^Server too busy$", {oops, xml, serverFault});
+    row("fault with 200", "^Server too busy$", {ok, xml, serverFault});
+    row("fault with 403", "^Server too busy$", {"403 No", xml, serverFault});
+    row("a message of another type", "^value pong$", {ok, "application/soap", good});
+    row("a large message", "^value pong$", {ok, xml, large});
+    row("taken on", "^value $", {"202 Accepted", xml, QByteArray()});
+    row("character set of the header", "^value öß$", {ok, "text/xml; charset=\"ISO-8859-1\"", latin});
+    row("character set of the document", "^value öß$",
+        {ok, "text/xml;charset=us-ascii", "<?xml version='1.0' encoding='iso-8859-1'?>" + latin});
+    row("HTML with 200", "^Client .*\\(text/html, 7 bytes\\) is no SOAP message", {ok, html, "<html/>"});
+    row("HTML with 404", "^Other .*status 404 Not Found", {"404 Not Found", html, "<html/>"});
+    row("redirection", "^Other .*status 302", {"302 Found", xml, QByteArray()});
+    row("500 without fault", "^Other .*status 500", {oops, xml, "stack trace"});
+    row("empty with 200", "^Other .*it is empty", {ok, xml, QByteArray()});
+    row("closes before the answer", "^Other .*could not be asked", {ok, xml, good, -1, 0});
+    row("closes in the header", "^(Client|Other) .", {ok, xml, good, -1, 30});
+    row("closes in the body", "^Other .*not complete", {ok, xml, good, -1, 150});
+    row("no HTTP", "^Other .", {ok, xml, mail, -1, mail.size(), 0, false, true});
+    row("100 MB announced", "^Other .*larger than 64 MiB", {ok, xml, good, 100000000});
+    row("silence", "^Other .*did not answer within 0.3 s", {ok, xml, good, -1, -1, 0, true}, 300);
+    row("body shorter than announced", "^Other .*within 0.3 s", {ok, xml, good, 100000}, 300);
+    row("slow, but moving", "^value pong$", {ok, xml, good, -1, -1, 25}, 2000);
+    // a loaded machine may let the shorter time pass between two bytes
+    row("too slow", "^Other .*(not complete after 3 s|within 0.3 s)", {ok, xml, good, -1, -1, 50}, 300);
 }
 
 void SoapTransportTest::answers()
 {
-    QFETCH(QByteArray, status);
-    QFETCH(QByteArray, type);
-    QFETCH(QByteArray, body);
-    QFETCH(QString, expected);
-    Call call;
-    call.server.answer.status = status;
-    call.server.answer.contentType = type;
-    call.server.answer.body = body;
-    QVERIFY(call.ask());
-    const QtSoapMessage& answer = call.transport.getResponse();
-    QCOMPARE(answer.isFault() ? QStringLiteral("fault: ") + call.faultText()
-                              : answer.returnValue().toString(),
-             expected);
-    if (answer.isFault())
-        QCOMPARE(answer.faultCode(), QtSoapMessage::Server);
-}
-
-void SoapTransportTest::failures_data()
-{
-    using Answer = HttpLoopback::Answer;
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* name, const char* text, const std::function<void(Answer&)>& change) {
-        Answer answer;
-        answer.body = good;
-        change(answer);
-        QTest::newRow(name) << answer << QString::fromLatin1(text);
-    };
-    row("HTML with 200", "(text/html, 25 bytes) is no SOAP message", [](Answer& a) {
-        a.contentType = "text/html";
-        a.body = "<html><body>hi</body></h>";
-    });
-    row("HTML with 404", "status 404 Not Found", [](Answer& a) {
-        a.status = "404 Not Found";
-        a.body = "<html/>";
-    });
-    row("redirection", "status 302", [](Answer& a) {
-        a.status = "302 Found";
-        a.body.clear();
-    });
-    row("500 without fault", "status 500", [](Answer& a) {
-        a.status = "500 Oops";
-        a.body = "stack trace";
-    });
-    row("empty with 200", "it is empty", [](Answer& a) { a.body.clear(); });
-    row("closes before the answer", "could not be asked", [](Answer& a) { a.sent = 0; });
-    row("closes in the header", "", [](Answer& a) { a.sent = 30; });
-    row("closes in the body", "not complete", [](Answer& a) { a.sent = 150; });
-    row("no HTTP", "", [](Answer& a) {
-        a.rawBody = true;
-        a.body = "220 mail.example.org ESMTP\r\n\r\n";
-        a.sent = a.body.size();
-    });
-    row("silence", "did not answer within 0.5 s", [](Answer& a) { a.silent = true; });
-    row("byte after byte", "not complete after 5 s", [](Answer& a) { a.dripMs = 100; });
-    row("body shorter than announced", "did not answer within 0.5 s", [](Answer& a) { a.claimed = 100000; });
-    row("100 MB announced", "larger than 64 MiB", [](Answer& a) { a.claimed = 100000000; });
-}
-
-void SoapTransportTest::failures()
-{
     QFETCH(HttpLoopback::Answer, answer);
-    QFETCH(QString, text);
+    QFETCH(int, timeout);
+    QFETCH(QString, outcome);
     Call call;
     call.server.answer = answer;
-    call.transport.setTimeout(500);
+    call.transport.setTimeout(timeout);
     QVERIFY(call.ask());
-    QVERIFY(call.transport.getResponse().isFault() && call.received.isFault());
-    QVERIFY2(call.faultText().contains(text) && !call.faultText().isEmpty(), qPrintable(call.faultText()));
-    QVERIFY(call.transport.getResponse().faultCode() != QtSoapMessage::Server);
+    QVERIFY2(QRegularExpression(outcome).match(call.outcome()).hasMatch(), qPrintable(call.outcome()));
+    QCOMPARE(call.received.toXmlString(), call.transport.getResponse().toXmlString());
     QTest::qWait(50);
     QCOMPARE(call.order.size(), 2); // nothing more comes
     call.server.answer = HttpLoopback::Answer();
     call.server.answer.body = good; // and the transport is as good as new
+    call.transport.setTimeout(10000);
     QVERIFY(call.ask());
-    QCOMPARE(call.transport.getResponse().returnValue().toString(), QStringLiteral("pong"));
+    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
 }
 
 void SoapTransportTest::endlessAnswerIsCutOff()
 {
+    EndlessServer server;
     Call call;
-    call.server.answer.endless = true;
-    QVERIFY(call.ask());
-    QVERIFY2(call.faultText().contains(QStringLiteral("larger than 64 MiB")), qPrintable(call.faultText()));
-#ifndef Q_OS_WIN // Wine may go on taking what is written for a peer that has left
-    QVERIFY2(call.server.written < 80 * 1024 * 1024, qPrintable(QString::number(call.server.written)));
-#endif
+    call.transport.setHost(QStringLiteral("127.0.0.1"), server.port);
+    call.submit();
+    qint64 received = 0;
+    QNetworkReply* const reply = call.transport.networkReply();
+    connect(reply, &QNetworkReply::metaDataChanged, this, [] { QThread::sleep(2); }); // a busy caller
+    connect(reply, &QNetworkReply::downloadProgress, this, [&received](qint64 bytes) { received = bytes; });
+    QTRY_COMPARE_WITH_TIMEOUT(call.order, QStringLiteral("ab"), 60000);
+    QVERIFY2(call.outcome().contains(QStringLiteral("larger than 64 MiB")), qPrintable(call.outcome()));
+    QVERIFY2(received > 0 && received < 70 * 1024 * 1024, qPrintable(QString::number(received)));
 }
 
 void SoapTransportTest::unreachable_data()
@@ -305,60 +274,45 @@ void SoapTransportTest::unreachable()
     call.server.close();
     call.transport.setHost(host, port);
     QVERIFY(call.ask());
-    QCOMPARE(call.transport.getResponse().faultCode(), QtSoapMessage::Other);
-    QVERIFY2(call.faultText().startsWith(QStringLiteral("The server could not be asked: ")),
-             qPrintable(call.faultText()));
+    QVERIFY2(call.outcome().startsWith(unasked), qPrintable(call.outcome()));
 }
 
-void SoapTransportTest::destroyedUnderWay()
+void SoapTransportTest::destroyed_data()
 {
-    HttpLoopback server;
-    server.answer.silent = true;
-    QSignalSpy* spy = nullptr;
-    {
-        QtSoapHttpTransport transport;
-        spy = new QSignalSpy(&transport, SIGNAL(responseReady()));
-        spy->setParent(this);
-        transport.setHost(QStringLiteral("127.0.0.1"), server.serverPort());
-        QtSoapMessage request;
-        transport.submitRequest(request, QStringLiteral("/"));
-        transport.submitRequest(request, QStringLiteral("/"));
-        QTRY_VERIFY(!server.requests.isEmpty());
-    }
-    QTest::qWait(50);
-    QCOMPARE(spy->count(), 0);
+    QTest::addColumn<bool>("silent");
+    QTest::addColumn<bool>("withArgument");
+    QTest::newRow("under way") << true << false;
+    QTest::newRow("in the first slot") << false << false;
+    QTest::newRow("in the second slot") << false << true;
 }
 
-void SoapTransportTest::destroyedByItsSlot()
+void SoapTransportTest::destroyed()
 {
+    QFETCH(bool, silent);
+    QFETCH(bool, withArgument);
     HttpLoopback server;
     server.answer.body = good;
-    for (const bool withArgument : {false, true}) {
-        auto transport = std::make_unique<QtSoapHttpTransport>();
-        transport->setHost(QStringLiteral("127.0.0.1"), server.serverPort());
-        const auto destroy = [&transport] { transport.reset(); };
-        if (withArgument)
-            connect(transport.get(), qOverload<const QtSoapMessage&>(&QtSoapHttpTransport::responseReady),
-                    this, destroy);
-        else
-            connect(transport.get(), qOverload<>(&QtSoapHttpTransport::responseReady), this, destroy);
-        QtSoapMessage request;
-        transport->submitRequest(request, QStringLiteral("/"));
-        QTRY_VERIFY(!transport);
-    }
-}
-
-void SoapTransportTest::submittedFromItsSlot()
-{
-    Call call;
-    call.server.answer.body = good;
-    int left = 3;
-    connect(&call.transport, qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
-        if (left-- > 0)
-            call.submit();
+    server.answer.silent = silent;
+    auto transport = std::make_unique<QtSoapHttpTransport>();
+    int first = 0, second = 0;
+    connect(transport.get(), qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
+        ++first;
+        if (!withArgument)
+            transport.reset();
     });
-    call.submit();
-    QTRY_COMPARE_WITH_TIMEOUT(call.order, QStringLiteral("abababab"), 30000);
+    connect(transport.get(), qOverload<const QtSoapMessage&>(&QtSoapHttpTransport::responseReady), this, [&] {
+        ++second;
+        transport.reset();
+    });
+    transport->setHost(QStringLiteral("127.0.0.1"), server.serverPort());
+    QtSoapMessage request;
+    transport->submitRequest(request, QStringLiteral("/"));
+    transport->submitRequest(request, QStringLiteral("/"));
+    QTRY_VERIFY_WITH_TIMEOUT(silent ? !server.requests.isEmpty() : !transport, 30000);
+    transport.reset();
+    QTest::qWait(50);
+    QCOMPARE(first, silent ? 0 : 1);
+    QCOMPARE(second, withArgument ? 1 : 0);
 }
 
 void SoapTransportTest::foreignRequestsOfTheManager()
@@ -367,7 +321,7 @@ void SoapTransportTest::foreignRequestsOfTheManager()
     call.server.answer.body = good;
     QNetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1/other").arg(call.server.serverPort())));
     QNetworkReply* const other = call.transport.networkAccessManager()->get(request);
-    QTRY_VERIFY(other->isFinished());
+    QTRY_VERIFY_WITH_TIMEOUT(other->isFinished(), 30000);
     QTest::qWait(20);
     QVERIFY(call.order.isEmpty() && !call.transport.networkReply());
     QCOMPARE(other->readAll(), good);
@@ -381,7 +335,7 @@ void SoapTransportTest::proxy()
     call.transport.networkAccessManager()->setProxy(QNetworkProxy(
         QNetworkProxy::HttpCachingProxy, QStringLiteral("127.0.0.1"), call.server.serverPort()));
     QVERIFY(call.ask());
-    QVERIFY2(!call.transport.getResponse().isFault(), qPrintable(call.faultText()));
+    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
     QCOMPARE(call.server.requests.first().line,
              QByteArray("POST http://soap.example.org:8080/service HTTP/1.1"));
 }
@@ -403,7 +357,7 @@ void SoapTransportTest::authentication()
                 call.server.answer.body = good;
             });
     QVERIFY(call.ask());
-    QCOMPARE(call.transport.getResponse().returnValue().toString(), QStringLiteral("pong"));
+    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
     QCOMPARE(call.server.requests.last().header("Authorization"), QByteArray("Basic dTpw"));
 }
 
@@ -427,19 +381,18 @@ void SoapTransportTest::secureServer()
     QVERIFY(keyFile.open(QIODevice::ReadOnly));
     const QSslCertificate own = QSslCertificate::fromPath(certificate).value(0);
     Call call;
-    call.server.answer.body = good;
+    call.server.answer.body = large;
     call.server.secure(own, QSslKey(&keyFile, QSsl::Rsa));
     call.transport.setHost(QStringLiteral("localhost"), true, call.server.serverPort());
     QVERIFY(call.ask()); // nobody vouches for the certificate
-    QVERIFY2(call.faultText().startsWith(QStringLiteral("The server could not be asked: ")),
-             qPrintable(call.faultText()));
+    QVERIFY2(call.outcome().startsWith(unasked), qPrintable(call.outcome()));
     QVERIFY(call.server.requests.isEmpty());
     connect(call.transport.networkAccessManager(), &QNetworkAccessManager::sslErrors, this,
             [&own](QNetworkReply* reply, const QList<QSslError>&) {
                 reply->ignoreSslErrors({QSslError(QSslError::SelfSignedCertificate, own)});
             });
     QVERIFY(call.ask());
-    QVERIFY2(!call.transport.getResponse().isFault(), qPrintable(call.faultText()));
+    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
     QCOMPARE(call.transport.networkReply()->url().scheme(), QStringLiteral("https"));
 }
 

@@ -64,9 +64,8 @@ void HttpLoopback::send(QTcpSocket* socket)
     if (answer.silent)
         return;
     const qint64 length = answer.claimed < 0 ? answer.body.size() : answer.claimed;
-    QByteArray text = "HTTP/1.1 " + answer.status + "\r\nContent-Type: " + answer.contentType;
-    if (!answer.endless)
-        text += "\r\nContent-Length: " + QByteArray::number(length);
+    QByteArray text = "HTTP/1.1 " + answer.status + "\r\nContent-Type: " + answer.contentType +
+                      "\r\nContent-Length: " + QByteArray::number(length);
     text = answer.rawBody ? answer.body : text + "\r\n\r\n" + answer.body;
     if (answer.dripMs > 0) {
         const int body = text.indexOf("\r\n\r\n") + 4;
@@ -83,12 +82,33 @@ void HttpLoopback::send(QTcpSocket* socket)
     socket->write(answer.sent < 0 ? text : text.left(answer.sent));
     if (answer.sent >= 0)
         socket->disconnectFromHost();
-    if (answer.endless) {
-        const auto more = [this, socket] {
-            while (socket->bytesToWrite() < 1024 * 1024)
-                written += socket->write(QByteArray(65536, ' '));
-        };
-        connect(socket, &QTcpSocket::bytesWritten, socket, more);
-        more();
+}
+
+EndlessServer::EndlessServer()
+{
+    start();
+    m_listening.acquire();
+}
+
+EndlessServer::~EndlessServer()
+{
+    requestInterruption();
+    wait();
+}
+
+void EndlessServer::run()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    port = server.serverPort();
+    m_listening.release();
+    if (!server.waitForNewConnection(30000))
+        return;
+    QTcpSocket* const socket = server.nextPendingConnection();
+    socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n\r\n");
+    while (socket->state() == QAbstractSocket::ConnectedState && !isInterruptionRequested()) {
+        if (socket->bytesToWrite() < 1024 * 1024)
+            socket->write(QByteArray(1024 * 1024, ' '));
+        socket->waitForBytesWritten(100);
     }
 }

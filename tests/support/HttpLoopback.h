@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QList>
+#include <QSemaphore>
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QTcpServer>
+#include <QThread>
 
 class QTcpSocket;
 
@@ -31,7 +33,6 @@ public:
         int sent = -1;        ///< close after so many bytes of the answer
         int dripMs = 0;       ///< send one byte of the body each so many milliseconds
         bool silent = false;  ///< never answer
-        bool endless = false; ///< go on sending blanks
         bool rawBody = false; ///< the body is the whole answer
     };
 
@@ -43,7 +44,6 @@ public:
     Answer answer;
     QList<Request> requests;
     int connections = 0;
-    qint64 written = 0; ///< bytes of endless answers
 
 protected:
     void incomingConnection(qintptr handle) override;
@@ -54,4 +54,19 @@ private:
 
     QSslCertificate m_certificate;
     QSslKey m_key;
+};
+
+/// A server in a thread of its own that answers one request with blanks, for as long as they are taken.
+class EndlessServer : public QThread
+{
+public:
+    EndlessServer();
+    ~EndlessServer() override;
+
+    quint16 port = 0;
+
+private:
+    void run() override;
+
+    QSemaphore m_listening;
 };

@@ -3,6 +3,7 @@
 #include "SoapLimits.h"
 
 #include <QRegularExpression>
+#include <utility>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -12,6 +13,7 @@ namespace
 
 constexpr int wholeTimeouts = 10; ///< how many time-outs an exchange that keeps moving may last
 constexpr int maximumTimeout = 24 * 60 * 60 * 1000;
+constexpr qint64 readAhead = 1024 * 1024; ///< bytes that may wait for a caller who is busy
 
 QtSoapMessage fault(QtSoapMessage::FaultCode code, const QString& text)
 {
@@ -28,9 +30,10 @@ SoapHttpExchange::SoapHttpExchange(QNetworkReply* reply, int timeout)
     , m_reply(reply)
 {
     connect(reply, SIGNAL(uploadProgress(qint64, qint64)), this, SLOT(onProgress()));
-    connect(reply, SIGNAL(metaDataChanged()), this, SLOT(onProgress()));
+    connect(reply, SIGNAL(metaDataChanged()), this, SLOT(onHead()));
     connect(reply, SIGNAL(readyRead()), this, SLOT(onReceived()));
-    reply->setReadBufferSize(SoapLimits::DocumentBytes + 1); // what does not fit stays on the way
+    // Not now: the thread that receives is started by the event loop, and a size set before never reaches it.
+    QMetaObject::invokeMethod(this, "limitReadAhead", Qt::QueuedConnection);
     for (QTimer* timer : {&m_idle, &m_whole}) {
         timer->setSingleShot(true);
         connect(timer, SIGNAL(timeout()), this, SLOT(onTimeout()));
@@ -52,11 +55,26 @@ void SoapHttpExchange::onProgress()
         m_idle.start();
 }
 
+/// What does not fit stays on the way.
+void SoapHttpExchange::limitReadAhead()
+{
+    m_reply->setReadBufferSize(readAhead);
+}
+
+void SoapHttpExchange::onHead()
+{
+    limitReadAhead(); // for a start that had to wait, for a connection of the system say
+    onProgress();
+}
+
 void SoapHttpExchange::onReceived()
 {
     onProgress();
+    if (!m_reason.isEmpty())
+        return;
+    m_body += m_reply->readAll();
     const qint64 announced = m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
-    if (qMax(m_reply->bytesAvailable(), announced) > SoapLimits::DocumentBytes)
+    if (qMax<qint64>(m_body.size(), announced) > SoapLimits::DocumentBytes)
         giveUp(QStringLiteral("The answer is larger than %1 MiB")
                    .arg(SoapLimits::DocumentBytes / (1024 * 1024)));
 }
@@ -73,6 +91,7 @@ void SoapHttpExchange::giveUp(const QString& reason)
     if (!m_reason.isEmpty() || m_reply->isFinished())
         return;
     m_reason = reason;
+    m_body.clear();
     m_idle.stop();
     m_whole.stop();
     m_reply->abort();
@@ -95,8 +114,6 @@ QByteArray SoapHttpExchange::declared(const QByteArray& body) const
 /// What is wrong with an exchange that brought no message.
 QString SoapHttpExchange::failure(const QByteArray& body, const QString& notSoap) const
 {
-    if (!m_reason.isEmpty())
-        return m_reason;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QString phrase = m_reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
@@ -119,10 +136,12 @@ QtSoapMessage SoapHttpExchange::message()
 {
     m_idle.stop();
     m_whole.stop();
-    const QByteArray body = m_reply->isOpen() ? m_reply->readAll() : QByteArray(); // closed by abort()
-    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (!m_reason.isEmpty())
         return fault(QtSoapMessage::Other, m_reason);
+    if (m_reply->isOpen()) // else the caller aborted it
+        m_body += m_reply->readAll();
+    const QByteArray body = std::exchange(m_body, QByteArray());
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     QtSoapMessage message;
     if ((status == 202 || status == 204) && body.trimmed().isEmpty())
         return message; // taken on, nothing to say

@@ -10,9 +10,10 @@ namespace TOLVAN_NAMESPACE
 {
 
 /**
- * Internal: watches one reply while it comes in, and reads it.
+ * Internal: watches one reply while it comes in, and reads it piece by piece.
  *
- * Belongs to the reply. Aborts one that stands still, that takes too long or that grows too large.
+ * Belongs to the reply. Aborts one that stands still, that takes too long or that grows too large; however
+ * busy the caller is, no more than the limit and one piece is held.
  */
 class SoapHttpExchange : public QObject
 {
@@ -29,7 +30,9 @@ public:
     static SoapHttpExchange* of(QNetworkReply* reply);
 
 private Q_SLOTS:
+    void limitReadAhead();
     void onProgress();
+    void onHead();
     void onReceived();
     void onTimeout();
 
@@ -41,6 +44,7 @@ private:
     QNetworkReply* m_reply; ///< the parent
     QTimer m_idle;
     QTimer m_whole;
+    QByteArray m_body;
     QString m_reason; ///< why the exchange was given up
 };
 
