@@ -44,7 +44,7 @@ QString SoapStreamCursor::shared(const QStringRef& name)
 SoapXmlCursor::Token SoapStreamCursor::start()
 {
     if (!enter())
-        return failHere(m_error);
+        return Token::Error;
     const int declared = m_reader.namespaceDeclarations().size();
     m_declarations.append(declared);
     m_namespaces += declared;
@@ -99,6 +99,13 @@ SoapXmlCursor::Token SoapStreamCursor::next()
         m_element.setAttribute(shared(attribute.namespaceUri()), shared(attribute.name()),
                                shared(attribute.value()));
     return token;
+}
+
+QString SoapStreamCursor::text() const
+{
+    // not toString(): that would share, and keep alive, the reader's buffer of 256 characters and more
+    const QStringRef piece = m_reader.text();
+    return QString(piece.unicode(), piece.size());
 }
 
 QDomElement SoapStreamCursor::takeElement()

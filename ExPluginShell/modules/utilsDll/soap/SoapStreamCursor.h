@@ -16,7 +16,7 @@ public:
     explicit SoapStreamCursor(const QByteArray& document);
 
     Token next() override;
-    QString text() const override { return m_reader.text().toString(); }
+    QString text() const override;
     QDomElement takeElement() override;
 
 private:

@@ -38,10 +38,11 @@ void SoapElement::setAttribute(const QString& attributeUri, const QString& attri
 
 bool SoapXmlCursor::enter()
 {
-    if (++m_depth <= SoapLimits::Depth)
-        return true;
-    fail(QStringLiteral("Elements are nested more than %1 levels deep").arg(SoapLimits::Depth));
-    return false;
+    if (++m_depth > SoapLimits::Depth)
+        fail(QStringLiteral("Elements are nested more than %1 levels deep").arg(SoapLimits::Depth));
+    else if (++m_elements > SoapLimits::Elements)
+        fail(QStringLiteral("There are more than %1 elements").arg(SoapLimits::Elements));
+    return m_error.isEmpty();
 }
 
 SoapXmlCursor::Token SoapXmlCursor::fail(const QString& error)

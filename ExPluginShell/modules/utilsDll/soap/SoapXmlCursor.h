@@ -26,7 +26,8 @@ struct SoapElement {
 /**
  * Internal: walks the elements and texts of a document; behind it is either a byte stream or a tree.
  *
- * Refuses document types and too deep nesting. Comments and processing instructions are passed over.
+ * Refuses document types, too deep nesting and too many elements. Comments and processing instructions are
+ * passed over.
  */
 class SoapXmlCursor
 {
@@ -51,7 +52,7 @@ public:
     QString errorString() const { return m_error; }
 
 protected:
-    /// Counts a level; false, with an error, when there are too many.
+    /// Counts an element and a level; false, with an error, when there are too many.
     bool enter();
     void leave() { --m_depth; }
     Token fail(const QString& error);
@@ -59,6 +60,7 @@ protected:
     SoapElement m_element;
     QString m_error;
     int m_depth = 0;
+    int m_elements = 0;
 };
 
 /// The part of @p qualifiedName behind the prefix.

@@ -14,9 +14,9 @@ namespace TOLVAN_NAMESPACE
  * from then on.
  *
  * Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
- * 64 MiB, more than 256 levels of nesting, tags of more than 64 KiB, arrays that claim more than 16,777,216
- * items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and Windows 125x. The checks are made
- * while the text is read, before anything is built from it.
+ * 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays that
+ * claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and Windows
+ * 125x. The checks are made while the text is read.
  */
 class UTILSDLL_EXPORT QtSoapMessage
 {
