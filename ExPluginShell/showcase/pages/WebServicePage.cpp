@@ -5,8 +5,7 @@
 
 #include <QComboBox>
 #include <QFontDatabase>
-#include <QFormLayout>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -33,54 +32,88 @@ WebServicePage::WebServicePage(QWidget* parent)
 
 void WebServicePage::addQuestion()
 {
-    auto* form = addForm();
     m_amount = new QSpinBox(this);
     m_amount->setRange(0, 100000);
     m_amount->setValue(12);
+    m_amount->setMinimumWidth(100);
     m_unit = new QComboBox(this);
     m_unit->setEditable(true);
     m_unit->addItems(LengthService::unitNames());
-    addRow(form, QT_TR_NOOP("Amount"), m_amount);
-    addRow(form, QT_TR_NOOP("Unit"), m_unit);
+    m_unit->setMinimumWidth(160);
     connect(m_amount, qOverload<int>(&QSpinBox::valueChanged), this, &WebServicePage::showRequest);
     connect(m_unit, &QComboBox::currentTextChanged, this, &WebServicePage::showRequest);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
+    const auto add = [&](const char* name, QWidget* field) {
+        auto* label = new QLabel(this);
+        label->setBuddy(field);
+        translate(name, [label](const QString& text) { label->setText(text); });
+        row->addWidget(label);
+        row->addWidget(field);
+    };
+    add(QT_TR_NOOP("Amount"), m_amount);
+    add(QT_TR_NOOP("Unit"), m_unit);
     row->addWidget(makeButton(QT_TR_NOOP("Ask the service"), [this] { ask(); }));
-    m_result = new QLabel(this);
-    m_result->setTextFormat(Qt::PlainText);
-    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    row->addWidget(m_result, 1);
+    row->addStretch();
     column()->addLayout(row);
 }
 
 void WebServicePage::addMessages()
 {
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(6);
-    int place = 0;
-    for (const char* title : {QT_TR_NOOP("Request"), QT_TR_NOOP("Answer")}) {
-        auto* view = new QPlainTextEdit(this);
-        view->setReadOnly(true);
-        view->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-        view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        view->setTabChangesFocus(true);
-        QLabel* const label = addTitle(title);
-        label->setBuddy(view);
-        grid->addWidget(label, 0, place);
-        grid->addWidget(view, 1, place);
-        grid->setColumnStretch(place, 1);
-        (place++ == 0 ? m_request : m_answer) = view;
-    }
-    grid->setRowStretch(1, 1);
-    column()->addLayout(grid, 1);
+    m_result = new QLabel(this);
+    m_result->setTextFormat(Qt::PlainText);
+    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_request = addView(QT_TR_NOOP("Request"), nullptr, 7);
+    m_answer = addView(QT_TR_NOOP("Answer"), m_result, 8); // has more levels
+    translate(QT_TR_NOOP("The service has not been asked yet."),
+              [this](const QString& text) { m_answer->setPlaceholderText(text); });
 }
 
+/// Adds a view of a message under its title, with \a note at the end of the title's line.
+QPlainTextEdit* WebServicePage::addView(const char* title, QLabel* note, int stretch)
+{
+    auto* view = new QPlainTextEdit(this);
+    view->setReadOnly(true);
+    view->setLineWrapMode(QPlainTextEdit::NoWrap);
+    view->setTabChangesFocus(true);
+    // the look gives all widgets its own font, which only a style sheet of the widget overrules
+    view->setStyleSheet(QStringLiteral("font-family: \"%1\"; font-size: 12px;")
+                            .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family()));
+
+    auto* line = new QHBoxLayout;
+    QLabel* const label = addTitle(title);
+    label->setWordWrap(false);
+    label->setBuddy(view);
+    line->addWidget(label);
+    line->addStretch();
+    if (note)
+        line->addWidget(note, 0, Qt::AlignBottom);
+    auto* part = new QVBoxLayout;
+    part->setSpacing(6);
+    part->addLayout(line);
+    part->addWidget(view, 1);
+    column()->addLayout(part, stretch);
+    return view;
+}
+
+/// The message on lines; the namespaces of its envelope on one each.
+QString WebServicePage::readable(const QtSoapMessage& message)
+{
+    QString xml = message.toXmlString(2);
+    const int end = xml.indexOf(QLatin1Char('>'));
+    QString envelope = xml.left(end);
+    for (const char* attribute : {" xmlns:", " SOAP-ENV:encodingStyle"})
+        envelope.replace(QLatin1String(attribute), QLatin1String("\n   ") + QLatin1String(attribute));
+    return xml.replace(0, end, envelope);
+}
+
+/// What is shown of an earlier answer goes: it belongs to another question.
 void WebServicePage::showRequest()
 {
-    m_request->setPlainText(LengthService::request(m_amount->value(), m_unit->currentText()).toXmlString(2));
+    m_request->setPlainText(readable(LengthService::request(m_amount->value(), m_unit->currentText())));
+    m_answer->clear();
+    m_result->clear();
 }
 
 void WebServicePage::ask()
@@ -95,21 +128,21 @@ void WebServicePage::ask()
 
 void WebServicePage::showAnswer(const QtSoapMessage& answer)
 {
-    m_answer->setPlainText(answer.toXmlString(2));
+    m_answer->setPlainText(readable(answer));
     showResult();
 }
 
 void WebServicePage::showResult()
 {
     const QtSoapMessage& answer = m_transport.getResponse();
-    if (answer.isFault()) {
+    if (answer.isFault())
         m_result->setText(tr("Fault: %1").arg(answer.faultString().toString()));
-    } else if (answer.returnValue().isValid()) {
+    else
         m_result->setText(tr("%1 cm").arg(answer.returnValue()[QStringLiteral("cm")].toString()));
-    }
 }
 
 void WebServicePage::languageChanged()
 {
-    showResult();
+    if (!m_result->text().isEmpty())
+        showResult();
 }

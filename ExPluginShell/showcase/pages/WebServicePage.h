@@ -24,6 +24,8 @@ protected:
 private:
     void addQuestion();
     void addMessages();
+    QPlainTextEdit* addView(const char* title, QLabel* note, int stretch);
+    static QString readable(const TOLVAN_NAMESPACE::QtSoapMessage& message);
     void showRequest();
     void ask();
     void showAnswer(const TOLVAN_NAMESPACE::QtSoapMessage& answer);

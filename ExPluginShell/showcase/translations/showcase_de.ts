@@ -358,6 +358,10 @@
         <translation>Antwort</translation>
     </message>
     <message>
+        <source>The service has not been asked yet.</source>
+        <translation>Der Dienst wurde noch nicht befragt.</translation>
+    </message>
+    <message>
         <source>Fault: %1</source>
         <translation>Fehler: %1</translation>
     </message>

@@ -358,6 +358,10 @@
         <translation>Answer</translation>
     </message>
     <message>
+        <source>The service has not been asked yet.</source>
+        <translation>The service has not been asked yet.</translation>
+    </message>
+    <message>
         <source>Fault: %1</source>
         <translation>Fault: %1</translation>
     </message>

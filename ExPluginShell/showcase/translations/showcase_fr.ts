@@ -358,6 +358,10 @@
         <translation>Réponse</translation>
     </message>
     <message>
+        <source>The service has not been asked yet.</source>
+        <translation>Le service n’a pas encore été interrogé.</translation>
+    </message>
+    <message>
         <source>Fault: %1</source>
         <translation>Erreur : %1</translation>
     </message>

@@ -358,6 +358,10 @@
         <translation>応答</translation>
     </message>
     <message>
+        <source>The service has not been asked yet.</source>
+        <translation>サービスへの問い合わせはまだ行われていません。</translation>
+    </message>
+    <message>
         <source>Fault: %1</source>
         <translation>エラー: %1</translation>
     </message>

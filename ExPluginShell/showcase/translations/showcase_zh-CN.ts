@@ -358,6 +358,10 @@
         <translation>应答</translation>
     </message>
     <message>
+        <source>The service has not been asked yet.</source>
+        <translation>尚未查询该服务。</translation>
+    </message>
+    <message>
         <source>Fault: %1</source>
         <translation>错误：%1</translation>
     </message>
