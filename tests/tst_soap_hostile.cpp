@@ -148,6 +148,12 @@ void SoapHostileTest::isRefused_data()
     text("position of an open array", array("c:arrayType='x:int[]'", "<i c:position='[2147483646]'/>"),
          "no place");
     text("offset outside", array("c:arrayType='x:int[2]' c:offset='[2]'"), "offset");
+    text("an item more, under a long name",
+         envelope("<r><a" + repeated("a", 3000) + " c:arrayType='x:int[0]'><i/></a" + repeated("a", 3000) +
+                  "></r>"),
+         "no place");
+    text("a long encoding", "<?xml version='1.0' encoding='" + repeated("a", 9999) + "'?>" + envelope(""),
+         "ncoding");
     text("text in an array", array("c:arrayType='x:int[2]'", "<i/>text"), "beside its items");
     text("ids given twice",
          envelope("<r><a id='1'/><a id='1'/></r>", " e:encodingStyle='" SOAPv11_ENCODING "'"), "id \"1\"");

@@ -13,6 +13,12 @@ namespace
 
 using Token = SoapXmlCursor::Token;
 
+/// A name as errors show it: those of strangers may be long.
+QString shown(const QString& name)
+{
+    return name.left(80);
+}
+
 bool isBlank(const QString& text)
 {
     for (const QChar c : text) {
@@ -58,7 +64,7 @@ bool SoapValueReader::checkIdentities()
     // in messages that are not encoded "id" is a name like any other, unless something refers to it
     for (const QString& id : qAsConst(m_repeatedIds)) {
         if (m_encoded || m_references.contains(id))
-            return fail(QStringLiteral("The id \"%1\" is given to several elements").arg(id.left(80)));
+            return fail(QStringLiteral("The id \"%1\" is given to several elements").arg(shown(id)));
     }
     return true;
 }
@@ -110,7 +116,7 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
         QtSmartPtr<QtSoapType> made(tree.isNull() ? nullptr : handler->createObject(tree));
         if (made.isNull())
             fail(QStringLiteral("\"%1\" cannot be read as %2: %3")
-                     .arg(element.name, typeName, handler->errorString()));
+                     .arg(shown(element.name), shown(typeName), handler->errorString()));
         return made;
     }
     if (isArray(element) || (untyped == QtSoapType::Array && typeName.isEmpty())) {
@@ -142,7 +148,7 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
         next = result.absolute(SoapArrayType::numbers(m_cursor.element().offset));
         if (next < 0 || next >= capacity)
             return fail(QStringLiteral("The offset %1 is outside the array \"%2\"")
-                            .arg(m_cursor.element().offset.left(80), result.n.name()));
+                            .arg(shown(m_cursor.element().offset), shown(result.n.name())));
     }
     for (;;) {
         const Token token = m_cursor.next();
@@ -151,18 +157,18 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
         if (token == Token::Text && isBlank(m_cursor.text()))
             continue;
         if (token != Token::StartElement)
-            return fail(
-                token == Token::Text
-                    ? QStringLiteral("The array \"%1\" holds a text beside its items").arg(result.n.name())
-                    : QStringLiteral("The document ends too early"));
+            return fail(token == Token::Text
+                            ? QStringLiteral("The array \"%1\" holds a text beside its items")
+                                  .arg(shown(result.n.name()))
+                            : QStringLiteral("The document ends too early"));
         const QString position = m_cursor.element().position;
         if (!position.isEmpty())
             next = result.absolute(SoapArrayType::numbers(position));
         if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next)))
             return fail(QStringLiteral("The array \"%1\" has no place for an item %2")
-                            .arg(result.n.name(), position.isEmpty()
-                                                      ? QStringLiteral("more")
-                                                      : QStringLiteral("at ") + position.left(80)));
+                            .arg(shown(result.n.name()), position.isEmpty()
+                                                             ? QStringLiteral("more")
+                                                             : QStringLiteral("at ") + shown(position)));
         const QtSmartPtr<QtSoapType> item = value(itemType);
         if (item.isNull())
             return false;
@@ -205,11 +211,12 @@ bool SoapValueReader::fill(QtSoapSimpleType& result)
     QString text;
     Values children;
     if (isArray(element) || type == QtSoapType::Struct)
-        return fail(QStringLiteral("\"%1\" is not a simple value").arg(element.name));
+        return fail(QStringLiteral("\"%1\" is not a simple value").arg(shown(element.name)));
     if (!contents(&text, &children))
         return false;
     if (!children.isEmpty())
-        return fail(QStringLiteral("\"%1\" has child elements and is not a simple value").arg(element.name));
+        return fail(
+            QStringLiteral("\"%1\" has child elements and is not a simple value").arg(shown(element.name)));
     simple(result, element, type, text);
     return true;
 }
@@ -224,7 +231,7 @@ bool SoapValueReader::fill(QtSoapStruct& result)
     if (!contents(&text, &children))
         return false;
     if (children.isEmpty() && !isBlank(text))
-        return fail(QStringLiteral("\"%1\" holds a text and is not a struct").arg(element.name));
+        return fail(QStringLiteral("\"%1\" holds a text and is not a struct").arg(shown(element.name)));
     name(result, element);
     result.dict = children;
     return true;

@@ -47,8 +47,9 @@ bool SoapXmlCursor::enter()
 
 SoapXmlCursor::Token SoapXmlCursor::fail(const QString& error)
 {
+    constexpr int longest = 400; // the reader's own texts quote what they complain of
     if (m_error.isEmpty())
-        m_error = error;
+        m_error = error.left(longest);
     return Token::Error;
 }
 
