@@ -42,7 +42,8 @@ public:
     /// Removes items and dimensions: what stays is one dimension that grows, and the item type.
     void clear() override;
 
-    /// Reads the element @p node; false when sizes or positions contradict each other or it holds a text.
+    /// Reads the element @p node; false, and errorString() says why, when sizes or positions contradict each
+    /// other or it holds a text. What the array then holds is not defined.
     bool parse(QDomNode node) override;
 
     /// Always true.
@@ -51,11 +52,12 @@ public:
     /// Number of items present, not the declared size.
     int count() const override;
 
-    /// The item at an absolute position.
+    /// The item at an absolute position, which belongs to the array; an invalid value where there is none.
     QtSoapType& at(int pos0);
     const QtSoapType& at(int pos0) const; ///< @copydoc at(int)
 
-    /// The item at two coordinates of a two-dimensional array, and so on up to five.
+    /// The item at two coordinates of a two-dimensional array, and so on up to five; an invalid value where
+    /// there is none, and for an array of another rank.
     QtSoapType& at(int pos0, int pos1);
     const QtSoapType& at(int pos0, int pos1) const;                               ///< @copydoc at(int,int)
     QtSoapType& at(int pos0, int pos1, int pos2);                                 ///< @copydoc at(int,int)
@@ -72,8 +74,8 @@ public:
     QtSoapType& operator[](const QtSoapQName& name) override;
     const QtSoapType& operator[](const QtSoapQName& name) const override;
 
-    /// Adds @p item behind the last one of a one-dimensional array and takes ownership; refused on other
-    /// ranks.
+    /// Adds @p item, which comes from `new`, behind the last one of a one-dimensional array and takes
+    /// ownership; refused, and deleted, on other ranks.
     void append(QtSoapType* item);
 
     /// Puts @p item at an absolute position, in place of what is there, and takes ownership.

@@ -23,10 +23,12 @@ namespace TOLVAN_NAMESPACE
  * What cannot be read as a message becomes a fault: with the code of the failed setContent() when a 2xx
  * answer is not SOAP, else with the code Other; its text names the cause (the status of the server, the error
  * of the network, the time-out). An empty answer with status 202 or 204 is an empty message, no fault.
- * Redirections are not followed.
+ * Redirections are not followed. An answer of more than 64 MiB is given up, and no more than 1 MiB beyond
+ * what was read is received meanwhile, however busy the thread is.
  *
  * Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
- * the request fail unless a slot on that manager's `sslErrors` ignores them.
+ * the request fail unless a slot on that manager's `sslErrors` ignores them. HTTPS is the system's on Windows
+ * and that of OpenSSL elsewhere; where its libraries are missing, requests over HTTPS fail.
  *
  * @code
  * QtSoapMessage request;
@@ -93,7 +95,8 @@ Q_SIGNALS:
     /// An answer is there: see getResponse().
     void responseReady();
 
-    /// An answer is there; sent right behind the form without argument.
+    /// An answer is there; sent right behind the form without argument. For queued connections the client
+    /// declares the type, with `Q_DECLARE_METATYPE(QtSoapMessage)`, and registers it under that name.
     void responseReady(const QtSoapMessage& response);
 
 private Q_SLOTS:

@@ -11,12 +11,14 @@ namespace TOLVAN_NAMESPACE
  * @brief A SOAP 1.1 message: built to be sent, or read from what a service answered.
  *
  * A copy is a message of its own. Items handed over as pointers come from `new` and belong to the message
- * from then on.
+ * from then on; null is ignored with a warning. References that are returned live until the message changes.
+ * One thread at a time may use a message. Nothing waits; reading and writing take time in proportion to the
+ * document.
  *
  * Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
- * 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays that
- * claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and Windows
- * 125x. The checks are made while the text is read.
+ * 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays
+ * that claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and
+ * Windows 125x. The checks are made while the text is read.
  */
 class UTILSDLL_EXPORT QtSoapMessage
 {
@@ -129,10 +131,10 @@ protected:
     /// Whether @p candidate is a SOAP 1.1 message that setContent() would take; errorString() tells why not.
     bool isValidSoapMessage(const QDomDocument& candidate);
 
-    /// The items of the body, which is made when there is none.
+    /// The items of the body, which is made when there is none; it belongs to the message.
     QtSoapStruct& body() const;
 
-    /// The items of the header, which is made when there is none.
+    /// The items of the header, which is made when there is none; it belongs to the message.
     QtSoapStruct& header() const;
 
     /// Brings the message back to the state of a new one.
@@ -152,5 +154,3 @@ private:
 };
 
 } // namespace TOLVAN_NAMESPACE
-
-Q_DECLARE_METATYPE(TOLVAN_NAMESPACE::QtSoapMessage)

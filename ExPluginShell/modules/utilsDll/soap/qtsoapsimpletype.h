@@ -50,8 +50,8 @@ public:
     /// Makes the value nil; name and type stay.
     void clear() override;
 
-    /// Reads the element @p node; false for one that has child elements, or is an array or a struct by its
-    /// type.
+    /// Reads the element @p node; false, and errorString() says why, for one that has child elements, or is
+    /// an array or a struct by its type. The value is unchanged then.
     bool parse(QDomNode node) override;
 
     /// Always true.

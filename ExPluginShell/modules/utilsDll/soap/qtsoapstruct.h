@@ -32,7 +32,8 @@ public:
     /// Removes all children.
     void clear() override;
 
-    /// Reads the element @p node; false for one that holds a text and no child elements.
+    /// Reads the element @p node; false, and errorString() says why, for one that holds a text and no child
+    /// elements. The struct is unchanged then.
     bool parse(QDomNode node) override;
 
     /// Always true.
@@ -54,7 +55,7 @@ public:
     const QtSoapType& operator[](const QString& key) const override;
 
     /**
-     * @brief Adds @p item and takes ownership of it.
+     * @brief Adds @p item, which comes from `new`, and takes ownership of it.
      *
      * The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
      */

@@ -57,7 +57,8 @@ private:
  * have handlers of their own. Without a known type it becomes an array when it has an `arrayType`, a struct
  * when it has child elements, and else a simple value of type String.
  *
- * One object for the process; handlers may be registered from any thread.
+ * One object for the process; handlers may be registered from any thread. A handler is called in the thread
+ * that reads, so in several at a time when several read.
  */
 class UTILSDLL_EXPORT QtSoapTypeFactory
 {
@@ -78,7 +79,7 @@ public:
     /// The value of the element @p node; an empty pointer, and errorString() says why, on failure.
     QtSmartPtr<QtSoapType> soapType(QDomNode node) const;
 
-    /// Why the latest soapType() failed; empty when it did not.
+    /// Why the latest soapType() of any thread failed; empty when it did not.
     QString errorString() const;
 
 private:
