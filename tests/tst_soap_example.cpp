@@ -1,12 +1,11 @@
 #include "HttpLoopback.h"
+#include "SoapCall.h"
 #include "TestMain.h"
-
-#include <utilsDll/soap/qtsoap.h>
 
 #include <QFile>
 #include <QProcess>
 
-using namespace TOLVAN_NAMESPACE;
+using namespace SoapCall;
 
 /// The client of the README: the text there is the program's, and the program does what is said there.
 class SoapExampleTest : public QObject
@@ -48,8 +47,7 @@ void SoapExampleTest::runs()
     QFETCH(int, exitCode);
     QFETCH(QString, output);
     HttpLoopback server;
-    server.answer.body =
-        "<e:Envelope xmlns:e='" SOAPv11_ENVELOPE "'><e:Body>" + body + "</e:Body></e:Envelope>";
+    server.answer.body = envelope(body);
     QProcess client;
     client.setProcessChannelMode(QProcess::MergedChannels);
     client.start(QCoreApplication::applicationDirPath() + QStringLiteral("/soap_client"),
@@ -64,11 +62,8 @@ void SoapExampleTest::runs()
     QCOMPARE(server.requests.first().line, QByteArray("POST /units HTTP/1.1"));
     QtSoapMessage request;
     QVERIFY(request.setContent(server.requests.first().body));
-    QStringList types;
-    for (int k = 0; k < request.method().count(); ++k)
-        types += request.method()[k].typeName() + QLatin1Char(' ') + request.method()[k].toString();
-    QCOMPARE(types, QStringList({QStringLiteral("int 12"), QStringLiteral("string inch"),
-                                 QStringLiteral("boolean true")}));
+    QCOMPARE(described(request.method()),
+             QStringLiteral("convertLength{amount:int=12 unit:string=inch round:boolean=true}"));
 }
 
 TOLVAN_CORE_TEST_MAIN(SoapExampleTest)

@@ -1,6 +1,5 @@
+#include "SoapCall.h"
 #include "TestMain.h"
-
-#include <utilsDll/soap/qtsoap.h>
 
 #include <QElapsedTimer>
 
@@ -8,17 +7,10 @@
 
 Q_DECLARE_METATYPE(std::function<QByteArray()>)
 
-using namespace TOLVAN_NAMESPACE;
+using namespace SoapCall;
 
 namespace
 {
-
-QByteArray envelope(const QByteArray& body, const QByteArray& attributes = QByteArray())
-{
-    return "<e:Envelope xmlns:e='" SOAPv11_ENVELOPE "' xmlns:i='" XML_SCHEMA_INSTANCE
-           "' xmlns:c='" SOAPv11_ENCODING "'" +
-           attributes + "><e:Body>" + body + "</e:Body></e:Envelope>";
-}
 
 QByteArray repeated(const char* text, int times)
 {

@@ -6,7 +6,7 @@
 
 #include <QDateTime>
 
-using namespace TOLVAN_NAMESPACE;
+using namespace SoapCall;
 
 namespace
 {
@@ -15,12 +15,12 @@ const QString schema = QStringLiteral("http://www.w3.org/2001/XMLSchema");
 const QString service = QStringLiteral("urn:example:peer");
 
 /// What the peer understood of a value: name, type, text, children.
-QString described(const KDSoapValue& value)
+QString understood(const KDSoapValue& value)
 {
     QStringList children;
     const KDSoapValueList& values = value.childValues();
     for (const KDSoapValue& child : values)
-        children += described(child);
+        children += understood(child);
     QString text =
         value.name() + QLatin1Char(':') + value.type() + QLatin1Char('=') + value.value().toString();
     if (value.isNil())
@@ -42,7 +42,7 @@ public:
         response.setNamespaceUri(service);
         if (request.name() == QStringLiteral("describe")) {
             const QString text = QString::fromUtf8(action) + QLatin1Char(' ') + request.namespaceUri() +
-                                 QLatin1Char(' ') + described(request);
+                                 QLatin1Char(' ') + understood(request);
             response = KDSoapValue(QStringLiteral("describeResponse"), QVariant());
             response.addArgument(QStringLiteral("return"), text, schema, QStringLiteral("string"));
         } else if (request.name() == QStringLiteral("echo")) {
@@ -79,7 +79,7 @@ private:
         nil.setNillable(true);
         values.append(nil);
         KDSoapValueList people;
-        for (int k = 0; k < 3; ++k) {
+        for (int k = 0; k < 2; ++k) {
             KDSoapValueList person;
             person.addArgument(QStringLiteral("name"), QStringLiteral("Person %1").arg(k), schema,
                                QStringLiteral("string"));
@@ -120,9 +120,10 @@ private Q_SLOTS:
     void cleanupTestCase();
 
 private:
-    QtSoapMessage ask(QtSoapMessage& message)
+    QtSoapMessage ask(const QtSoapMessage& message)
     {
-        return SoapCall::ask(m_server.serverPort(), QStringLiteral("/peer"), message);
+        return SoapCall::ask(m_server.serverPort(), QStringLiteral("/peer"), message,
+                             QStringLiteral("urn:act"));
     }
 
     Server m_server;
@@ -135,59 +136,30 @@ void SoapKdSoapTest::initTestCase()
 
 void SoapKdSoapTest::understandsRequests()
 {
-    QtSoapMessage message;
-    message.setMethod(QStringLiteral("describe"), service);
-    message.addMethodArgument(QStringLiteral("a"), QString(), -7);
-    message.addMethodArgument(QStringLiteral("b"), QString(), true, 0);
-    message.addMethodArgument(QStringLiteral("c"), QString(), QStringLiteral("x & <y>"));
-    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("d"))));
-    message.addMethodArgument(
-        SoapCall::typed(QStringLiteral("e"), QStringLiteral("double"), QStringLiteral("2.5")));
-    auto* const list = new QtSoapArray(QtSoapQName(QStringLiteral("f")));
-    for (int k = 0; k < 2; ++k) {
-        auto* const item = new QtSoapStruct(QtSoapQName(QStringLiteral("g")));
-        item->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("h")), k));
-        list->append(item);
-    }
-    message.addMethodArgument(list);
-
-    QtSoapHttpTransport transport;
-    transport.setHost(QStringLiteral("127.0.0.1"), m_server.serverPort());
-    transport.setAction(QStringLiteral("urn:act"));
-    QSignalSpy answered(&transport, SIGNAL(responseReady()));
-    transport.submitRequest(message, QStringLiteral("/peer"));
-    QVERIFY(answered.wait(20000));
+    const QtSoapMessage answer = ask(
+        request("describe", {value("a", -7), value("b", true), value("c", "x & <y>"), value("d"),
+                             typed("e", "double", "2.5"),
+                             list("f", {structure("g", {value("h", 0)}), structure("g", {value("h", 1)})})}));
     QCOMPARE(
-        transport.getResponse().returnValue().toString(),
+        answer.returnValue().toString(),
         QStringLiteral("urn:act urn:example:peer describe:={a:int=-7 b:boolean=true c:string=x & <y> d:=nil "
                        "e:double=2.5 f:Array={g:={h:int=0} g:={h:int=1}}}"));
 }
 
 void SoapKdSoapTest::valuesComeBack()
 {
-    QtSoapMessage message;
-    message.setMethod(QStringLiteral("echo"), service);
     const QString text = QStringLiteral(" a&<>\"'\t\nä日\U0001F5BC ");
-    message.addMethodArgument(QStringLiteral("t"), QString(), text);
-    message.addMethodArgument(QStringLiteral("n"), QString(), std::numeric_limits<int>::max());
-    auto* const outer = new QtSoapStruct(QtSoapQName(QStringLiteral("outer")));
-    auto* const inner = new QtSoapStruct(QtSoapQName(QStringLiteral("inner")));
-    inner->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("deep")), false, 0));
-    outer->insert(inner);
-    message.addMethodArgument(outer);
-    const QtSoapMessage answer = ask(message);
-    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
-    QCOMPARE(answer.method().name().name(), QStringLiteral("echoResponse"));
-    QCOMPARE(answer.returnValue().toString(), text);
-    QCOMPARE(answer.method()[1].value(), QVariant(std::numeric_limits<int>::max()));
-    QCOMPARE(answer.method()[QStringLiteral("outer")][QStringLiteral("inner")][0].value(), QVariant(false));
+    const QtSoapMessage answer =
+        ask(request("echo", {value("t", text), value("n", 2147483647),
+                             structure("outer", {structure("inner", {value("deep", false)})})}));
+    QCOMPARE(described(answer.method()),
+             QStringLiteral("echoResponse{t:string=%1 n:int=2147483647 outer{inner{deep:boolean=false}}}")
+                 .arg(text));
 }
 
 void SoapKdSoapTest::typesOfTheService()
 {
-    QtSoapMessage message;
-    message.setMethod(QStringLiteral("types"), service);
-    const QtSoapMessage answer = ask(message);
+    const QtSoapMessage answer = ask(request("types", {}));
     QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
     const QtSoapType& value = answer.returnValue();
     const QVariantList expected{true,
@@ -203,20 +175,17 @@ void SoapKdSoapTest::typesOfTheService()
         QCOMPARE(value[k].value(), expected.at(k));
         QCOMPARE(int(value[k].value().type()), int(expected.at(k).type()));
     }
-    QCOMPARE(value[QStringLiteral("people")].type(), QtSoapType::Array);
-    QCOMPARE(value[QStringLiteral("people")][2][QStringLiteral("name")].toString(),
-             QStringLiteral("Person 2"));
+    QCOMPARE(described(value[QStringLiteral("people")]),
+             QStringLiteral("people[0:item{name:string=Person 0} 1:item{name:string=Person 1}]"));
 }
 
 void SoapKdSoapTest::faults()
 {
-    QtSoapMessage message;
-    message.setMethod(QStringLiteral("nothing"), service);
-    const QtSoapMessage answer = ask(message);
+    const QtSoapMessage answer = ask(request("nothing", {}));
     QVERIFY(answer.isFault());
     QCOMPARE(answer.faultCode(), QtSoapMessage::Client);
     QCOMPARE(answer.faultString().toString(), QStringLiteral("no <such> method & more"));
-    QCOMPARE(answer.faultDetail()[QStringLiteral("name")].toString(), QStringLiteral("nothing"));
+    QCOMPARE(described(answer.faultDetail()), QStringLiteral("detail{name:string=nothing}"));
 }
 
 void SoapKdSoapTest::cleanupTestCase()

@@ -20,17 +20,6 @@ class Service
         return new SoapVar($text, $type);
     }
 
-    public function people($count)
-    {
-        $people = [];
-        for ($k = 0; $k < $count; ++$k) {
-            $address = (object)['city' => "City <$k>", 'zip' => $k, 'tags' => ['a', 'b']];
-            $people[] = new SoapVar((object)['name' => "Person $k", 'active' => $k % 2 == 0, 'height' => $k / 4,
-                                             'address' => $address, 'note' => null], SOAP_ENC_OBJECT);
-        }
-        return $people;
-    }
-
     public function shared()
     {
         $person = (object)['name' => 'once'];
