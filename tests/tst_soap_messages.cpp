@@ -1,26 +1,14 @@
+#include "SoapCall.h"
 #include "TestMain.h"
-
-#include <utilsDll/soap/qtsoap.h>
 
 #include <QTextCodec>
 
-using namespace TOLVAN_NAMESPACE;
+using namespace SoapCall;
 
 namespace
 {
 
-const QString xsd = QStringLiteral("http://www.w3.org/2001/XMLSchema");
 const QString xsi = QStringLiteral("http://www.w3.org/2001/XMLSchema-instance");
-const QString enc = QStringLiteral(SOAPv11_ENCODING);
-
-/// An envelope as a service of another make writes it.
-QByteArray envelope(const QString& body, const QString& schemaInstance = xsi)
-{
-    return QStringLiteral("<s:Envelope xmlns:s='%1' xmlns:i='%2' xmlns:d='%3' "
-                          "xmlns:c='%4'><s:Body>%5</s:Body></s:Envelope>")
-        .arg(QStringLiteral(SOAPv11_ENVELOPE), schemaInstance, xsd, enc, body)
-        .toUtf8();
-}
 
 QDomElement written(const QtSoapMessage& message)
 {
@@ -73,10 +61,11 @@ void SoapMessagesTest::requestAsWritten()
     message.addMethodArgument(QStringLiteral("amount"), QString(), 12);
     message.addMethodArgument(QStringLiteral("unit"), QString(), QStringLiteral("inch"));
     message.addMethodArgument(QStringLiteral("round"), QString(), true, 0);
-    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nothing"))));
+    message.addMethodArgument(value("nothing"));
     const QDomElement root = written(message);
     QCOMPARE(root.namespaceURI() + root.localName(), QStringLiteral(SOAPv11_ENVELOPE "Envelope"));
-    QCOMPARE(root.attributeNS(QStringLiteral(SOAPv11_ENVELOPE), QStringLiteral("encodingStyle")), enc);
+    QCOMPARE(root.attributeNS(QStringLiteral(SOAPv11_ENVELOPE), QStringLiteral("encodingStyle")),
+             QStringLiteral(SOAPv11_ENCODING));
     QCOMPARE(root.childNodes().size(), 1); // no empty header
     const QDomElement method = root.firstChildElement().firstChildElement();
     QCOMPARE(method.namespaceURI() + method.localName(), QStringLiteral("urn:example:unitsconvertLength"));
@@ -105,7 +94,7 @@ void SoapMessagesTest::namespacesAsWritten()
     message.addMethodArgument(QStringLiteral("own"), QStringLiteral("urn:example:grid"), 1);
     message.addMethodArgument(QStringLiteral("none"), QString(), 2);
     auto* const other = new QtSoapStruct(QtSoapQName(QStringLiteral("other"), QStringLiteral("urn:a&b")));
-    other->insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("inherits")), 3));
+    other->insert(value("inherits", 3));
     message.addMethodArgument(other);
     message.addMethodArgument(QStringLiteral("outside"), QString(), 4);
     QStringList uris;
@@ -142,7 +131,7 @@ void SoapMessagesTest::texts()
     QtSoapMessage message, read;
     message.setMethod(QStringLiteral("m"));
     message.addMethodArgument(QStringLiteral("t"), QString(), text);
-    message.addMethodArgument(new QtSoapSimpleType(QtSoapQName(QStringLiteral("nil"))));
+    message.addMethodArgument(value("nil"));
     for (const int indent : {0, 4}) {
         QVERIFY2(read.setContent(message.toXmlString(indent).toUtf8()), qPrintable(read.errorString()));
         QCOMPARE(read.returnValue().toString(), arrives);
@@ -156,7 +145,7 @@ void SoapMessagesTest::namesThatXmlForbids()
     message.setMethod(QStringLiteral("a b><x/>"), QStringLiteral("urn:\"x"));
     message.addMethodArgument(QString(), QString(), 1);
     message.addMethodArgument(QStringLiteral("1st"), QString(), 2);
-    auto* const item = new QtSoapSimpleType(QtSoapQName(QStringLiteral("i")), 3);
+    auto* const item = value("i", 3);
     item->setId(QStringLiteral("\"<&"));
     message.addMethodArgument(item);
     QVERIFY2(read.setContent(message.toXmlString().toUtf8()), qPrintable(read.errorString()));
@@ -169,44 +158,38 @@ void SoapMessagesTest::namesThatXmlForbids()
 void SoapMessagesTest::literalAnswer()
 {
     QtSoapMessage message;
-    QVERIFY(message.setContent(envelope(QStringLiteral(
-        "<!-- c --><convertLengthResponse xmlns='urn:u'><?pi x?><convertLengthResult><cm>30.48</cm>"
-        "<at>2021-03-04T05:06:07</at><raw><![CDATA[<&>]]> "
-        "tail</raw><row>1</row><row>2</row></convertLengthResult>"
-        "</convertLengthResponse>"))));
+    QVERIFY(message.setContent(
+        envelope("<!-- c --><convertLengthResponse xmlns='urn:u'><?pi x?><convertLengthResult><cm>30.48</cm>"
+                 "<raw><![CDATA[<&>]]> tail</raw><row>1</row><row>2</row></convertLengthResult>"
+                 "</convertLengthResponse>")));
+    QCOMPARE(described(message.method()),
+             QStringLiteral("convertLengthResponse{convertLengthResult{cm:string=30.48 raw:string=<&> tail "
+                            "row:string=1 row:string=2}}"));
     const QtSoapType& value = message.returnValue();
-    QCOMPARE(message.method().name().name(), QStringLiteral("convertLengthResponse"));
     QCOMPARE(value[QStringLiteral("cm")].value().toDouble(), 30.48);
-    QCOMPARE(value[QStringLiteral("at")].toString(), QStringLiteral("2021-03-04T05:06:07"));
-    QCOMPARE(value[QStringLiteral("raw")].toString(), QStringLiteral("<&> tail"));
-    QCOMPARE(value.count(), 5); // both rows
     QVERIFY2(value[QStringLiteral("cm")].toString().capacity() < 32, "a value keeps its reader's buffer");
     QVERIFY(!value[QStringLiteral("x")].isValid() && !message.isFault());
     QCOMPARE(message.faultCode(), QtSoapMessage::Other);
     QVERIFY(!message.faultString().isValid());
-    QVERIFY(message.setContent(envelope(QStringLiteral("<pingResponse xmlns='urn:u'/>"))));
+    QVERIFY(message.setContent(envelope("<pingResponse xmlns='urn:u'/>")));
     QVERIFY(!message.returnValue().isValid() && message.method().isValid());
-    QVERIFY(message.setContent(envelope(QString())) && !message.method().isValid());
+    QVERIFY(message.setContent(envelope("")) && !message.method().isValid());
 }
 
 void SoapMessagesTest::encodedAnswer()
 {
-    for (const QString& uri : {xsi, QStringLiteral(XML_SCHEMA_INSTANCE),
-                               QStringLiteral("http://www.w3.org/2000/10/XMLSchema-instance")}) {
+    for (const char* uri : {"http://www.w3.org/2001/XMLSchema-instance", XML_SCHEMA_INSTANCE,
+                            "http://www.w3.org/2000/10/XMLSchema-instance"}) {
         QtSoapMessage message;
-        QVERIFY(message.setContent(envelope(
-            QStringLiteral(
-                "<g:storeResponse xmlns:g='urn:g'><return><ids i:type='c:Array' c:arrayType='d:int[3]'>"
-                "<item>7</item><item>8</item><item>9</item></ids><note i:nil='true'/><c:long>5</c:long>"
-                "<odd i:type='d:int'><a/></odd><empty i:type='c:Struct'/></return></g:storeResponse>"),
-            uri)));
-        const QtSoapType& value = message.returnValue();
-        QCOMPARE(value[QStringLiteral("ids")].count(), 3);
-        QCOMPARE(value[QStringLiteral("ids")][2].value(), QVariant(9));
-        QVERIFY(value[QStringLiteral("note")].isValid() && !value[QStringLiteral("note")].value().isValid());
-        QCOMPARE(value[2].value(), QVariant(5LL));
-        QCOMPARE(value[3].type(), QtSoapType::Struct); // nothing is lost of a value that contradicts its type
-        QCOMPARE(value[QStringLiteral("empty")].type(), QtSoapType::Struct);
+        QVERIFY(message.setContent(
+            envelope(QByteArray("<g:r xmlns:g='urn:g' xmlns:o='") + uri +
+                     "'><v><ids o:type='c:Array' c:arrayType='d:int[2]'><item>7</item><item>8</item></ids>"
+                     "<note o:nil='true'/><c:long>5</c:long><odd o:type='d:int'><a/></odd>"
+                     "<empty o:type='c:Struct'/></v></g:r>")));
+        // nothing is lost of a value that contradicts its type
+        QCOMPARE(described(message.returnValue()),
+                 QStringLiteral("v{ids[0:item:int=7 1:item:int=8] note:string nil long:long=5 "
+                                "odd{a:string=} empty{}}"));
     }
 }
 
@@ -221,7 +204,7 @@ void SoapMessagesTest::faults()
     for (const auto code : {QtSoapMessage::VersionMismatch, QtSoapMessage::MustUnderstand,
                             QtSoapMessage::Client, QtSoapMessage::Server, QtSoapMessage::Other}) {
         message.setFaultCode(code);
-        message.addFaultDetail(new QtSoapSimpleType(QtSoapQName(QStringLiteral("code")), int(code)));
+        message.addFaultDetail(value("code", int(code)));
         QtSoapMessage read;
         QVERIFY(read.setContent(message.toXmlString().toUtf8()));
         QVERIFY(read.isFault());
@@ -243,8 +226,8 @@ void SoapMessagesTest::faultsOfOthers_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<int>("expected");
-    QTest::newRow("prefixed") << "s:Server" << int(QtSoapMessage::Server);
-    QTest::newRow("dotted") << "s:Client.Locked" << int(QtSoapMessage::Client);
+    QTest::newRow("prefixed") << "e:Server" << int(QtSoapMessage::Server);
+    QTest::newRow("dotted") << "e:Client.Locked" << int(QtSoapMessage::Client);
     QTest::newRow("bare") << " MustUnderstand " << int(QtSoapMessage::MustUnderstand);
     QTest::newRow("of the service") << "d:ServerBusy" << int(QtSoapMessage::Other);
 }
@@ -255,16 +238,13 @@ void SoapMessagesTest::faultsOfOthers()
     QFETCH(int, expected);
     QtSoapMessage message;
     QVERIFY(message.setContent(envelope(
-        QStringLiteral(
-            "<s:Fault><faultcode>%1</faultcode><faultstring xml:lang='en'>Door 4 is locked</faultstring>"
-            "<detail><l:lockInfo xmlns:l='urn:l'>by "
-            "<l:holder>desk</l:holder></l:lockInfo></detail></s:Fault>")
-            .arg(code))));
+        "<e:Fault><faultcode>" + code.toUtf8() +
+        "</faultcode><faultstring xml:lang='en'>Door 4 is locked</faultstring><detail>"
+        "<l:lockInfo xmlns:l='urn:l'>by <l:holder>desk</l:holder></l:lockInfo></detail></e:Fault>")));
     QVERIFY(message.isFault());
     QCOMPARE(int(message.faultCode()), expected);
-    QCOMPARE(message.faultString().toString(), QStringLiteral("Door 4 is locked"));
-    QCOMPARE(message.faultDetail()[QStringLiteral("lockInfo")][QStringLiteral("holder")].toString(),
-             QStringLiteral("desk"));
+    QCOMPARE(described(message.faultString()), QStringLiteral("faultstring:string=Door 4 is locked"));
+    QCOMPARE(described(message.faultDetail()), QStringLiteral("detail{lockInfo{holder:string=desk}}"));
 }
 
 void SoapMessagesTest::headerAndBody()
@@ -274,14 +254,14 @@ void SoapMessagesTest::headerAndBody()
     message.addHeaderItem(new QtSoapSimpleType(QtSoapQName(QStringLiteral("h"), QStringLiteral("urn:h")), 2));
     QTest::ignoreMessage(QtWarningMsg, "SOAP: An argument was added before a method was set");
     message.addMethodArgument(QStringLiteral("a"), QString(), 3);
-    message.addBodyItem(new QtSoapSimpleType(QtSoapQName(QStringLiteral("b")), 4));
+    message.addBodyItem(value("b", 4));
     Message read;
     QVERIFY(read.setContent(message.toXmlString().toUtf8()));
     QCOMPARE(read.header().count(), 2);
     QCOMPARE(read.header()[1].toInt(), 2);
     QCOMPARE(read.body()[1].toInt(), 4);
     QDomDocument good, bad;
-    QVERIFY(good.setContent(envelope(QString()), true) && bad.setContent(QByteArrayLiteral("<a/>"), true));
+    QVERIFY(good.setContent(envelope(""), true) && bad.setContent(QByteArrayLiteral("<a/>"), true));
     QVERIFY(read.isValidSoapMessage(good) && !read.isValidSoapMessage(bad));
     QVERIFY(!read.errorString().isEmpty() && read.body().count() == 2);
     read.clear();
@@ -303,7 +283,7 @@ void SoapMessagesTest::encodings()
 {
     QFETCH(QByteArray, codec);
     QFETCH(QString, declared);
-    QString text = QString::fromUtf8(envelope(QStringLiteral("<r><a>Größe</a></r>")));
+    QString text = QString::fromUtf8(envelope("<r><a>Größe</a></r>"));
     if (!declared.isEmpty())
         text.prepend(QStringLiteral("<?xml version='1.0' encoding='%1'?>").arg(declared));
     QtSoapMessage message;
@@ -315,8 +295,7 @@ void SoapMessagesTest::encodings()
 void SoapMessagesTest::treeOfTheCaller()
 {
     QDomDocument document;
-    const QByteArray text =
-        envelope(QStringLiteral("<r><a c:arrayType='d:int[2]'><i>1</i><i>2</i></a><b><c>x</c>y</b></r>"));
+    const QByteArray text = envelope("<r><a c:arrayType='d:int[2]'><i>1</i><i>2</i></a><b><c>x</c>y</b></r>");
     QVERIFY(document.setContent(text, true));
     QtSoapMessage fromTree, fromText;
     QVERIFY2(fromTree.setContent(document), qPrintable(fromTree.errorString()));
