@@ -130,14 +130,8 @@ void SoapPhpTest::typesOfTheService_data()
         row("boolean", truth, true);
     for (const char* truth : {"false", "0"})
         row("boolean", truth, false);
-    row("int", "2147483647", 2147483647);
-    row("long", "9223372036854775807", std::numeric_limits<qlonglong>::max());
-    row("unsignedLong", "18446744073709551615", std::numeric_limits<qulonglong>::max());
-    row("double", "-1.7976931348623157E308", -std::numeric_limits<double>::max());
     row("float", "INF", std::numeric_limits<double>::infinity());
     row("dateTime", "2021-03-04T05:06:07.5+02:00", QStringLiteral("2021-03-04T05:06:07.5+02:00"));
-    row("date", "2021-03-04", QStringLiteral("2021-03-04"));
-    row("base64Binary", "AAEC/w==", QStringLiteral("AAEC/w=="));
     row("string", "   ", QStringLiteral("   "));
     row("string", "<![CDATA[<&>]]>&#228;", QStringLiteral("<&>ä"));
 }
