@@ -2,7 +2,6 @@
 #include "SoapCall.h"
 #include "TestMain.h"
 
-#include <QAuthenticator>
 #include <QFile>
 #include <QNetworkProxy>
 #include <QProcess>
@@ -102,7 +101,6 @@ private Q_SLOTS:
     void destroyed();
     void foreignRequestsOfTheManager();
     void proxy();
-    void authentication();
     void secureServer();
 };
 
@@ -321,27 +319,6 @@ void SoapTransportTest::proxy()
     QCOMPARE(call.outcome(), QStringLiteral("value pong"));
     QCOMPARE(call.server.requests.first().line,
              QByteArray("POST http://soap.example.org:8080/service HTTP/1.1"));
-}
-
-void SoapTransportTest::authentication()
-{
-    Call call;
-    call.server.answer.rawBody = true;
-    call.server.answer.body =
-        "HTTP/1.1 401 Who\r\nWWW-Authenticate: Basic realm=\"r\"\r\nContent-Length: 0\r\n\r\n";
-    int asked = 0;
-    connect(call.transport.networkAccessManager(), &QNetworkAccessManager::authenticationRequired, this,
-            [&](QNetworkReply*, QAuthenticator* authenticator) {
-                if (++asked > 1)
-                    return;
-                authenticator->setUser(QStringLiteral("u"));
-                authenticator->setPassword(QStringLiteral("p"));
-                call.server.answer = HttpLoopback::Answer();
-                call.server.answer.body = good;
-            });
-    QVERIFY(call.ask());
-    QCOMPARE(call.outcome(), QStringLiteral("value pong"));
-    QCOMPARE(call.server.requests.last().header("Authorization"), QByteArray("Basic dTpw"));
 }
 
 void SoapTransportTest::secureServer()

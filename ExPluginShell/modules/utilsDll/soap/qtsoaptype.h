@@ -108,8 +108,8 @@ public:
     /// The child number @p pos, counted from 0.
     virtual QtSoapType& operator[](int pos);
 
-    /// The first child that matches @p key as `operator==` of QtSoapQName has it; one of the same case comes
-    /// first.
+    /// The first child that matches @p key as `operator==` of QtSoapQName has it; in a struct, one of the same
+    /// case comes first.
     virtual QtSoapType& operator[](const QtSoapQName& key);
 
     /// The first child with the local name @p key, in any namespace.
