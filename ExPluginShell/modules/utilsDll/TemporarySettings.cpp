@@ -12,6 +12,7 @@ namespace
 
 const QString seedFileName = QStringLiteral("DefaultTemporarySettings.ini");
 const QString productName = QStringLiteral("TrelioFrame");
+const QString unwritablePath = QStringLiteral(":/TrelioFrame.ini"); // no system writes to its resources
 
 /// File of the object constructed last; stays after that object is gone.
 QString& lastSettingsPath()
@@ -45,6 +46,11 @@ CTemporarySettings::CTemporarySettings(const char* programPath)
     }
     const QString fileName = QStringLiteral("%1.ini").arg(productName);
     lastSettingsPath() = QDir::toNativeSeparators(m_tempDir->path() + QDir::separator() + fileName);
+    if (!m_tempDir->isValid()) {
+        // The path reported above leads to the top of the file system, where a privileged program may write.
+        m_settings = std::make_unique<QSettings>(unwritablePath, QSettings::IniFormat);
+        return;
+    }
     const QString path = lastSettingsPath();
     if (programPath && m_tempDir->isValid()) {
         const QDir programFolder = QFileInfo(QFile::decodeName(programPath)).absoluteDir();
