@@ -33,6 +33,7 @@ private:
     };
     static Run start(const QStringList& arguments);
     static QString rowOf(const QString& report, const char* name);
+    static QMap<QString, QVariant> stored();
 };
 
 ShowcaseTest::Run ShowcaseTest::start(const QStringList& arguments)
@@ -54,8 +55,24 @@ QString ShowcaseTest::rowOf(const QString& report, const char* name)
     return row.match(report).captured(1);
 }
 
+/// What the product and its family keep in the native stores.
+QMap<QString, QVariant> ShowcaseTest::stored()
+{
+    QMap<QString, QVariant> values;
+    for (const char* const application : {"Trelio Frame", "Ostra Collection", ""}) {
+        const QSettings store(text("Tolvan"), text(application));
+        for (const QString& key : store.allKeys()) {
+            values[text(application) + QLatin1Char('/') + key] = store.value(key);
+        }
+    }
+    return values;
+}
+
 void ShowcaseTest::secondRunSeesTheFirst()
 {
+    QSettings family(text("Tolvan"), text("Ostra Collection"));
+    family.setValue(text("currentLanguage"), 7); // of another product, unknown to this one
+    family.sync();
     const Run first = start({text("--console")});
     QVERIFY2(first.exitCode == 0, qPrintable(first.report));
     QCOMPARE(rowOf(first.report, "earlier runs on this profile"), text("0"));
@@ -70,6 +87,8 @@ void ShowcaseTest::secondRunSeesTheFirst()
     QCOMPARE(rowOf(second.report, "suite file, value of the last run"),
              rowOf(first.report, "suite file read back"));
     QCOMPARE(rowOf(second.report, "getUserID"), rowOf(first.report, "getUserID"));
+    family.sync();
+    QCOMPARE(family.value(text("currentLanguage")).toInt(), 7); // after a walk through all languages
 }
 
 void ShowcaseTest::temporaryRunLeavesNothing()
@@ -98,9 +117,13 @@ void ShowcaseTest::failureIsTold()
 
 void ShowcaseTest::picturesInEveryLanguage()
 {
+    IsolatedProfile::clearStores(); // no language is stored either
+    QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text("loggerLevel"), QString());
+    const auto before = stored();
     const QTemporaryDir folder;
     const Run run = start({text("--screenshots"), folder.path()});
     QVERIFY2(run.exitCode == 0, qPrintable(run.report));
+    QCOMPARE(stored(), before);
     QSet<QByteArray> pictures;
     for (const char* const language : {"de", "en", "fr", "ja", "zh-CN"}) {
         QFile picture(folder.filePath(text("style-%1.png").arg(text(language))));

@@ -3,6 +3,7 @@
 #include "MessageBoxes.h"
 #include "pages/Pages.h"
 #include "ShowcaseWindow.h"
+#include "StoredLanguage.h"
 
 #include <utilsDll/AboutDlg.h>
 #include <utilsDll/LanguageManager.h>
@@ -102,8 +103,8 @@ bool writeWholePage(const QDir& folder, const QString& name)
 bool writeScreenshots(const QString& folder)
 {
     using TOLVAN_NAMESPACE::CLanguageManager;
+    const StoredLanguage storedLanguage;
     auto* const languages = CLanguageManager::instance();
-    const int before = languages->currentLanguageIndex();
     const QDir root(folder);
     bool ok = languages->langCount() > 0;
     for (int index = 0; index < languages->langCount(); ++index) {
@@ -114,7 +115,6 @@ bool writeScreenshots(const QString& folder)
         ok = writeDialogs(QDir(root.filePath(language))) && ok;
         ok = writeWholePage(root, QStringLiteral("style-") + language) && ok;
     }
-    languages->changeLanguage(before);
     QTextStream(stdout) << "Pictures of the showcase: " << QDir::toNativeSeparators(root.absolutePath())
                         << '\n';
     return ok;

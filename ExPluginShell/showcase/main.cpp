@@ -38,8 +38,9 @@ void startLog()
     using namespace TOLVAN_NAMESPACE;
     if (isLoggerEnabled()) {
         LiveLog& log = LiveLog::instance();
+        const QString level = getLogLevel(); // may be stored as an empty text
         log.init(CStorageLocation::loggerFilesPath().toStdString(), "showcase",
-                 getLogLevel().at(0).toLatin1());
+                 level.isEmpty() ? '\0' : level.at(0).toLatin1());
         initLoggerForUtilsDll(&log, QString());
         log.log(LogLevel::Information, "showcase: the host's own logger is at work");
     }

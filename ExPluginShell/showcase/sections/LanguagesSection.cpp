@@ -1,5 +1,6 @@
 #include "Report.h"
 #include "Sections.h"
+#include "StoredLanguage.h"
 
 #include <utilsDll/LanguageManager.h>
 
@@ -29,6 +30,7 @@ void showLanguage(Report& report, CLanguageManager& languages, int row)
 
 void showLanguages(Report& report)
 {
+    const StoredLanguage storedLanguage;
     CLanguageManager& languages = *CLanguageManager::instance();
     QElapsedTimer timer;
     timer.start();

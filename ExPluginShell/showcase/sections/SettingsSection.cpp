@@ -3,9 +3,12 @@
 
 #include <utilsDll/Settings.h>
 #include <utilsDll/StorageLocation.h>
+#include <utilsDll/TemporarySettings.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 using namespace TOLVAN_NAMESPACE;
@@ -32,15 +35,11 @@ void showRuns(Report& report)
                  CSettings().value(runsKey).toInt() == runs + 1);
 }
 
-void showModes(Report& report)
+/// While settings are kept in a temporary file.
+void showTemporaryMode(Report& report)
 {
     CSettings current;
     CSettings persistent(nullptr, true);
-    report.row(QStringLiteral("mode"), current.usingTemporarySettings() ? QStringLiteral("temporary file")
-                                                                        : QStringLiteral("native store"));
-    if (!current.usingTemporarySettings()) {
-        return;
-    }
     const QString seed = current.value(QStringLiteral("showcaseSeed")).toString();
     report.check(QStringLiteral("value from the seed file"), seed, !seed.isEmpty());
     current.beginGroup(QStringLiteral("A"));
@@ -53,6 +52,28 @@ void showModes(Report& report)
                  current.value(QStringLiteral("A/k")).toInt() == 1);
     report.check(QStringLiteral("a persistent-only instance"), QStringLiteral("stays on the native store"),
                  !persistent.usingTemporarySettings() && !persistent.contains(QStringLiteral("A/k")));
+}
+
+/// Both modes: a run on the native store turns to a temporary file for a moment.
+void showModes(Report& report)
+{
+    CSettings settings;
+    if (settings.usingTemporarySettings()) {
+        report.row(QStringLiteral("mode"), QStringLiteral("temporary file"));
+        showTemporaryMode(report);
+        return;
+    }
+    report.row(QStringLiteral("mode"), QStringLiteral("native store"));
+    {
+        const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
+        CTemporarySettings temporary(program.constData());
+        CSettings::setTemporarySettings(temporary);
+        report.check(QStringLiteral("turned to a temporary file"), temporary.tempSettingsPath(),
+                     settings.usingTemporarySettings());
+        showTemporaryMode(report);
+    }
+    report.check(QStringLiteral("the temporary file gone"), QStringLiteral("native store again"),
+                 !settings.usingTemporarySettings() && !settings.contains(QStringLiteral("A/k")));
 }
 
 void showSuiteFile(Report& report)
