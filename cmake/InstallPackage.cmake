@@ -27,7 +27,6 @@ install(FILES
     DESTINATION ${package_dir})
 if(TARGET LoggerDllTrelioFrame)
     # Looked for beside the library first, so it is installed there on every platform.
-    install(TARGETS LoggerDllTrelioFrame
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(TARGETS LoggerDllTrelioFrame LIBRARY
+        DESTINATION $<IF:$<BOOL:${WIN32}>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}>)
 endif()

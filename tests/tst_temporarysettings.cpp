@@ -136,8 +136,9 @@ void TemporarySettingsTest::unusableFolderIsReported()
             QtDebugMsg, "ASSERT_X in ExPluginShell\\modules\\utilsDll\\TemporarySettings line 25: Temporary "
                         "folder is not valid!");
         CTemporarySettings settings(nullptr);
-        settings.setValue(text("k"), 1); // lost, without a crash
-        QVERIFY(!QFile::exists(settings.tempSettingsPath()));
+        const QString key = QFileInfo(folder.path()).fileName(); // used by no other run
+        settings.setValue(key, 1);                               // lost, without a crash
+        QVERIFY(!onDisk(settings.tempSettingsPath(), key).isValid());
     }
     qputenv(variable, usual);
     QCOMPARE(logger.take(),

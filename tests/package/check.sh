@@ -1,13 +1,20 @@
 #!/usr/bin/env bash
-# Installs the build in BUILD_DIR into a folder of its own, builds the consumer project against that and runs it.
+# check.sh BUILD_DIR [CMAKE_OPTION...]: installs the build in BUILD_DIR into a folder of its own, builds the consumer
+# project against that and runs it, on a profile of its own.
 set -euo pipefail
 build_dir=$1
+shift
 source_dir=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+quietly() {
+    "$@" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
+}
 
-cmake --install "$build_dir" --prefix "$work/install" >"$work/log" || { cat "$work/log"; exit 1; }
-cmake -S "$source_dir" -B "$work/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-    -DCMAKE_PREFIX_PATH="$work/install" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-cmake --build "$work/build" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-"$work/build/consumer"
+quietly cmake --install "$build_dir" --prefix "$work/install"
+package=$(dirname "$(find "$work/install" -name UtilsDllTrelioFrameConfig.cmake)")
+quietly cmake -S "$source_dir" -B "$work/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DUtilsDllTrelioFrame_DIR="$package" "$@"
+quietly cmake --build "$work/build"
+export HOME=$work/home XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config
+cd "$work/build" && ctest --output-on-failure --no-tests=error
