@@ -21,16 +21,6 @@ QString& lastSettingsPath()
     return path;
 }
 
-/// A store without a folder of its own has a path at the top of the file system, where a privileged process
-/// could write; this format refuses every write, so that no stray file is left there.
-QSettings::Format lostWrites()
-{
-    static const QSettings::Format format = QSettings::registerFormat(
-        QStringLiteral("ini"), [](QIODevice&, QSettings::SettingsMap&) { return true; },
-        [](QIODevice&, const QSettings::SettingsMap&) { return false; });
-    return format;
-}
-
 } // namespace
 
 CTemporarySettings::CTemporarySettings(const char* programPath)
@@ -52,14 +42,13 @@ CTemporarySettings::CTemporarySettings(const char* programPath)
         return;
     }
     const QString path = lastSettingsPath();
-    if (programPath && m_tempDir->isValid()) {
+    if (programPath) {
         const QDir programFolder = QFileInfo(QFile::decodeName(programPath)).absoluteDir();
         QFile::copy(programFolder.absoluteFilePath(seedFileName), path);
         // A seed installed read-only must not make the settings read-only.
         QFile::setPermissions(path, QFile::permissions(path) | QFile::ReadOwner | QFile::WriteOwner);
     }
-    m_settings =
-        std::make_unique<QSettings>(path, m_tempDir->isValid() ? QSettings::IniFormat : lostWrites());
+    m_settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
 }
 
 CTemporarySettings::~CTemporarySettings()
