@@ -66,11 +66,8 @@ void load(benchmark::State& state, const char* file, const char* host)
 
 void apply(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->Iterations(1)
-        ->Repetitions(101)
-        ->ReportAggregatesOnly()
-        ->UseManualTime()
-        ->Unit(benchmark::kMicrosecond);
+    benchmark->Iterations(1)->Repetitions(101)->ReportAggregatesOnly()->UseManualTime()->Unit(
+        benchmark::kMicrosecond);
 }
 BENCHMARK_CAPTURE(load, widgetsAlone, widgets, nothing)->Apply(apply);
 BENCHMARK_CAPTURE(load, library, library, nothing)->Apply(apply);

@@ -3,9 +3,10 @@
 tolvan_add_test(tst_logging INTERNAL)
 tolvan_add_test(tst_settings ALONE)
 tolvan_add_test(tst_temporarysettings)
-tolvan_add_test(tst_suiteconfiguration TIMEOUT 300)
+tolvan_add_test(tst_suiteconfiguration LIBRARIES files_support)
 add_executable(suite_writer support/suite_writer.cpp)
 target_link_libraries(suite_writer PRIVATE Tolvan::UtilsDllTrelioFrame project_options)
+add_dependencies(tst_suiteconfiguration suite_writer)
 tolvan_add_test(tst_storagelocation)
 tolvan_add_test(tst_applicationstate ALONE)
 

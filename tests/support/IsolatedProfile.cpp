@@ -8,6 +8,9 @@ IsolatedProfile::IsolatedProfile()
 {
 #ifndef Q_OS_WIN
     const QDir root(m_root.path());
+    // A test that turns into an ordinary user goes on in here.
+    QFile::setPermissions(m_root.path(),
+                          QFile::permissions(m_root.path()) | QFile::ExeGroup | QFile::ExeOther);
     const QByteArray rest = ":" + qgetenv("XDG_DATA_DIRS") + ":/usr/local/share:/usr/share";
     const auto redirect = [&](const char* variable, const char* name,
                               const QByteArray& suffix = QByteArray()) {

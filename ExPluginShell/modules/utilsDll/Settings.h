@@ -118,7 +118,7 @@ public:
     /// replaced whole: a reader, or a crash at any moment, sees the old text or the new. Never throws; blocks
     /// while the file is written. \param type free-form name of the value's type, never interpreted here
     /// \return false, with an error in the log and the file untouched, when it can't be read, parsed or
-    /// written
+    /// written, and when a text holds a character that no XML file can hold
     static bool writeSettingToOstraUserConfigFile(const QString& group, const QString& key,
                                                   const QString& value, const QString& type);
     /// Like writeSettingToOstraUserConfigFile(), for the machine-wide file.

@@ -142,24 +142,27 @@ QDomElement CSettings::searchKeyInXML(QDomDocument& document, const QString& gro
 void CSettings::writeSettingToConfigFile(const QString& path, const QString& group, const QString& key,
                                          const QString& value, const QString& type)
 {
+    const auto replace = [&path](const QString& xml, const char* message) {
+        // A character that XML can't hold would make the file unreadable for all products of the family.
+        parsed(xml);
+        if (!Platform::replaceSharedFile(path, xml.toUtf8())) {
+            throw failure(message, path);
+        }
+    };
     const char* const openFailure = "Fail to open Ostra Collection configuration file: ";
     QFile file(path);
     if (!Platform::openSharedFile(file, QIODevice::ReadWrite | QIODevice::Text)) {
         if (file.exists()) {
             throw failure(openFailure, path);
         }
-        if (!Platform::replaceSharedFile(
-                path, createOstraCollectionXMLWithGivenSetting(group, key, value, type).toUtf8())) {
-            throw failure("Fail to create Ostra Collection configuration file : ", path);
-        }
+        replace(createOstraCollectionXMLWithGivenSetting(group, key, value, type),
+                "Fail to create Ostra Collection configuration file : ");
         return;
     }
     QString xml = QString::fromUtf8(file.readAll());
     file.close();
     writeSettingToOstraCollectionXML(group, key, value, type, xml);
-    if (!Platform::replaceSharedFile(path, xml.toUtf8())) {
-        throw failure(openFailure, path);
-    }
+    replace(xml, openFailure);
 }
 
 void CSettings::writeSettingToOstraCollectionXML(const QString& group, const QString& key,

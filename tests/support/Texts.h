@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+/// Short forms for tests that are full of texts.
+
+/// A text of the product, from UTF-8.
+inline QString text(const char* utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+/// What a file holds, with the line ends "\n"; "(unreadable)" when it can't be read.
+inline QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("(unreadable)");
+}
