@@ -18,6 +18,12 @@ build() {
     local -a targets=()
     [ -z "${TARGETS:-}" ] || read -ra targets <<<"--target $TARGETS"
     shift
+    if ! mkdir -p "build/$preset" || [ ! -w "build/$preset" ]; then
+        echo "setup: cannot write to $PWD/build/$preset; make it writable for $(id -un)" >&2
+        return 1
+    fi
+    # The compiler cache lies in the user's home; a user without one has it here.
+    [ -n "${CCACHE_DIR:-}" ] || [ -w "${HOME:-/nonexistent}" ] || export CCACHE_DIR=$PWD/build/ccache
     log=$(mktemp)
     echo "== Configuring ($preset)"
     if ! cmake --preset "$preset" "$@" >"$log" 2>&1; then
