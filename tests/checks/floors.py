@@ -9,8 +9,10 @@ FLOORS = [
     {"utilsdll_global", "ILoggerInterface", "Singleton"},
     {"Logging", "platform/*", "XmlBounds", "BuildIdentification"},
     {"StorageLocation", "ProcessInformation"},
-    {"TemporarySettings", "Settings", "SuiteConfiguration"},
-    {"ApplicationState", "LoggerStartup"},
+    {"TemporarySettings"},
+    {"Settings", "SuiteConfiguration"},
+    {"ApplicationState"},
+    {"LoggerStartup"},
 ]
 WINGS = {
     "language": {"LanguageManager", "ErrStrings"},
@@ -53,7 +55,7 @@ def main(root):
             faults.append(f"{name} stands on no floor and in no wing: name it in this check")
             continue
         floor, wing = place(unit)
-        for include in re.findall(r'^\s*#include "([^"]+)"', source.read_text(encoding="utf-8"), re.M):
+        for include in re.findall(r'^\s*#include ["<](?:utilsDll/)?([^">]+)[">]', source.read_text(encoding="utf-8"), re.M):
             beside = (source.parent / include).resolve()
             inside = beside if beside.exists() else (root / include).resolve()
             if not inside.exists():
