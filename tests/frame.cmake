@@ -35,3 +35,4 @@ tolvan_add_test(tst_libraryload STANDALONE SOURCES tst_libraryload.cpp
 target_compile_definitions(tst_libraryload PRIVATE UTILSDLL_FILE_NAME="$<TARGET_FILE_NAME:UtilsDllTrelioFrame>")
 target_include_directories(tst_libraryload PRIVATE ../ExPluginShell/modules/utilsDll)
 target_link_libraries(tst_libraryload PRIVATE ${CMAKE_DL_LIBS})
+add_dependencies(tst_libraryload fake_logger) # plays another module

@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Texts.h"
 
 #include <utilsDll/ApplicationState.h>
 #include <utilsDll/ProcessInformation.h>
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+#include <QThread>
 
 #include <functional>
 #include <memory>
@@ -18,16 +20,6 @@ using Setter = std::function<void()>;
 using Getter = std::function<QVariant()>;
 Q_DECLARE_METATYPE(Setter)
 Q_DECLARE_METATYPE(Getter)
-
-namespace
-{
-
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
 
 /// Every value in normal and in temporary mode, checked in the store itself.
 class ApplicationStateTest : public QObject
@@ -46,7 +38,7 @@ private Q_SLOTS:
     void userIdentifier();
     void deliberateAsymmetries();
     void pluginFolder();
-    void process();
+    void crashSenderIsWaitedFor();
 
 private:
     std::unique_ptr<QSettings> store() const
@@ -89,29 +81,20 @@ void ApplicationStateTest::storedForms_data()
     QTest::addColumn<Setter>("set");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QVariant>("after");
-    const auto row = [](const char* key, const Getter& get, const QVariant& before, const Setter& set,
-                        const char* stored, const QVariant& after) {
+    const auto row = [](const char* key, const Getter& get, const QVariant& before, const char* stored,
+                        const QVariant& after, const Setter& set) {
         QTest::addRow("%s=%s", key, stored) << text(key) << get << before << set << text(stored) << after;
     };
-    row("app_launched", &isFirstLaunch, true, &setNotFirstLaunch, "1", false);
-    row(
-        "app_launchMode", &getLastLaunchMode, text(""), [] { setLastLaunchMode(text("Plug-in")); }, "Plug-in",
-        text("Plug-in"));
-    row(
-        "loggerLevel", &getLogLevel, text("D"), [] { setLogLevel(text("W")); }, "W", text("W"));
-    row(
-        "loggerEnabled", &isLoggerEnabled, true, [] { setLoggerEnabled(false); }, "0", false);
-    row(
-        "loggerEnabled", &isLoggerEnabled, true, [] { setLoggerEnabled(true); }, "1", true);
-    row(
-        "TolvanSentCrashReport", &crashReportSendingAllowed, true, [] { allowCrashReportSending(false); },
-        "0", false);
-    row(
-        "TolvanSentCrashReport", &crashReportSendingAllowed, true, [] { allowCrashReportSending(true); }, "1",
-        true);
-    row(
-        "resellerId", &getResellerID, text("Tolvan"), [] { setResellerID(text("Shop")); }, "Shop",
-        text("Tolvan"));
+    row("app_launched", &isFirstLaunch, true, "1", false, &setNotFirstLaunch);
+    row("app_launchMode", &getLastLaunchMode, text(""), "M", text("M"), [] { setLastLaunchMode(text("M")); });
+    row("loggerLevel", &getLogLevel, text("D"), "W", text("W"), [] { setLogLevel(text("W")); });
+    row("loggerEnabled", &isLoggerEnabled, true, "0", false, [] { setLoggerEnabled(false); });
+    row("loggerEnabled", &isLoggerEnabled, true, "1", true, [] { setLoggerEnabled(true); });
+    const char* const crashReport = "TolvanSentCrashReport";
+    row(crashReport, &crashReportSendingAllowed, true, "0", false, [] { allowCrashReportSending(false); });
+    row(crashReport, &crashReportSendingAllowed, true, "1", true, [] { allowCrashReportSending(true); });
+    const QString tolvan = text("Tolvan");
+    row("resellerId", &getResellerID, tolvan, "Shop", tolvan, [] { setResellerID(text("Shop")); });
 }
 
 void ApplicationStateTest::storedForms()
@@ -210,16 +193,31 @@ void ApplicationStateTest::pluginFolder()
     QCOMPARE(getQtPluginsDir(true), program);
 }
 
-void ApplicationStateTest::process()
+void ApplicationStateTest::crashSenderIsWaitedFor()
 {
-    const QString name = UtilsDll::currentProcessName();
-    QCOMPARE(name, QFileInfo(QCoreApplication::applicationFilePath()).fileName());
-    for (const QString& unknown : {QString(), text("no such process.exe")}) {
-        const auto version = UtilsDll::binaryFileVersionByProcessName(unknown);
-        QCOMPARE(version.major + version.minor + version.build + version.revision, 0U);
-        QVERIFY(version.text.isEmpty());
-    }
+    const QTemporaryDir folder;
+    const QFileInfo own(QCoreApplication::applicationFilePath());
+    QString sender = folder.filePath(text("CrashSender"));
+    sender += own.suffix().isEmpty() ? QString() : QLatin1Char('.') + own.suffix();
+    QVERIFY(QFile::copy(own.filePath(), sender));
+    const QByteArray usual = qgetenv("PATH");
+    const QStringList folders = {folder.path(), own.path(), QFile::decodeName(usual)};
+    qputenv("PATH", QFile::encodeName(QDir::toNativeSeparators(folders.join(QDir::listSeparator()))));
+    startCrashSender();
+    qputenv("PATH", usual);
+    QCOMPARE(contentOf(folder.filePath(text("ended"))), QByteArray("1")); // without arguments
 }
 
-TOLVAN_CORE_TEST_MAIN(ApplicationStateTest)
+/// A copy of this program is the companion: it takes its time and notes the number of its arguments.
+int main(int argc, char* argv[])
+{
+    if (UtilsDll::currentProcessName().startsWith(text("CrashSender"))) {
+        const QCoreApplication sender(argc, argv);
+        QThread::msleep(300);
+        QFile file(QCoreApplication::applicationDirPath() + text("/ended"));
+        return file.open(QIODevice::WriteOnly) && file.write(QByteArray::number(argc)) > 0 ? 0 : 1;
+    }
+    return TestMain::run<QCoreApplication, ApplicationStateTest>(argc, argv);
+}
+
 #include "tst_applicationstate.moc"

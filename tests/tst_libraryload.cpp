@@ -35,6 +35,27 @@ private Q_SLOTS:
         QVERIFY2(loadedModulePath(fileName).isEmpty(), "the library stays in memory");
     }
 
+    // In a library loaded afresh, which has not yet given the answer that it keeps.
+    void knowsTheFolderOfTheConnector()
+    {
+        const QDir folder(QCoreApplication::applicationDirPath());
+        const QTemporaryDir product;
+        const QString path = product.filePath(QStringLiteral("PhotoshopPlugin-connectorTrelioFrame.dll"));
+        QVERIFY(QFile::copy(folder.filePath(QStringLiteral("fake_logger.dll")), path));
+        QLibrary library(folder.filePath(QStringLiteral(UTILSDLL_FILE_NAME)));
+        const auto getQtPluginsDir =
+            reinterpret_cast<QString (*)(bool)>(library.resolve("_ZN16TOLVAN_NAMESPACE15getQtPluginsDirEb"));
+        QVERIFY2(getQtPluginsDir, qPrintable(library.errorString()));
+        QCOMPARE(getQtPluginsDir(true), QString());
+        QLibrary connector(path);
+        QVERIFY2(connector.load(), qPrintable(connector.errorString()));
+        const QString found =
+            QDir::toNativeSeparators(QDir(product.path()).canonicalPath() + QLatin1Char('/'));
+        QCOMPARE(getQtPluginsDir(true), found);
+        QCOMPARE(getQtPluginsDir(false), found); // the first answer is kept
+        QVERIFY(connector.unload() && library.unload());
+    }
+
     void hidesWhatIsNotExported()
     {
         QLibrary library(

@@ -3,12 +3,8 @@
 
 #include "Logging.h"
 
-#include <QThread>
-
 #include <limits>
-#include <memory>
 #include <stdexcept>
-#include <vector>
 
 namespace Log = TOLVAN_NAMESPACE::Logging;
 
@@ -24,7 +20,6 @@ private Q_SLOTS:
     void assertionTexts();
     void loggerIsNeverReplaced();
     void throwingLoggerIsContained();
-    void linesOfManyThreadsArriveWhole();
 };
 
 void LoggingTest::withoutLoggerNothingIsEvaluated()
@@ -98,29 +93,6 @@ void LoggingTest::throwingLoggerIsContained()
     } logger;
     Log::Line(logger, LogLevel::Error, "f") << "text";
     QVERIFY(logger.take().isEmpty()); // still running
-}
-
-void LoggingTest::linesOfManyThreadsArriveWhole()
-{
-    auto& logger = installedLogger();
-    logger.take();
-    std::vector<std::unique_ptr<QThread>> threads;
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back(QThread::create([t] {
-            for (int i = 0; i < 250; ++i) {
-                UTILSDLL_LOG(LogLevel::Debug, "thread") << t << "/" << t << "/" << t;
-            }
-        }));
-        threads.back()->start();
-    }
-    for (const auto& thread : threads) {
-        QVERIFY(thread->wait(30000));
-    }
-    const QStringList lines = logger.take();
-    QCOMPARE(lines.size(), 1000);
-    for (int t = 0; t < 4; ++t) {
-        QCOMPARE(lines.count(QStringLiteral("D thread: %1/%1/%1").arg(t)), 250);
-    }
 }
 
 TOLVAN_CORE_TEST_MAIN(LoggingTest)

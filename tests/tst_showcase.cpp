@@ -1,18 +1,9 @@
 #include "TestMain.h"
+#include "Texts.h"
 
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSettings>
-
-namespace
-{
-
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
 
 /// The showcase on the console, on a real profile: it passes, and a second start finds what the first one
 /// left.

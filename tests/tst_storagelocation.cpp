@@ -1,11 +1,11 @@
 #include "InstalledLogger.h"
 #include "TestMain.h"
+#include "Texts.h"
 
 #include <utilsDll/StorageLocation.h>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <stdexcept>
 
@@ -15,11 +15,6 @@ Q_DECLARE_METATYPE(PathFunction)
 
 namespace
 {
-
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// Local application data as the test itself finds it.
 QString localData()
@@ -46,10 +41,8 @@ private Q_SLOTS:
     void createdFolders_data();
     void createdFolders();
     void appDataLocationCreatesNothing();
-    void machineWidePlaces();
-    void suiteFiles();
+    void otherPlaces();
     void preferencesFilePath();
-    void sessionFolderHasNoSeparator();
     void scriptResourcesAreLoggedOnce();
     void newestSiblingProduct_data();
     void newestSiblingProduct();
@@ -94,33 +87,30 @@ void StorageLocationTest::appDataLocationCreatesNothing()
              native(localData() + text("/Tolvan/Tolvan Vantora 2/Modules/")));
 }
 
-void StorageLocationTest::machineWidePlaces()
+void StorageLocationTest::otherPlaces()
 {
 #ifdef Q_OS_WIN
     const QString programData = qEnvironmentVariable("PROGRAMDATA");
+    const QString suiteBase = text("C:/ProgramData");
     const QString pictures = qEnvironmentVariable("PUBLIC");
+    const QString userConfig = localData();
 #else
     const QString programData = qEnvironmentVariable("XDG_CONFIG_DIRS");
+    const QString suiteBase = programData;
     const QString pictures =
         qEnvironmentVariable("XDG_DATA_DIRS").section(QLatin1Char(':'), 0, 0) + text("/pictures");
+    const QString userConfig = qEnvironmentVariable("XDG_CONFIG_HOME");
 #endif
     QCOMPARE(Location::getDefaultPreferencesFilePath(),
              native(programData + text("/Tolvan/Trelio Frame/Preferences.ini")));
     const QString samples = Location::getSamplePicturesLocation();
     QVERIFY2(samples.startsWith(native(pictures)), qPrintable(samples));
     QVERIFY2(samples.endsWith(native(text("/Trelio Frame Samples/"))), qPrintable(samples));
-}
-
-void StorageLocationTest::suiteFiles()
-{
-    const QString file = text("/Tolvan/Ostra Collection/OstraCollection.cfg");
-    QCOMPARE(Location::getOstraUserConfigFileLocation(),
-             QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + file);
-#ifdef Q_OS_WIN
-    QCOMPARE(Location::getOstraGlobalConfigFileLocation(), text("C:/ProgramData") + file);
-#else
-    QCOMPARE(Location::getOstraGlobalConfigFileLocation(), qEnvironmentVariable("XDG_CONFIG_DIRS") + file);
-#endif
+    const QString suiteFile = text("/Tolvan/Ostra Collection/OstraCollection.cfg");
+    QCOMPARE(Location::getOstraUserConfigFileLocation(), userConfig + suiteFile);
+    QCOMPARE(Location::getOstraGlobalConfigFileLocation(), suiteBase + suiteFile);
+    const QString session = Location::sessionSingleAppDirectory();
+    QVERIFY2(QFileInfo(session).isDir() && !session.endsWith(QLatin1Char('/')), qPrintable(session));
 }
 
 void StorageLocationTest::preferencesFilePath()
@@ -130,13 +120,6 @@ void StorageLocationTest::preferencesFilePath()
     QCOMPARE(Location::getCurrentPreferencesFilePath(), text("p.ini"));
     Location::setPreferencesFilePath(text(""));
     QVERIFY_EXCEPTION_THROWN(Location::getCurrentPreferencesFilePath(), std::runtime_error);
-}
-
-void StorageLocationTest::sessionFolderHasNoSeparator()
-{
-    const QString path = Location::sessionSingleAppDirectory();
-    QCOMPARE(path, QDir(QDir::tempPath()).absolutePath());
-    QVERIFY(!path.endsWith(QLatin1Char('/')));
 }
 
 void StorageLocationTest::scriptResourcesAreLoggedOnce()
