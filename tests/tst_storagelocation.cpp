@@ -40,7 +40,6 @@ class StorageLocationTest : public QObject
 private Q_SLOTS:
     void createdFolders_data();
     void createdFolders();
-    void appDataLocationCreatesNothing();
     void otherPlaces();
     void preferencesFilePath();
     void scriptResourcesAreLoggedOnce();
@@ -78,15 +77,6 @@ void StorageLocationTest::createdFolders()
     QVERIFY(QFileInfo(expected).isDir());
 }
 
-void StorageLocationTest::appDataLocationCreatesNothing()
-{
-    const QString expected = native(localData() + text("/Tolvan/Some Product/"));
-    QCOMPARE(Location::appDataLocation(text("Some Product")), expected);
-    QVERIFY(!QFileInfo::exists(expected));
-    QCOMPARE(Location::cafDataPathOfVantora2(),
-             native(localData() + text("/Tolvan/Tolvan Vantora 2/Modules/")));
-}
-
 void StorageLocationTest::otherPlaces()
 {
 #ifdef Q_OS_WIN
@@ -109,6 +99,11 @@ void StorageLocationTest::otherPlaces()
     const QString suiteFile = text("/Tolvan/Ostra Collection/OstraCollection.cfg");
     QCOMPARE(Location::getOstraUserConfigFileLocation(), userConfig + suiteFile);
     QCOMPARE(Location::getOstraGlobalConfigFileLocation(), suiteBase + suiteFile);
+    const QString product = native(localData() + text("/Tolvan/Some Product/"));
+    QCOMPARE(Location::appDataLocation(text("Some Product")), product);
+    QVERIFY(!QFileInfo::exists(product));
+    QCOMPARE(Location::cafDataPathOfVantora2(),
+             native(localData() + text("/Tolvan/Tolvan Vantora 2/Modules/")));
     const QString session = Location::sessionSingleAppDirectory();
     QVERIFY2(QFileInfo(session).isDir() && !session.endsWith(QLatin1Char('/')), qPrintable(session));
 }

@@ -147,35 +147,30 @@ void SuiteConfigurationTest::writing_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("key");
-    QTest::addColumn<int>("groups");
-    QTest::addColumn<int>("keys");
-    QTest::newRow("known key") << QByteArray(
-                                      "<c><group name='G'><key name='K' type='old' value='1'/></group></c>")
-                               << QByteArray("K") << 1 << 1;
-    QTest::newRow("key without a value")
-        << QByteArray("<c><group name='G'><key name='K' type='old'/></group></c>") << QByteArray("K") << 1
-        << 1;
-    QTest::newRow("second key makes a second group")
-        << QByteArray("<c><group name='G'><key name='K' type='old' value='1'/></group></c>")
-        << QByteArray("K2") << 2 << 2;
-    QTest::newRow("non-ASCII names") << QByteArray("<c/>") << QByteArray("schlüssel 日本 <&\"'>") << 1 << 1;
-    QTest::newRow("comments and foreign elements stay")
-        << QByteArray("<c><!-- note --><foreign a='b'>text</foreign></c>") << QByteArray("K") << 1 << 1;
+    QTest::addColumn<int>("entries"); // groups and keys afterwards
+    const auto row = [](const char* name, const char* body, const char* key, int entries) {
+        QTest::newRow(name) << QByteArray("<c>") + body + "</c>" << QByteArray(key) << entries;
+    };
+    const char* const known = "<group name='G'><key name='K' type='old' value='1'/></group>";
+    row("known key", known, "K", 1);
+    row("key without a value", "<group name='G'><key name='K' type='old'/></group>", "K", 1);
+    row("second key makes a second group", known, "K2", 2);
+    row("non-ASCII names", "", "schlüssel 日本 <&\"'>", 1);
+    row("comments and foreign elements stay", "<!-- note --><foreign a='b'>text</foreign>", "K", 1);
 }
 
 void SuiteConfigurationTest::writing()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, key);
-    QFETCH(int, groups);
-    QFETCH(int, keys);
+    QFETCH(int, entries);
     setContent(before);
     QVERIFY(write(key.constData(), "ä\"<new>"));
     QCOMPARE(read(key.constData()), text("ä\"<new>"));
     QDomDocument document;
     QVERIFY(document.setContent(contentOf(m_path)));
-    QCOMPARE(document.elementsByTagName(text("group")).count(), groups);
-    QCOMPARE(document.elementsByTagName(text("key")).count(), keys);
+    QCOMPARE(document.elementsByTagName(text("group")).count(), entries);
+    QCOMPARE(document.elementsByTagName(text("key")).count(), entries);
     QVERIFY(!before.contains("old") || contentOf(m_path).contains("\"old\"")); // the type is left as it was
     QVERIFY(!before.contains("note") || contentOf(m_path).contains("<!-- note -->"));
     QVERIFY(!before.contains("foreign") || contentOf(m_path).contains("<foreign a=\"b\">text</foreign>"));
@@ -186,21 +181,23 @@ void SuiteConfigurationTest::failures_data()
     QTest::addColumn<QByteArray>("situation");
     QTest::addColumn<QString>("readLine");
     QTest::addColumn<QString>("writeLine");
-    const QString readPrefix = text("E TOLVAN_NAMESPACE::CSettings::getSettingFromOstraUserConfigFile: ");
-    const QString writePrefix = text("E TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile: ");
+    const auto row = [this](const char* name, const QByteArray& situation, const QString& read,
+                            const QString& written, const QString& detail) {
+        QTest::newRow(name) << situation << read + detail
+                            << text("E TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile: ") +
+                                   written + detail;
+    };
+    const QString reading = text("E TOLVAN_NAMESPACE::CSettings::getSettingFromOstraUserConfigFile: ");
     const QString malformed = text("The stream is not a valid XML:\n");
-    const QString missing = text("W TOLVAN_NAMESPACE::CSettings::getSettingFromConfigFile: Ostra Collection "
-                                 "configuration file was not found: ");
-    QTest::newRow("no folder") << QByteArray("no folder") << missing + m_path
-                               << writePrefix +
-                                      text("Fail to create Ostra Collection configuration file : ") + m_path;
-    QTest::newRow("a folder in the way")
-        << QByteArray("folder")
-        << readPrefix + text("Fail to open the Ostra Collection configuration file: ") + m_path
-        << writePrefix + text("Fail to open Ostra Collection configuration file: ") + m_path;
-    QTest::newRow("empty file") << QByteArray() << readPrefix + malformed << writePrefix + malformed;
-    QTest::newRow("not XML") << QByteArray("<a><b></a>") << readPrefix + malformed + text("<a><b></a>")
-                             << writePrefix + malformed + text("<a><b></a>");
+    row("no folder", "no folder",
+        text("W TOLVAN_NAMESPACE::CSettings::getSettingFromConfigFile: Ostra Collection configuration file "
+             "was not found: "),
+        text("Fail to create Ostra Collection configuration file : "), m_path);
+    row("a folder in the way", "folder",
+        reading + text("Fail to open the Ostra Collection configuration file: "),
+        text("Fail to open Ostra Collection configuration file: "), m_path);
+    row("empty file", "", reading + malformed, malformed, QString());
+    row("not XML", "<a><b></a>", reading + malformed, malformed, text("<a><b></a>"));
 }
 
 void SuiteConfigurationTest::failures()
