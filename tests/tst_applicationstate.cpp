@@ -27,18 +27,165 @@ class ApplicationStateTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
-    void init();
-    void cleanup();
-    void storedForms_data();
-    void storedForms();
-    void switches_data();
-    void switches();
-    void crashCounters();
-    void userIdentifier();
-    void deliberateAsymmetries();
-    void pluginFolder();
-    void crashSenderIsWaitedFor();
+    void initTestCase_data()
+    {
+        QTest::addColumn<bool>("temporary");
+        QTest::newRow("native store") << false;
+        QTest::newRow("temporary file") << true;
+    }
+
+    void init()
+    {
+        IsolatedProfile::clearStores();
+        QFETCH_GLOBAL(bool, temporary);
+        if (temporary) {
+            m_temporary = std::make_unique<CTemporarySettings>(nullptr);
+            CSettings::setTemporarySettings(*m_temporary);
+        }
+    }
+
+    void cleanup()
+    {
+        CSettings::resetTemporarySettings();
+        m_temporary.reset();
+    }
+
+    void storedForms_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<Getter>("get");
+        QTest::addColumn<QVariant>("before");
+        QTest::addColumn<Setter>("set");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QVariant>("after");
+        const auto row = [](const char* key, const Getter& get, const QVariant& before, const char* stored,
+                            const QVariant& after, const Setter& set) {
+            QTest::addRow("%s=%s", key, stored) << text(key) << get << before << set << text(stored) << after;
+        };
+        row("app_launched", &isFirstLaunch, true, "1", false, &setNotFirstLaunch);
+        row("app_launchMode", &getLastLaunchMode, text(""), "M", text("M"),
+            [] { setLastLaunchMode(text("M")); });
+        row("loggerLevel", &getLogLevel, text("D"), "W", text("W"), [] { setLogLevel(text("W")); });
+        row("loggerEnabled", &isLoggerEnabled, true, "0", false, [] { setLoggerEnabled(false); });
+        row("loggerEnabled", &isLoggerEnabled, true, "1", true, [] { setLoggerEnabled(true); });
+        const char* const crashReport = "TolvanSentCrashReport";
+        row(crashReport, &crashReportSendingAllowed, true, "0", false,
+            [] { allowCrashReportSending(false); });
+        row(crashReport, &crashReportSendingAllowed, true, "1", true, [] { allowCrashReportSending(true); });
+        const QString tolvan = text("Tolvan");
+        row("resellerId", &getResellerID, tolvan, "Shop", tolvan, [] { setResellerID(text("Shop")); });
+    }
+
+    void storedForms()
+    {
+        QFETCH(QString, key);
+        QFETCH(Getter, get);
+        QFETCH(Setter, set);
+        QTEST(get(), "before");
+        QVERIFY(!store()->contains(key)); // reading stores nothing
+        set();
+        QTEST(store()->value(key).toString(), "stored");
+        QTEST(get(), "after");
+    }
+
+    void switches_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("text 0") << QVariant(text("0")) << false;
+        QTest::newRow("number 0") << QVariant(0) << false;
+        QTest::newRow("empty text") << QVariant(text("")) << true;
+        QTest::newRow("text 00") << QVariant(text("00")) << true;
+        QTest::newRow("boolean false") << QVariant(false) << true;
+        QTest::newRow("word") << QVariant(text("no")) << true;
+    }
+
+    void switches()
+    {
+        QFETCH(QVariant, stored);
+        for (const char* const key : {"loggerEnabled", "TolvanSentCrashReport", "UseActionSave"}) {
+            CSettings().setValue(text(key), stored);
+        }
+        QTEST(isLoggerEnabled(), "expected");
+        QTEST(crashReportSendingAllowed(), "expected");
+        QTEST(useActionSave(), "expected");
+    }
+
+    void crashCounters()
+    {
+        QCOMPARE(crashCounterForPlugin(text("X")), 0);
+        setLastLaunchMode(text("X"));
+        incrementCrashCounter();
+        incrementCrashCounter();
+        setLastLaunchMode(text("Y"));
+        incrementCrashCounter();
+        QCOMPARE(crashCounterForPlugin(text("X")), 2);
+        QCOMPARE(store()->value(text("crashCounter_Y")).toInt(), 1);
+        crashCounterReset(text("X"));
+        QCOMPARE(crashCounterForPlugin(text("X")), 0);
+        QVERIFY(!store()->contains(text("crashCounter_X")) && store()->contains(text("crashCounter_Y")));
+    }
+
+    void userIdentifier()
+    {
+#ifdef Q_OS_WIN
+        QSettings company(text("HKEY_CURRENT_USER\\Software\\Tolvan\\"), QSettings::NativeFormat);
+#else
+        QSettings company(text("Tolvan"));
+#endif
+        const QString id = getUserID();
+        QVERIFY(QRegularExpression(text("^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")).match(id).hasMatch());
+        company.sync();
+        QCOMPARE(company.value(text("UserID")).toString(), id);
+        QCOMPARE(getUserID(), id);
+        company.setValue(text("UserID"), text("given"));
+        company.sync();
+        QCOMPARE(getUserID(), text("given"));
+        QVERIFY(!m_temporary || !store()->contains(text("UserID")));
+    }
+
+    void deliberateAsymmetries()
+    {
+        QVERIFY(useActionSave()); // nothing stored
+        const QString global = CStorageLocation::getOstraGlobalConfigFileLocation();
+        QVERIFY(QDir().mkpath(QFileInfo(global).path()));
+        setStatisticSent(false);
+        QVERIFY(isStatisticSent());
+        const auto stored = [] {
+            return CSettings::getSettingFromOstraGlobalConfigFile(text("Instrumentation"),
+                                                                  text("AllowSending"), QString());
+        };
+        QCOMPARE(stored(), text("0"));
+        setStatisticSent(true);
+        QCOMPARE(stored(), text("1"));
+        QVERIFY(QFile::remove(global));
+    }
+
+    void pluginFolder()
+    {
+        QFETCH_GLOBAL(bool, temporary);
+        const QString program = QCoreApplication::applicationDirPath();
+        if (!temporary) { // the first answer is kept for the life of the process
+            QCOMPARE(getQtPluginsDir(true), QString());
+        }
+        QCOMPARE(getQtPluginsDir(false), program);
+        QCOMPARE(getQtPluginsDir(true), program);
+    }
+
+    void crashSenderIsWaitedFor()
+    {
+        const QTemporaryDir folder;
+        const QFileInfo own(QCoreApplication::applicationFilePath());
+        QString sender = folder.filePath(text("CrashSender"));
+        sender += own.suffix().isEmpty() ? QString() : QLatin1Char('.') + own.suffix();
+        QVERIFY(QFile::copy(own.filePath(), sender));
+        const QByteArray usual = qgetenv("PATH");
+        const QStringList folders = {folder.path(), own.path(), QFile::decodeName(usual)};
+        qputenv("PATH", QFile::encodeName(QDir::toNativeSeparators(folders.join(QDir::listSeparator()))));
+        startCrashSender();
+        qputenv("PATH", usual);
+        QCOMPARE(contentOf(folder.filePath(text("ended"))), QByteArray("1")); // without arguments
+    }
 
 private:
     std::unique_ptr<QSettings> store() const
@@ -49,164 +196,6 @@ private:
     }
     std::unique_ptr<CTemporarySettings> m_temporary;
 };
-
-void ApplicationStateTest::initTestCase_data()
-{
-    QTest::addColumn<bool>("temporary");
-    QTest::newRow("native store") << false;
-    QTest::newRow("temporary file") << true;
-}
-
-void ApplicationStateTest::init()
-{
-    IsolatedProfile::clearStores();
-    QFETCH_GLOBAL(bool, temporary);
-    if (temporary) {
-        m_temporary = std::make_unique<CTemporarySettings>(nullptr);
-        CSettings::setTemporarySettings(*m_temporary);
-    }
-}
-
-void ApplicationStateTest::cleanup()
-{
-    CSettings::resetTemporarySettings();
-    m_temporary.reset();
-}
-
-void ApplicationStateTest::storedForms_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<Getter>("get");
-    QTest::addColumn<QVariant>("before");
-    QTest::addColumn<Setter>("set");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QVariant>("after");
-    const auto row = [](const char* key, const Getter& get, const QVariant& before, const char* stored,
-                        const QVariant& after, const Setter& set) {
-        QTest::addRow("%s=%s", key, stored) << text(key) << get << before << set << text(stored) << after;
-    };
-    row("app_launched", &isFirstLaunch, true, "1", false, &setNotFirstLaunch);
-    row("app_launchMode", &getLastLaunchMode, text(""), "M", text("M"), [] { setLastLaunchMode(text("M")); });
-    row("loggerLevel", &getLogLevel, text("D"), "W", text("W"), [] { setLogLevel(text("W")); });
-    row("loggerEnabled", &isLoggerEnabled, true, "0", false, [] { setLoggerEnabled(false); });
-    row("loggerEnabled", &isLoggerEnabled, true, "1", true, [] { setLoggerEnabled(true); });
-    const char* const crashReport = "TolvanSentCrashReport";
-    row(crashReport, &crashReportSendingAllowed, true, "0", false, [] { allowCrashReportSending(false); });
-    row(crashReport, &crashReportSendingAllowed, true, "1", true, [] { allowCrashReportSending(true); });
-    const QString tolvan = text("Tolvan");
-    row("resellerId", &getResellerID, tolvan, "Shop", tolvan, [] { setResellerID(text("Shop")); });
-}
-
-void ApplicationStateTest::storedForms()
-{
-    QFETCH(QString, key);
-    QFETCH(Getter, get);
-    QFETCH(Setter, set);
-    QTEST(get(), "before");
-    QVERIFY(!store()->contains(key)); // reading stores nothing
-    set();
-    QTEST(store()->value(key).toString(), "stored");
-    QTEST(get(), "after");
-}
-
-void ApplicationStateTest::switches_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("text 0") << QVariant(text("0")) << false;
-    QTest::newRow("number 0") << QVariant(0) << false;
-    QTest::newRow("empty text") << QVariant(text("")) << true;
-    QTest::newRow("text 00") << QVariant(text("00")) << true;
-    QTest::newRow("boolean false") << QVariant(false) << true;
-    QTest::newRow("word") << QVariant(text("no")) << true;
-}
-
-void ApplicationStateTest::switches()
-{
-    QFETCH(QVariant, stored);
-    for (const char* const key : {"loggerEnabled", "TolvanSentCrashReport", "UseActionSave"}) {
-        CSettings().setValue(text(key), stored);
-    }
-    QTEST(isLoggerEnabled(), "expected");
-    QTEST(crashReportSendingAllowed(), "expected");
-    QTEST(useActionSave(), "expected");
-}
-
-void ApplicationStateTest::crashCounters()
-{
-    QCOMPARE(crashCounterForPlugin(text("X")), 0);
-    setLastLaunchMode(text("X"));
-    incrementCrashCounter();
-    incrementCrashCounter();
-    setLastLaunchMode(text("Y"));
-    incrementCrashCounter();
-    QCOMPARE(crashCounterForPlugin(text("X")), 2);
-    QCOMPARE(store()->value(text("crashCounter_Y")).toInt(), 1);
-    crashCounterReset(text("X"));
-    QCOMPARE(crashCounterForPlugin(text("X")), 0);
-    QVERIFY(!store()->contains(text("crashCounter_X")) && store()->contains(text("crashCounter_Y")));
-}
-
-void ApplicationStateTest::userIdentifier()
-{
-#ifdef Q_OS_WIN
-    QSettings company(text("HKEY_CURRENT_USER\\Software\\Tolvan\\"), QSettings::NativeFormat);
-#else
-    QSettings company(text("Tolvan"));
-#endif
-    const QString id = getUserID();
-    QVERIFY(QRegularExpression(text("^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")).match(id).hasMatch());
-    company.sync();
-    QCOMPARE(company.value(text("UserID")).toString(), id);
-    QCOMPARE(getUserID(), id);
-    company.setValue(text("UserID"), text("given"));
-    company.sync();
-    QCOMPARE(getUserID(), text("given"));
-    QVERIFY(!m_temporary || !store()->contains(text("UserID")));
-}
-
-void ApplicationStateTest::deliberateAsymmetries()
-{
-    QVERIFY(useActionSave()); // nothing stored
-    const QString global = CStorageLocation::getOstraGlobalConfigFileLocation();
-    QVERIFY(QDir().mkpath(QFileInfo(global).path()));
-    setStatisticSent(false);
-    QVERIFY(isStatisticSent());
-    const auto stored = [] {
-        return CSettings::getSettingFromOstraGlobalConfigFile(text("Instrumentation"), text("AllowSending"),
-                                                              QString());
-    };
-    QCOMPARE(stored(), text("0"));
-    setStatisticSent(true);
-    QCOMPARE(stored(), text("1"));
-    QVERIFY(QFile::remove(global));
-}
-
-void ApplicationStateTest::pluginFolder()
-{
-    QFETCH_GLOBAL(bool, temporary);
-    const QString program = QCoreApplication::applicationDirPath();
-    if (!temporary) { // the first answer is kept for the life of the process
-        QCOMPARE(getQtPluginsDir(true), QString());
-    }
-    QCOMPARE(getQtPluginsDir(false), program);
-    QCOMPARE(getQtPluginsDir(true), program);
-}
-
-void ApplicationStateTest::crashSenderIsWaitedFor()
-{
-    const QTemporaryDir folder;
-    const QFileInfo own(QCoreApplication::applicationFilePath());
-    QString sender = folder.filePath(text("CrashSender"));
-    sender += own.suffix().isEmpty() ? QString() : QLatin1Char('.') + own.suffix();
-    QVERIFY(QFile::copy(own.filePath(), sender));
-    const QByteArray usual = qgetenv("PATH");
-    const QStringList folders = {folder.path(), own.path(), QFile::decodeName(usual)};
-    qputenv("PATH", QFile::encodeName(QDir::toNativeSeparators(folders.join(QDir::listSeparator()))));
-    startCrashSender();
-    qputenv("PATH", usual);
-    QCOMPARE(contentOf(folder.filePath(text("ended"))), QByteArray("1")); // without arguments
-}
 
 /// A copy of this program is the companion: it takes its time and notes the number of its arguments.
 int main(int argc, char* argv[])

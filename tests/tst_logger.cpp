@@ -210,22 +210,6 @@ private Q_SLOTS:
         QCOMPARE(next, QVector<int>(Threads, Lines));
     }
 
-    // Each round goes on at the end of the file. The line before init would reach it if the library had only
-    // seemed to be unloaded and still knew its file.
-    void unloadingLeavesNothingBehind()
-    {
-        constexpr int Rounds = 100;
-        QList<QByteArray> expected;
-        for (int round = 0; round < Rounds; ++round) {
-            CLoadedLogger logger;
-            logger->log('E', "before init");
-            logger.init(m_folder);
-            expected += QByteArray::number(round);
-            logger->log('D', expected.last().constData());
-        }
-        QCOMPARE(loggedTexts(m_file), expected);
-    }
-
     void secondInitMovesToAnotherFile()
     {
         const QString second = m_folder + QStringLiteral("/second");

@@ -32,12 +32,90 @@ class LoggerStartupTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void outcomes_data();
-    void outcomes();
-    void startUpLines();
-    void levelLetter_data();
-    void levelLetter();
+    void init() { IsolatedProfile::clearStores(); }
+
+    void outcomes_data()
+    {
+        QTest::addColumn<QString>("enabled");
+        QTest::addColumn<QString>("library");
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QByteArray>("logger");
+        QTest::addColumn<QByteArray>("err");
+        const QString good = text("fake_logger.dll");
+        QTest::newRow("switched off, host logger")
+            << "0" << good << "host" << QByteArray("null") << QByteArray();
+        QTest::newRow("switched off") << "0" << good << "none" << QByteArray("null") << QByteArray();
+        QTest::newRow("host logger") << "1" << good << "host" << QByteArray("host") << QByteArray();
+        QTest::newRow("library missing")
+            << "1" << QString() << "none" << QByteArray("null") << missing + missing;
+        QTest::newRow("library without export")
+            << "1" << text("fake_logger_no_export.dll") << "none" << QByteArray("null") << missing + missing;
+        QTest::newRow("library without logger")
+            << "1" << text("fake_logger_null.dll") << "none" << QByteArray("null") << missing + missing;
+    }
+
+    void outcomes()
+    {
+        QFETCH(QString, enabled);
+        QFETCH(QString, library);
+        QFETCH(QString, mode);
+        QFETCH(QByteArray, logger);
+        QFETCH(QByteArray, err);
+        store("loggerEnabled", enabled);
+        const Outcome outcome = start(library, mode);
+        QCOMPARE(outcome.result.mid(0, 3),
+                 QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
+        QCOMPARE(outcome.out, QByteArray());
+        QCOMPARE(outcome.err, err);
+        QCOMPARE(outcome.loggerCalls, QByteArray("(unreadable)")); // nobody made the file
+    }
+
+    void startUpLines()
+    {
+        const Outcome outcome = start(text("fake_logger.dll"), text("none"));
+        QCOMPARE(outcome.result.mid(0, 3), QList<QByteArray>({"library", "library", "0"}));
+        QCOMPARE(outcome.err, QByteArray());
+        QCOMPARE(outcome.out, "Initializing logger in " + outcome.logFolder + " / my log" + lineEnd);
+        QVERIFY(QDir(QString::fromUtf8(outcome.logFolder)).exists());
+
+        const QList<QByteArray> lines = outcome.loggerCalls.split('\n'); // one set, for two calls
+        QCOMPARE(lines.size(), 7);
+        QCOMPARE(lines.at(0), "init " + outcome.logFolder + "|my log|68");
+        const QByteArray prefix = " TOLVAN_NAMESPACE::initLogger: ";
+        const QString timeLine = QString::fromUtf8(lines.at(1));
+        const QString timePrefix = QString::fromUtf8("D" + prefix + "Current time (UTC): ");
+        QVERIFY2(timeLine.startsWith(timePrefix) && timeLine.endsWith(QLatin1Char('Z')),
+                 qPrintable(timeLine));
+        const auto time = QDateTime::fromString(timeLine.mid(timePrefix.size()), Qt::ISODate);
+        QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTimeUtc())) < 60);
+        QCOMPARE(lines.at(2), "D" + prefix + "Trelio Frame Version: 5.0.5.1");
+        const QRegularExpression uid(text("^D TOLVAN_NAMESPACE::initLogger: UID: [0-9a-f-]{36}$"));
+        QVERIFY(uid.match(QString::fromUtf8(lines.at(3))).hasMatch());
+        QCOMPARE(lines.at(4), "D" + prefix + "CE version: 10.0.12.220711210");
+        QCOMPARE(lines.at(5), "I" + prefix + "Starting QZ application for branch 'HEAD', hash '377e5e6a6'");
+        QCOMPARE(lines.at(6), QByteArray());
+    }
+
+    void levelLetter_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("letter");
+        QTest::newRow("one letter") << "E" << int('E');
+        QTest::newRow("a word") << "Warning" << int('W');
+        QTest::newRow("empty") << "" << 0;
+        QTest::newRow("Latin-1") << QStringLiteral("é") << 0xE9;
+        QTest::newRow("outside Latin-1") << QStringLiteral("日") << 0;
+    }
+
+    void levelLetter()
+    {
+        QFETCH(QString, stored);
+        QFETCH(int, letter);
+        store("loggerLevel", stored);
+        const Outcome outcome = start(text("fake_logger.dll"), text("none"));
+        QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letter) + "\n"),
+                 outcome.loggerCalls);
+    }
 
 private:
     struct Outcome {
@@ -52,11 +130,6 @@ private:
         QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text(key), value);
     }
 };
-
-void LoggerStartupTest::init()
-{
-    IsolatedProfile::clearStores();
-}
 
 LoggerStartupTest::Outcome LoggerStartupTest::start(const QString& library, const QString& mode)
 {
@@ -81,86 +154,6 @@ LoggerStartupTest::Outcome LoggerStartupTest::start(const QString& library, cons
     outcome.err = process.readAllStandardError();
     outcome.loggerCalls = contentOf(program.filePath(text("logger.txt")));
     return outcome;
-}
-
-void LoggerStartupTest::outcomes_data()
-{
-    QTest::addColumn<QString>("enabled");
-    QTest::addColumn<QString>("library");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QByteArray>("logger");
-    QTest::addColumn<QByteArray>("err");
-    const QString good = text("fake_logger.dll");
-    QTest::newRow("switched off, host logger") << "0" << good << "host" << QByteArray("null") << QByteArray();
-    QTest::newRow("switched off") << "0" << good << "none" << QByteArray("null") << QByteArray();
-    QTest::newRow("host logger") << "1" << good << "host" << QByteArray("host") << QByteArray();
-    QTest::newRow("library missing") << "1" << QString() << "none" << QByteArray("null") << missing + missing;
-    QTest::newRow("library without export")
-        << "1" << text("fake_logger_no_export.dll") << "none" << QByteArray("null") << missing + missing;
-    QTest::newRow("library without logger")
-        << "1" << text("fake_logger_null.dll") << "none" << QByteArray("null") << missing + missing;
-}
-
-void LoggerStartupTest::outcomes()
-{
-    QFETCH(QString, enabled);
-    QFETCH(QString, library);
-    QFETCH(QString, mode);
-    QFETCH(QByteArray, logger);
-    QFETCH(QByteArray, err);
-    store("loggerEnabled", enabled);
-    const Outcome outcome = start(library, mode);
-    QCOMPARE(outcome.result.mid(0, 3),
-             QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
-    QCOMPARE(outcome.out, QByteArray());
-    QCOMPARE(outcome.err, err);
-    QCOMPARE(outcome.loggerCalls, QByteArray("(unreadable)")); // nobody made the file
-}
-
-void LoggerStartupTest::startUpLines()
-{
-    const Outcome outcome = start(text("fake_logger.dll"), text("none"));
-    QCOMPARE(outcome.result.mid(0, 3), QList<QByteArray>({"library", "library", "0"}));
-    QCOMPARE(outcome.err, QByteArray());
-    QCOMPARE(outcome.out, "Initializing logger in " + outcome.logFolder + " / my log" + lineEnd);
-    QVERIFY(QDir(QString::fromUtf8(outcome.logFolder)).exists());
-
-    const QList<QByteArray> lines = outcome.loggerCalls.split('\n'); // one set, for two calls
-    QCOMPARE(lines.size(), 7);
-    QCOMPARE(lines.at(0), "init " + outcome.logFolder + "|my log|68");
-    const QByteArray prefix = " TOLVAN_NAMESPACE::initLogger: ";
-    const QString timeLine = QString::fromUtf8(lines.at(1));
-    const QString timePrefix = QString::fromUtf8("D" + prefix + "Current time (UTC): ");
-    QVERIFY2(timeLine.startsWith(timePrefix) && timeLine.endsWith(QLatin1Char('Z')), qPrintable(timeLine));
-    const auto time = QDateTime::fromString(timeLine.mid(timePrefix.size()), Qt::ISODate);
-    QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTimeUtc())) < 60);
-    QCOMPARE(lines.at(2), "D" + prefix + "Trelio Frame Version: 5.0.5.1");
-    const QRegularExpression uid(text("^D TOLVAN_NAMESPACE::initLogger: UID: [0-9a-f-]{36}$"));
-    QVERIFY(uid.match(QString::fromUtf8(lines.at(3))).hasMatch());
-    QCOMPARE(lines.at(4), "D" + prefix + "CE version: 10.0.12.220711210");
-    QCOMPARE(lines.at(5), "I" + prefix + "Starting QZ application for branch 'HEAD', hash '377e5e6a6'");
-    QCOMPARE(lines.at(6), QByteArray());
-}
-
-void LoggerStartupTest::levelLetter_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<int>("letter");
-    QTest::newRow("one letter") << "E" << int('E');
-    QTest::newRow("a word") << "Warning" << int('W');
-    QTest::newRow("empty") << "" << 0;
-    QTest::newRow("Latin-1") << QStringLiteral("é") << 0xE9;
-    QTest::newRow("outside Latin-1") << QStringLiteral("日") << 0;
-}
-
-void LoggerStartupTest::levelLetter()
-{
-    QFETCH(QString, stored);
-    QFETCH(int, letter);
-    store("loggerLevel", stored);
-    const Outcome outcome = start(text("fake_logger.dll"), text("none"));
-    QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letter) + "\n"),
-             outcome.loggerCalls);
 }
 
 TOLVAN_CORE_TEST_MAIN(LoggerStartupTest)

@@ -42,225 +42,216 @@ class SettingsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void operationsReachTheStore_data();
-    void operationsReachTheStore();
+    void init()
+    {
+        IsolatedProfile::clearStores();
+        m_temporary = std::make_unique<CTemporarySettings>(nullptr);
+        installedLogger().take();
+    }
+
+    void cleanup() { CSettings::resetTemporarySettings(); }
+
+    void operationsReachTheStore_data()
+    {
+        QTest::addColumn<bool>("temporary");
+        QTest::addColumn<bool>("persistentOnly");
+        QTest::newRow("native store") << false << false;
+        QTest::newRow("temporary file") << true << false;
+        QTest::newRow("native store whatever the mode") << false << true;
+    }
+
+    void operationsReachTheStore()
+    {
+        QFETCH(bool, temporary);
+        QFETCH(bool, persistentOnly);
+        if (temporary || persistentOnly) {
+            CSettings::setTemporarySettings(*m_temporary);
+        }
+        CSettings settings(nullptr, persistentOnly);
+        QCOMPARE(settings.usingTemporarySettings(), temporary);
+        settings.setValue(text("k"), 7);
+        settings.setValue(QStringLiteral("ключ 日本"), QStringLiteral("значение"));
+        settings.beginWriteArray(text("list"), 2);
+        settings.setArrayIndex(1);
+        settings.setValue(text("entry"), text("second"));
+        settings.endArray();
+        settings.sync();
+        {
+            const auto plain = store(temporary, *m_temporary);
+            QCOMPARE(plain->value(text("k")).toInt(), 7);
+            QCOMPARE(plain->value(QStringLiteral("ключ 日本")).toString(), QStringLiteral("значение"));
+            QCOMPARE(plain->value(text("list/size")).toInt(), 2);
+            QCOMPARE(plain->value(text("list/2/entry")).toString(), text("second"));
+        }
+        QCOMPARE(settings.value(text("k"), 0).toInt(), 7);
+        QCOMPARE(settings.value(text("absent"), 5).toInt(), 5);
+        QVERIFY(settings.contains(text("k")) && !settings.contains(text("absent")));
+        QCOMPARE(settings.beginReadArray(text("list")), 2);
+        settings.setArrayIndex(1);
+        QCOMPARE(settings.value(text("entry")).toString(), text("second"));
+        settings.endArray();
+        settings.remove(text("k"));
+        settings.sync();
+        QVERIFY(!store(temporary, *m_temporary)->contains(text("k")));
+        // Nothing leaks into the other store.
+        QVERIFY(!store(!temporary, *m_temporary)->contains(text("list/size")));
+    }
+
     void groups_data() { operationsReachTheStore_data(); }
-    void groups();
-    void groupSurvivesSwitchOfMode();
-    void modeFollowsTheObject();
-    void modeEndsWithNull();
-    void familyLanguage_data();
-    void familyLanguage();
-    void preferencesFile();
+
+    void groups()
+    {
+        QFETCH(bool, temporary);
+        QFETCH(bool, persistentOnly);
+        if (temporary || persistentOnly) {
+            CSettings::setTemporarySettings(*m_temporary);
+        }
+        CSettings settings(nullptr, persistentOnly);
+        settings.beginGroup(text("A"));
+        QCOMPARE(settings.group(), text("A"));
+        QCOMPARE(settings.localKey(text("k")), text(temporary ? "A/k" : "k"));
+        settings.setValue(text("k"), 1);
+        temporary ? void() : settings.sync(); // the temporary file has it at once
+        QCOMPARE(store(temporary, *m_temporary)->value(text("A/k")).toInt(), 1);
+        QCOMPARE(settings.value(text("k")).isValid(), !temporary); // read without the prefix, as documented
+        QVERIFY(settings.contains(text("k")) && !settings.contains(text("A/k")));
+        CSettings other(nullptr, persistentOnly);
+        QVERIFY(other.group().isEmpty());
+        QCOMPARE(other.value(text("A/k")).toInt(), 1);
+        settings.beginGroup(text("B")); // replaces the prefix of the temporary file, which does not nest
+        QCOMPARE(settings.group(), text(temporary ? "B" : "A/B"));
+        temporary ? settings.beginGroup(text("A")) : settings.endGroup();
+        settings.remove(text("k"));
+        settings.sync();
+        QVERIFY(!store(temporary, *m_temporary)->contains(text("A/k")));
+        settings.endGroup();
+        QVERIFY(settings.group().isEmpty());
+        QCOMPARE(settings.localKey(text("k")), text("k"));
+    }
+
+    void groupSurvivesSwitchOfMode()
+    {
+        CSettings::setTemporarySettings(*m_temporary);
+        CSettings settings;
+        settings.beginGroup(text("A"));
+        CSettings::resetTemporarySettings();
+        QVERIFY(settings.group().isEmpty()); // the native store's own group
+        settings.setValue(text("A/k"), 3);
+        QCOMPARE(settings.value(text("k")).toInt(), 3); // the prefix is applied to reading alone
+        QVERIFY(!settings.contains(text("k")));
+        settings.endGroup(); // of the native store: the prefix stays
+        QCOMPARE(settings.localKey(text("k")), text("A/k"));
+    }
+
+    void modeFollowsTheObject()
+    {
+        CSettings before;
+        CSettings::setTemporarySettings(*m_temporary);
+        const QString path = m_temporary->tempSettingsPath();
+        QCOMPARE(
+            installedLogger().take(),
+            QStringList(text("D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are now "
+                             "stored in file: ") +
+                        path));
+        CSettings after;
+        after.setValue(text("k"), text("temporary"));
+        CTemporarySettings another(nullptr); // not handed over: changes nothing
+        QVERIFY(before.usingTemporarySettings() && after.usingTemporarySettings());
+        m_temporary.reset();
+        QVERIFY(!before.usingTemporarySettings() && !after.usingTemporarySettings());
+        // Only the instance made after the switch is connected.
+        QCOMPARE(installedLogger().take(),
+                 QStringList({text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Temporary "
+                                   "settings file is to be destoyed: ") +
+                                  path,
+                              text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Persistent "
+                                   "settings will be used")}));
+        QVERIFY(!after.contains(text("k")));
+        after.setValue(text("k"), text("persistent"));
+        QCOMPARE(after.value(text("k")).toString(), text("persistent"));
+    }
+
+    void modeEndsWithNull()
+    {
+        for (const auto end : {&CSettings::resetTemporarySettings, &setTemporarySettingsToNull}) {
+            CSettings::setTemporarySettings(*m_temporary);
+            QVERIFY(CSettings().usingTemporarySettings());
+            installedLogger().take();
+            end();
+            QVERIFY(!CSettings().usingTemporarySettings());
+            QCOMPARE(
+                installedLogger().take(),
+                QStringList(text("D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are "
+                                 "now stored in system")));
+        }
+    }
+
+    void familyLanguage_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QVariant>("expected");
+        QTest::addColumn<QString>("reported");
+        for (const int code : {0, 2, 5, 12, 13}) {
+            QTest::addRow("supported %d", code) << QVariant(code) << QVariant(code) << QString();
+        }
+        QTest::newRow("nothing stored") << QVariant() << QVariant(2) << QString();
+        QTest::newRow("unknown") << QVariant(7) << QVariant(2) << text("7");
+        QTest::newRow("number as text") << QVariant(text("12")) << QVariant(text("12")) << QString();
+    }
+
+    void familyLanguage()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(QVariant, expected);
+        QFETCH(QString, reported);
+        CSettings::setTemporarySettings(*m_temporary); // plays no part here
+        installedLogger().take();
+        if (stored.isValid()) {
+            QSettings(text("Tolvan"), text("Ostra Collection")).setValue(text("currentLanguage"), stored);
+        }
+        QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toInt(), expected.toInt());
+        const QStringList lines = installedLogger().take();
+        QCOMPARE(lines.size(), reported.isEmpty() ? 0 : 1);
+        if (!lines.isEmpty()) {
+            QCOMPARE(
+                lines.first(),
+                text(
+                    "I TOLVAN_NAMESPACE::CSettings::getLanguageFromOstraConfiguration: OSTRA Collection uses "
+                    "the language with code %1 that is not supported by Trelio Frame. English is used "
+                    "instead.")
+                    .arg(reported));
+        }
+        CSettings::writeLanguageToOstraConfiguration(13);
+        QCOMPARE(QSettings(text("Tolvan"), text("Ostra Collection")).value(text("currentLanguage")).toInt(),
+                 13);
+    }
+
+    void preferencesFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = QDir(folder.path()).filePath(QStringLiteral("Präferenzen.ini"));
+        {
+            QSettings file(path, QSettings::IniFormat);
+            file.setValue(text("k"), text("v"));
+            file.setValue(text("empty"), QString());
+        }
+        TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(path);
+        CSettings::setTemporarySettings(*m_temporary);
+        QCOMPARE(CSettings::getStringFromPreferencesFile(text("k"), text("d")), text("v"));
+        QCOMPARE(CSettings::getStringFromPreferencesFile(text("empty"), text("d")), text("d"));
+        QCOMPARE(CSettings::getStringFromPreferencesFile(text("absent"), text("d")), text("d"));
+        TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(QString());
+        try {
+            CSettings::getStringFromPreferencesFile(text("k"), text("d"));
+            QFAIL("an empty path has to throw");
+        } catch (const std::runtime_error& error) {
+            QCOMPARE(error.what(), "Preferences file path not set");
+        }
+    }
 
 private:
     std::unique_ptr<CTemporarySettings> m_temporary;
 };
-
-void SettingsTest::init()
-{
-    IsolatedProfile::clearStores();
-    m_temporary = std::make_unique<CTemporarySettings>(nullptr);
-    installedLogger().take();
-}
-
-void SettingsTest::cleanup()
-{
-    CSettings::resetTemporarySettings();
-}
-
-void SettingsTest::operationsReachTheStore_data()
-{
-    QTest::addColumn<bool>("temporary");
-    QTest::addColumn<bool>("persistentOnly");
-    QTest::newRow("native store") << false << false;
-    QTest::newRow("temporary file") << true << false;
-    QTest::newRow("native store whatever the mode") << false << true;
-}
-
-void SettingsTest::operationsReachTheStore()
-{
-    QFETCH(bool, temporary);
-    QFETCH(bool, persistentOnly);
-    if (temporary || persistentOnly) {
-        CSettings::setTemporarySettings(*m_temporary);
-    }
-    CSettings settings(nullptr, persistentOnly);
-    QCOMPARE(settings.usingTemporarySettings(), temporary);
-    settings.setValue(text("k"), 7);
-    settings.setValue(QStringLiteral("ключ 日本"), QStringLiteral("значение"));
-    settings.beginWriteArray(text("list"), 2);
-    settings.setArrayIndex(1);
-    settings.setValue(text("entry"), text("second"));
-    settings.endArray();
-    settings.sync();
-    {
-        const auto plain = store(temporary, *m_temporary);
-        QCOMPARE(plain->value(text("k")).toInt(), 7);
-        QCOMPARE(plain->value(QStringLiteral("ключ 日本")).toString(), QStringLiteral("значение"));
-        QCOMPARE(plain->value(text("list/size")).toInt(), 2);
-        QCOMPARE(plain->value(text("list/2/entry")).toString(), text("second"));
-    }
-    QCOMPARE(settings.value(text("k"), 0).toInt(), 7);
-    QCOMPARE(settings.value(text("absent"), 5).toInt(), 5);
-    QVERIFY(settings.contains(text("k")) && !settings.contains(text("absent")));
-    QCOMPARE(settings.beginReadArray(text("list")), 2);
-    settings.setArrayIndex(1);
-    QCOMPARE(settings.value(text("entry")).toString(), text("second"));
-    settings.endArray();
-    settings.remove(text("k"));
-    settings.sync();
-    QVERIFY(!store(temporary, *m_temporary)->contains(text("k")));
-    // Nothing leaks into the other store.
-    QVERIFY(!store(!temporary, *m_temporary)->contains(text("list/size")));
-}
-
-void SettingsTest::groups()
-{
-    QFETCH(bool, temporary);
-    QFETCH(bool, persistentOnly);
-    if (temporary || persistentOnly) {
-        CSettings::setTemporarySettings(*m_temporary);
-    }
-    CSettings settings(nullptr, persistentOnly);
-    settings.beginGroup(text("A"));
-    QCOMPARE(settings.group(), text("A"));
-    QCOMPARE(settings.localKey(text("k")), text(temporary ? "A/k" : "k"));
-    settings.setValue(text("k"), 1);
-    temporary ? void() : settings.sync(); // the temporary file has it at once
-    QCOMPARE(store(temporary, *m_temporary)->value(text("A/k")).toInt(), 1);
-    QCOMPARE(settings.value(text("k")).isValid(), !temporary); // read without the prefix, as documented
-    QVERIFY(settings.contains(text("k")) && !settings.contains(text("A/k")));
-    CSettings other(nullptr, persistentOnly);
-    QVERIFY(other.group().isEmpty());
-    QCOMPARE(other.value(text("A/k")).toInt(), 1);
-    settings.beginGroup(text("B")); // replaces the prefix of the temporary file, which does not nest
-    QCOMPARE(settings.group(), text(temporary ? "B" : "A/B"));
-    temporary ? settings.beginGroup(text("A")) : settings.endGroup();
-    settings.remove(text("k"));
-    settings.sync();
-    QVERIFY(!store(temporary, *m_temporary)->contains(text("A/k")));
-    settings.endGroup();
-    QVERIFY(settings.group().isEmpty());
-    QCOMPARE(settings.localKey(text("k")), text("k"));
-}
-
-void SettingsTest::groupSurvivesSwitchOfMode()
-{
-    CSettings::setTemporarySettings(*m_temporary);
-    CSettings settings;
-    settings.beginGroup(text("A"));
-    CSettings::resetTemporarySettings();
-    QVERIFY(settings.group().isEmpty()); // the native store's own group
-    settings.setValue(text("A/k"), 3);
-    QCOMPARE(settings.value(text("k")).toInt(), 3); // the prefix is applied to reading alone
-    QVERIFY(!settings.contains(text("k")));
-    settings.endGroup(); // of the native store: the prefix stays
-    QCOMPARE(settings.localKey(text("k")), text("A/k"));
-}
-
-void SettingsTest::modeFollowsTheObject()
-{
-    CSettings before;
-    CSettings::setTemporarySettings(*m_temporary);
-    const QString path = m_temporary->tempSettingsPath();
-    QCOMPARE(installedLogger().take(),
-             QStringList(text("D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are now "
-                              "stored in file: ") +
-                         path));
-    CSettings after;
-    after.setValue(text("k"), text("temporary"));
-    CTemporarySettings another(nullptr); // not handed over: changes nothing
-    QVERIFY(before.usingTemporarySettings() && after.usingTemporarySettings());
-    m_temporary.reset();
-    QVERIFY(!before.usingTemporarySettings() && !after.usingTemporarySettings());
-    // Only the instance made after the switch is connected.
-    QCOMPARE(installedLogger().take(),
-             QStringList({text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Temporary "
-                               "settings file is to be destoyed: ") +
-                              path,
-                          text("D TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted: Persistent "
-                               "settings will be used")}));
-    QVERIFY(!after.contains(text("k")));
-    after.setValue(text("k"), text("persistent"));
-    QCOMPARE(after.value(text("k")).toString(), text("persistent"));
-}
-
-void SettingsTest::modeEndsWithNull()
-{
-    for (const auto end : {&CSettings::resetTemporarySettings, &setTemporarySettingsToNull}) {
-        CSettings::setTemporarySettings(*m_temporary);
-        QVERIFY(CSettings().usingTemporarySettings());
-        installedLogger().take();
-        end();
-        QVERIFY(!CSettings().usingTemporarySettings());
-        QCOMPARE(installedLogger().take(),
-                 QStringList(text("D TOLVAN_NAMESPACE::CSettings::setTemporarySettings: Info: settings are "
-                                  "now stored in system")));
-    }
-}
-
-void SettingsTest::familyLanguage_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QVariant>("expected");
-    QTest::addColumn<QString>("reported");
-    for (const int code : {0, 2, 5, 12, 13}) {
-        QTest::addRow("supported %d", code) << QVariant(code) << QVariant(code) << QString();
-    }
-    QTest::newRow("nothing stored") << QVariant() << QVariant(2) << QString();
-    QTest::newRow("unknown") << QVariant(7) << QVariant(2) << text("7");
-    QTest::newRow("number as text") << QVariant(text("12")) << QVariant(text("12")) << QString();
-}
-
-void SettingsTest::familyLanguage()
-{
-    QFETCH(QVariant, stored);
-    QFETCH(QVariant, expected);
-    QFETCH(QString, reported);
-    CSettings::setTemporarySettings(*m_temporary); // plays no part here
-    installedLogger().take();
-    if (stored.isValid()) {
-        QSettings(text("Tolvan"), text("Ostra Collection")).setValue(text("currentLanguage"), stored);
-    }
-    QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toInt(), expected.toInt());
-    const QStringList lines = installedLogger().take();
-    QCOMPARE(lines.size(), reported.isEmpty() ? 0 : 1);
-    if (!lines.isEmpty()) {
-        QCOMPARE(
-            lines.first(),
-            text("I TOLVAN_NAMESPACE::CSettings::getLanguageFromOstraConfiguration: OSTRA Collection uses "
-                 "the language with code %1 that is not supported by Trelio Frame. English is used instead.")
-                .arg(reported));
-    }
-    CSettings::writeLanguageToOstraConfiguration(13);
-    QCOMPARE(QSettings(text("Tolvan"), text("Ostra Collection")).value(text("currentLanguage")).toInt(), 13);
-}
-
-void SettingsTest::preferencesFile()
-{
-    const QTemporaryDir folder;
-    const QString path = QDir(folder.path()).filePath(QStringLiteral("Präferenzen.ini"));
-    {
-        QSettings file(path, QSettings::IniFormat);
-        file.setValue(text("k"), text("v"));
-        file.setValue(text("empty"), QString());
-    }
-    TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(path);
-    CSettings::setTemporarySettings(*m_temporary);
-    QCOMPARE(CSettings::getStringFromPreferencesFile(text("k"), text("d")), text("v"));
-    QCOMPARE(CSettings::getStringFromPreferencesFile(text("empty"), text("d")), text("d"));
-    QCOMPARE(CSettings::getStringFromPreferencesFile(text("absent"), text("d")), text("d"));
-    TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(QString());
-    try {
-        CSettings::getStringFromPreferencesFile(text("k"), text("d"));
-        QFAIL("an empty path has to throw");
-    } catch (const std::runtime_error& error) {
-        QCOMPARE(error.what(), "Preferences file path not set");
-    }
-}
 
 TOLVAN_CORE_TEST_MAIN(SettingsTest)
 #include "tst_settings.moc"

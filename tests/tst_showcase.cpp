@@ -12,10 +12,74 @@ class ShowcaseTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void secondRunSeesTheFirst();
-    void temporaryRunLeavesNothing();
-    void failureIsTold();
-    void picturesInEveryLanguage();
+    void secondRunSeesTheFirst()
+    {
+        QSettings family(text("Tolvan"), text("Ostra Collection"));
+        family.setValue(text("currentLanguage"), 7); // of another product, unknown to this one
+        family.sync();
+        const Run first = start({text("--console")});
+        QVERIFY2(first.exitCode == 0, qPrintable(first.report));
+        QCOMPARE(rowOf(first.report, "earlier runs on this profile"), text("0"));
+        QCOMPARE(rowOf(first.report, "first launch on this profile"), text("yes"));
+        QCOMPARE(rowOf(first.report, "suite file, value of the last run"), text("(none)"));
+
+        const Run second = start({text("--console")});
+        QVERIFY2(second.exitCode == 0, qPrintable(second.report));
+        QCOMPARE(rowOf(second.report, "earlier runs on this profile"), text("1"));
+        QCOMPARE(rowOf(second.report, "first launch on this profile"), text("no"));
+        QCOMPARE(rowOf(second.report, "mode of the last launch"), text("Showcase"));
+        QCOMPARE(rowOf(second.report, "suite file, value of the last run"),
+                 rowOf(first.report, "suite file read back"));
+        QCOMPARE(rowOf(second.report, "getUserID"), rowOf(first.report, "getUserID"));
+        family.sync();
+        QCOMPARE(family.value(text("currentLanguage")).toInt(), 7); // after a walk through all languages
+    }
+
+    void temporaryRunLeavesNothing()
+    {
+        IsolatedProfile::clearStores();
+        const Run run = start({text("--console"), text("--temporary")});
+        QVERIFY2(run.exitCode == 0, qPrintable(run.report));
+        QCOMPARE(rowOf(run.report, "mode"), text("temporary file"));
+        QCOMPARE(rowOf(run.report, "value from the seed file"), text("from the seed file"));
+        QVERIFY(QSettings(text("Tolvan"), text("Trelio Frame")).childGroups().isEmpty());
+        QVERIFY(!QSettings(text("Tolvan"), text("Trelio Frame")).contains(text("app_launched")));
+    }
+
+    void failureIsTold()
+    {
+        const QByteArray usual = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", "/dev/null/nowhere");
+        const Run run = start({text("--console")});
+        qputenv("XDG_DATA_HOME", usual);
+#ifdef Q_OS_WIN
+        QCOMPARE(run.exitCode, 0); // known folders are not redirected there
+#else
+        QVERIFY2(run.exitCode == 1 && run.report.contains(text("FAIL")), qPrintable(run.report));
+#endif
+    }
+
+    void picturesInEveryLanguage()
+    {
+        IsolatedProfile::clearStores(); // no language is stored either
+        QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text("loggerLevel"), QString());
+        const auto before = stored();
+        const QTemporaryDir folder;
+        const Run run = start({text("--screenshots"), folder.path()});
+        QVERIFY2(run.exitCode == 0, qPrintable(run.report));
+        QCOMPARE(stored(), before);
+        QSet<QByteArray> pictures;
+        for (const char* const language : {"de", "en", "fr", "ja", "zh-CN"}) {
+            QFile picture(folder.filePath(text("style-%1.png").arg(text(language))));
+            QVERIFY2(picture.open(QIODevice::ReadOnly), language);
+            pictures += picture.readAll();
+            for (const char* const name : {"01-logging", "box-quit", "about-product"}) {
+                QVERIFY2(QFile::exists(folder.filePath(text("%1/%2.png").arg(text(language), text(name)))),
+                         name);
+            }
+        }
+        QCOMPARE(pictures.size(), 5); // each in its own language
+    }
 
 private:
     struct Run {
@@ -57,74 +121,6 @@ QMap<QString, QVariant> ShowcaseTest::stored()
         }
     }
     return values;
-}
-
-void ShowcaseTest::secondRunSeesTheFirst()
-{
-    QSettings family(text("Tolvan"), text("Ostra Collection"));
-    family.setValue(text("currentLanguage"), 7); // of another product, unknown to this one
-    family.sync();
-    const Run first = start({text("--console")});
-    QVERIFY2(first.exitCode == 0, qPrintable(first.report));
-    QCOMPARE(rowOf(first.report, "earlier runs on this profile"), text("0"));
-    QCOMPARE(rowOf(first.report, "first launch on this profile"), text("yes"));
-    QCOMPARE(rowOf(first.report, "suite file, value of the last run"), text("(none)"));
-
-    const Run second = start({text("--console")});
-    QVERIFY2(second.exitCode == 0, qPrintable(second.report));
-    QCOMPARE(rowOf(second.report, "earlier runs on this profile"), text("1"));
-    QCOMPARE(rowOf(second.report, "first launch on this profile"), text("no"));
-    QCOMPARE(rowOf(second.report, "mode of the last launch"), text("Showcase"));
-    QCOMPARE(rowOf(second.report, "suite file, value of the last run"),
-             rowOf(first.report, "suite file read back"));
-    QCOMPARE(rowOf(second.report, "getUserID"), rowOf(first.report, "getUserID"));
-    family.sync();
-    QCOMPARE(family.value(text("currentLanguage")).toInt(), 7); // after a walk through all languages
-}
-
-void ShowcaseTest::temporaryRunLeavesNothing()
-{
-    IsolatedProfile::clearStores();
-    const Run run = start({text("--console"), text("--temporary")});
-    QVERIFY2(run.exitCode == 0, qPrintable(run.report));
-    QCOMPARE(rowOf(run.report, "mode"), text("temporary file"));
-    QCOMPARE(rowOf(run.report, "value from the seed file"), text("from the seed file"));
-    QVERIFY(QSettings(text("Tolvan"), text("Trelio Frame")).childGroups().isEmpty());
-    QVERIFY(!QSettings(text("Tolvan"), text("Trelio Frame")).contains(text("app_launched")));
-}
-
-void ShowcaseTest::failureIsTold()
-{
-    const QByteArray usual = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", "/dev/null/nowhere");
-    const Run run = start({text("--console")});
-    qputenv("XDG_DATA_HOME", usual);
-#ifdef Q_OS_WIN
-    QCOMPARE(run.exitCode, 0); // known folders are not redirected there
-#else
-    QVERIFY2(run.exitCode == 1 && run.report.contains(text("FAIL")), qPrintable(run.report));
-#endif
-}
-
-void ShowcaseTest::picturesInEveryLanguage()
-{
-    IsolatedProfile::clearStores(); // no language is stored either
-    QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text("loggerLevel"), QString());
-    const auto before = stored();
-    const QTemporaryDir folder;
-    const Run run = start({text("--screenshots"), folder.path()});
-    QVERIFY2(run.exitCode == 0, qPrintable(run.report));
-    QCOMPARE(stored(), before);
-    QSet<QByteArray> pictures;
-    for (const char* const language : {"de", "en", "fr", "ja", "zh-CN"}) {
-        QFile picture(folder.filePath(text("style-%1.png").arg(text(language))));
-        QVERIFY2(picture.open(QIODevice::ReadOnly), language);
-        pictures += picture.readAll();
-        for (const char* const name : {"01-logging", "box-quit", "about-product"}) {
-            QVERIFY2(QFile::exists(folder.filePath(text("%1/%2.png").arg(text(language), text(name)))), name);
-        }
-    }
-    QCOMPARE(pictures.size(), 5); // each in its own language
 }
 
 TOLVAN_CORE_TEST_MAIN(ShowcaseTest)

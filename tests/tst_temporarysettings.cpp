@@ -28,109 +28,106 @@ class TemporarySettingsTest : public QObject
 
 private Q_SLOTS:
     void cleanup() { TOLVAN_NAMESPACE::CSettings::resetTemporarySettings(); }
-    void startsFromTheSeed();
-    void writesThroughAtOnce();
-    void lastObjectGivesTheReportedPath();
-    void nothingIsLeft();
-    void unusableFolderIsReported();
-};
 
-void TemporarySettingsTest::startsFromTheSeed()
-{
-    const QTemporaryDir program;
-    const QString seed = QDir(program.path()).filePath(text("DefaultTemporarySettings.ini"));
-    QSettings(seed, QSettings::IniFormat).setValue(text("seeded"), 1);
-    QVERIFY(QFile::setPermissions(seed, QFile::ReadOwner)); // installed read-only
-    const QByteArray programPath = QFile::encodeName(QDir(program.path()).filePath(text("program")));
-
-    CTemporarySettings settings(programPath.constData());
-    QCOMPARE(QFileInfo(settings.tempSettingsPath()).fileName(), text("TrelioFrame.ini"));
-    QCOMPARE(settings.value(text("seeded")).toInt(), 1);
-    settings.setValue(text("seeded"), 2);
-    QCOMPARE(onDisk(settings.tempSettingsPath(), text("seeded")).toInt(), 2);
-    QCOMPARE(onDisk(seed, text("seeded")).toInt(), 1);
-    QVERIFY(QFile::setPermissions(seed, QFile::ReadOwner | QFile::WriteOwner));
-
-    QVERIFY(!CTemporarySettings("/nowhere/program").contains(text("seeded")));
-}
-
-void TemporarySettingsTest::writesThroughAtOnce()
-{
-    CTemporarySettings settings(nullptr);
-    const QString path = settings.tempSettingsPath();
-    settings.setValue(text("a"), 1);
-    settings.setValue(text("b"), 2);
-    QCOMPARE(onDisk(path, text("a")).toInt(), 1);
-    settings.remove(text("a"));
-    QVERIFY(!onDisk(path, text("a")).isValid() && onDisk(path, text("b")).isValid());
-    settings.clear();
-    QVERIFY(!onDisk(path, text("b")).isValid());
-}
-
-void TemporarySettingsTest::lastObjectGivesTheReportedPath()
-{
-    CTemporarySettings first(nullptr);
-    const QString firstPath = first.tempSettingsPath();
-    QString secondPath;
+    void startsFromTheSeed()
     {
-        CTemporarySettings second(nullptr);
-        secondPath = second.tempSettingsPath();
-        QVERIFY(secondPath != firstPath);
-        QCOMPARE(first.tempSettingsPath(), secondPath);
-        first.setValue(text("k"), 1); // still works on its own file
-        QVERIFY(onDisk(firstPath, text("k")).isValid() && !onDisk(secondPath, text("k")).isValid());
-        first.setSharedSettingsPath(text("shared.ini"));
-        QCOMPARE(first.tempSettingsPath(), text("shared.ini"));
-        QCOMPARE(second.tempSettingsPath(), secondPath);
+        const QTemporaryDir program;
+        const QString seed = QDir(program.path()).filePath(text("DefaultTemporarySettings.ini"));
+        QSettings(seed, QSettings::IniFormat).setValue(text("seeded"), 1);
+        QVERIFY(QFile::setPermissions(seed, QFile::ReadOwner)); // installed read-only
+        const QByteArray programPath = QFile::encodeName(QDir(program.path()).filePath(text("program")));
+
+        CTemporarySettings settings(programPath.constData());
+        QCOMPARE(QFileInfo(settings.tempSettingsPath()).fileName(), text("TrelioFrame.ini"));
+        QCOMPARE(settings.value(text("seeded")).toInt(), 1);
+        settings.setValue(text("seeded"), 2);
+        QCOMPARE(onDisk(settings.tempSettingsPath(), text("seeded")).toInt(), 2);
+        QCOMPARE(onDisk(seed, text("seeded")).toInt(), 1);
+        QVERIFY(QFile::setPermissions(seed, QFile::ReadOwner | QFile::WriteOwner));
+
+        QVERIFY(!CTemporarySettings("/nowhere/program").contains(text("seeded")));
     }
-    first.setSharedSettingsPath(QString());
-    QCOMPARE(first.tempSettingsPath(), secondPath); // of an object that is gone
-    QVERIFY(!QFile::exists(secondPath) && QFile::exists(firstPath));
-}
 
-void TemporarySettingsTest::nothingIsLeft()
-{
-    auto settings = std::make_unique<CTemporarySettings>(nullptr);
-    TOLVAN_NAMESPACE::CSettings::setTemporarySettings(*settings);
-    const QString folder = QFileInfo(settings->tempSettingsPath()).path();
-    TOLVAN_NAMESPACE::CSettings facade;
-    facade.setValue(text("k"), 1);
-    facade.beginWriteArray(text("list"), 3); // not synced by itself: still pending
-    facade.endArray();
-    QVERIFY(QDir(folder).exists());
-    settings.reset();
-    QVERIFY(!QDir(folder).exists());
-}
-
-void TemporarySettingsTest::unusableFolderIsReported()
-{
-#ifdef Q_OS_WIN
-    const char* const variable = "TMP";
-#else
-    const char* const variable = "TMPDIR";
-#endif
-    auto& logger = installedLogger();
-    logger.take();
-    const QByteArray usual = qgetenv(variable);
-    const QTemporaryDir folder;
-    QFile obstacle(QDir(folder.path()).filePath(text("file")));
-    QVERIFY(obstacle.open(QIODevice::WriteOnly));
-    qputenv(variable, QFile::encodeName(QDir::toNativeSeparators(obstacle.fileName())));
+    void writesThroughAtOnce()
     {
-        QTest::ignoreMessage(
-            QtDebugMsg, "ASSERT_X in ExPluginShell\\modules\\utilsDll\\TemporarySettings line 25: Temporary "
-                        "folder is not valid!");
         CTemporarySettings settings(nullptr);
-        const QString key = QFileInfo(folder.path()).fileName(); // used by no other run
-        settings.setValue(key, 1);                               // lost, without a crash
-        QVERIFY(!onDisk(settings.tempSettingsPath(), key).isValid());
+        const QString path = settings.tempSettingsPath();
+        settings.setValue(text("a"), 1);
+        settings.setValue(text("b"), 2);
+        QCOMPARE(onDisk(path, text("a")).toInt(), 1);
+        settings.remove(text("a"));
+        QVERIFY(!onDisk(path, text("a")).isValid() && onDisk(path, text("b")).isValid());
+        settings.clear();
+        QVERIFY(!onDisk(path, text("b")).isValid());
     }
-    qputenv(variable, usual);
-    QCOMPARE(logger.take(),
-             QStringList(text(
-                 "E CTemporarySettings::CTemporarySettings: ASSERT_X in ExPluginShell\\modules\\utilsDll\\"
-                 "TemporarySettings line 25:Temporary folder is not valid!")));
-}
+
+    void lastObjectGivesTheReportedPath()
+    {
+        CTemporarySettings first(nullptr);
+        const QString firstPath = first.tempSettingsPath();
+        QString secondPath;
+        {
+            CTemporarySettings second(nullptr);
+            secondPath = second.tempSettingsPath();
+            QVERIFY(secondPath != firstPath);
+            QCOMPARE(first.tempSettingsPath(), secondPath);
+            first.setValue(text("k"), 1); // still works on its own file
+            QVERIFY(onDisk(firstPath, text("k")).isValid() && !onDisk(secondPath, text("k")).isValid());
+            first.setSharedSettingsPath(text("shared.ini"));
+            QCOMPARE(first.tempSettingsPath(), text("shared.ini"));
+            QCOMPARE(second.tempSettingsPath(), secondPath);
+        }
+        first.setSharedSettingsPath(QString());
+        QCOMPARE(first.tempSettingsPath(), secondPath); // of an object that is gone
+        QVERIFY(!QFile::exists(secondPath) && QFile::exists(firstPath));
+    }
+
+    void nothingIsLeft()
+    {
+        auto settings = std::make_unique<CTemporarySettings>(nullptr);
+        TOLVAN_NAMESPACE::CSettings::setTemporarySettings(*settings);
+        const QString folder = QFileInfo(settings->tempSettingsPath()).path();
+        TOLVAN_NAMESPACE::CSettings facade;
+        facade.setValue(text("k"), 1);
+        facade.beginWriteArray(text("list"), 3); // not synced by itself: still pending
+        facade.endArray();
+        QVERIFY(QDir(folder).exists());
+        settings.reset();
+        QVERIFY(!QDir(folder).exists());
+    }
+
+    void unusableFolderIsReported()
+    {
+#ifdef Q_OS_WIN
+        const char* const variable = "TMP";
+#else
+        const char* const variable = "TMPDIR";
+#endif
+        auto& logger = installedLogger();
+        logger.take();
+        const QByteArray usual = qgetenv(variable);
+        const QTemporaryDir folder;
+        QFile obstacle(QDir(folder.path()).filePath(text("file")));
+        QVERIFY(obstacle.open(QIODevice::WriteOnly));
+        qputenv(variable, QFile::encodeName(QDir::toNativeSeparators(obstacle.fileName())));
+        {
+            QTest::ignoreMessage(
+                QtDebugMsg,
+                "ASSERT_X in ExPluginShell\\modules\\utilsDll\\TemporarySettings line 25: Temporary "
+                "folder is not valid!");
+            CTemporarySettings settings(nullptr);
+            const QString key = QFileInfo(folder.path()).fileName(); // used by no other run
+            settings.setValue(key, 1);                               // lost, without a crash
+            QVERIFY(!onDisk(settings.tempSettingsPath(), key).isValid());
+        }
+        qputenv(variable, usual);
+        QCOMPARE(
+            logger.take(),
+            QStringList(text(
+                "E CTemporarySettings::CTemporarySettings: ASSERT_X in ExPluginShell\\modules\\utilsDll\\"
+                "TemporarySettings line 25:Temporary folder is not valid!")));
+    }
+};
 
 TOLVAN_CORE_TEST_MAIN(TemporarySettingsTest)
 #include "tst_temporarysettings.moc"
