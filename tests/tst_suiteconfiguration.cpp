@@ -149,8 +149,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("situation");
         QTest::addColumn<QString>("readLine");
         QTest::addColumn<QString>("writeLine");
-        const auto row = [this](const char* name, const QByteArray& situation, const QString& read,
-                                const QString& written, const QString& detail) {
+        const auto row = [](const char* name, const QByteArray& situation, const QString& read,
+                            const QString& written, const QString& detail) {
             QTest::newRow(name) << situation << read + detail
                                 << text(
                                        "E TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile: ") +
