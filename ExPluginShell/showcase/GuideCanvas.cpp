@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -16,16 +17,37 @@ namespace
 constexpr int mostLines = 20;
 constexpr double gripRadius = 9.0;
 
+constexpr QSize patternSize(14, 5);
+
 /// A dash with a dark seam, so that it shows on any ground.
 QPixmap linePattern(const QColor& color, qreal ratio)
 {
-    QPixmap pattern(QSize(18, 5) * ratio);
+    QPixmap pattern(patternSize * ratio);
     pattern.setDevicePixelRatio(ratio);
     pattern.fill(Qt::transparent);
     QPainter painter(&pattern);
-    painter.fillRect(QRectF(0, 1, 13, 3), QColor(0, 0, 0, 130));
-    painter.fillRect(QRectF(1, 1.5, 11, 2), color);
+    painter.fillRect(QRectF(0, 1, 10, 3), QColor(0, 0, 0, 130));
+    painter.fillRect(QRectF(1, 1.5, 8, 2), color);
     return pattern;
+}
+
+/// The line to be drawn so that the dashes run through the middle of both grips. The pattern lies below a
+/// line that runs to the right, and an oblique one is lifted by half its height already; repeated copies may
+/// run past the end, so it is drawn in by half a copy.
+QLineF lineThroughGrips(QLineF line, bool stretched)
+{
+    const double angle = line.angle();
+    if (angle > 135.0 && angle < 315.0) {
+        line = QLineF(line.p2(), line.p1());
+    }
+    const bool oblique = line.dx() != 0.0 && line.dy() != 0.0;
+    const QLineF across = line.unitVector().normalVector(); // to the upper side of the pattern
+    const double half = patternSize.height() / 2.0;
+    line.translate(across.dx() * half, across.dy() * half + (oblique ? half : 0.0));
+    if (!stretched) {
+        line.setLength(std::max(0.0, line.length() - patternSize.width() / 2.0));
+    }
+    return line;
 }
 
 QCursor toolCursor(ToolCursorType type)
@@ -100,11 +122,16 @@ void GuideCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_photo);
+    const QRectF area = QRectF(rect()).adjusted(-patternSize.height(), -patternSize.height(),
+                                                patternSize.height(), patternSize.height());
     for (int i = 0; i < m_lines.size(); ++i) {
         const bool chosen = i == m_chosen;
         const QLineF line(toWidget(m_lines.at(i).p1()), toWidget(m_lines.at(i).p2()));
-        drawToolLine(line.p1(), line.p2(), chosen ? m_chosenPattern : m_pattern, m_stretched, &painter,
-                     rect());
+        if (!line.isNull()) {
+            const QLineF drawn = lineThroughGrips(line, m_stretched);
+            drawToolLine(drawn.p1(), drawn.p2(), chosen ? m_chosenPattern : m_pattern, m_stretched, &painter,
+                         area);
+        }
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(QColor(0, 0, 0, 150), 1.0));
         painter.setBrush(chosen ? QColor(69, 184, 204) : QColor(Qt::white));
