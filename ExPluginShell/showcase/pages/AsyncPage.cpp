@@ -114,9 +114,11 @@ QWidget* AsyncPage::makeDelayedCalls()
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved()));
     connect(periodic, SIGNAL(toggled(bool)), this, SLOT(togglePeriodic(bool)));
     auto* const row = new QHBoxLayout;
+    row->setSpacing(12);
     row->addWidget(periodic);
     row->addWidget(m_ticks, 1);
     auto* const layout = new QVBoxLayout(box);
+    layout->setSpacing(10);
     layout->addWidget(m_slider);
     layout->addWidget(m_burst);
     layout->addLayout(row);
@@ -132,10 +134,12 @@ QWidget* AsyncPage::makeItems()
     connect(m_start, SIGNAL(clicked()), this, SLOT(startItems()));
     connect(m_stop, SIGNAL(clicked()), this, SLOT(stopItems()));
     auto* const row = new QHBoxLayout;
+    row->setSpacing(12);
     row->addWidget(m_start);
     row->addWidget(m_stop);
     row->addWidget(m_items, 1);
     auto* const layout = new QVBoxLayout(box);
+    layout->setSpacing(10);
     layout->addWidget(m_progress);
     layout->addLayout(row);
     return box;
@@ -154,11 +158,13 @@ QWidget* AsyncPage::makeWaits()
     connect(complete, SIGNAL(clicked()), this, SLOT(waitForWorker()));
     connect(click, SIGNAL(clicked()), this, SLOT(onClicked()));
     auto* const row = new QHBoxLayout;
+    row->setSpacing(12);
     row->addWidget(wait);
     row->addWidget(complete);
     row->addWidget(click);
     row->addStretch();
     auto* const layout = new QVBoxLayout(box);
+    layout->setSpacing(10);
     layout->addLayout(row);
     layout->addWidget(m_clicks);
     layout->addWidget(m_wait);
@@ -173,31 +179,33 @@ void AsyncPage::onSliderMoved()
 
 void AsyncPage::render()
 {
-    m_burst->setText(tr("%1 requests became %2 calls.").arg(m_requests).arg(++m_renders));
+    ++m_renders;
+    say(m_burst, [this] { return tr("%1 requests became %2 calls.").arg(m_requests).arg(m_renders); });
 }
 
 void AsyncPage::togglePeriodic(bool on)
 {
     if (on) {
         CDelayedCall::invoke(tickInterval, this, "tick", false);
+        say(m_ticks, [] { return tr("Every %1 ms.").arg(tickInterval); });
     } else {
         CDelayedCall::discard(this, "tick");
+        say(m_ticks, [this] { return tr("Discarded after %1 calls.").arg(m_tickCount); });
     }
-    m_ticks->setText(on ? tr("Every %1 ms.").arg(tickInterval)
-                        : tr("Discarded after %1 calls.").arg(m_tickCount));
 }
 
 void AsyncPage::tick()
 {
-    m_ticks->setText(tr("%1 calls.").arg(++m_tickCount));
+    ++m_tickCount;
+    say(m_ticks, [this] { return tr("%1 calls.").arg(m_tickCount); });
 }
 
 void AsyncPage::startItems()
 {
     m_finished = m_stopped = 0;
     m_progress->setValue(0);
+    m_stop->setEnabled(true); // first: the focus moves on to it
     m_start->setEnabled(false);
-    m_stop->setEnabled(true);
     for (int i = 0; i < itemCount; ++i) {
         auto item = std::make_unique<StepItem>();
         item->setAutoDelete(false); // the page stops it
@@ -230,8 +238,12 @@ void AsyncPage::onItemFinished(bool, bool stopped)
 {
     ++m_finished;
     m_stopped += stopped;
-    m_items->setText(
-        tr("%1 of %2 items finished, %3 of them stopped.").arg(m_finished).arg(itemCount).arg(m_stopped));
+    say(m_items, [this] {
+        return tr("%1 of %2 items finished, %3 of them stopped.")
+            .arg(m_finished)
+            .arg(itemCount)
+            .arg(m_stopped);
+    });
     if (m_finished == itemCount) {
         stopItems();
     }
@@ -241,28 +253,30 @@ void AsyncPage::waitWithoutInput()
 {
     CExcludeUserInpuEventLoop loop;
     const int before = m_clickCount;
-    m_wait->setText(tr("Waiting for %1 ms: nothing can be clicked.").arg(waitDuration));
+    say(m_wait, [] { return tr("Waiting for %1 ms: nothing can be clicked.").arg(waitDuration); });
     loop.exec(waitDuration);
-    m_wait->setText(tr("Over; %1 clicks got through.").arg(m_clickCount - before));
+    const int clicks = m_clickCount - before;
+    say(m_wait, [clicks] { return tr("Over; %1 clicks got through.").arg(clicks); });
 }
 
 void AsyncPage::waitForWorker()
 {
     const std::unique_ptr<QThread> worker(QThread::create([] { QThread::msleep(waitDuration); }));
     TOLVAN_NAMESPACE::COperationCompletionWaiter waiter(worker.get(), SIGNAL(finished()));
-    m_wait->setText(tr("Waiting for a worker: everything can be clicked."));
+    say(m_wait, [] { return tr("Waiting for a worker: everything can be clicked."); });
     const QPointer<AsyncPage> self(this); // the user may close the page meanwhile
     worker->start();
     waiter.startWaiting();
     worker->wait();
     if (self) {
-        m_wait->setText(tr("The worker has finished."));
+        say(m_wait, [] { return tr("The worker has finished."); });
     }
 }
 
 void AsyncPage::onClicked()
 {
-    m_clicks->setText(tr("%1 clicks.").arg(++m_clickCount));
+    ++m_clickCount;
+    say(m_clicks, [this] { return tr("%1 clicks.").arg(m_clickCount); });
 }
 
 #include "AsyncPage.moc"

@@ -114,7 +114,7 @@ void FilesPage::languageChanged()
     comparePaths();
     m_sizes->setText(
         QStringList{fileSizeToString(1024), fileSizeToString(1572864), sizeToString(QSize(6000, 4000))}.join(
-            QStringLiteral("   ")));
+            QStringLiteral("  ·  ")));
 }
 
 void FilesPage::checkName()
@@ -122,7 +122,7 @@ void FilesPage::checkName()
     const auto verdict = [this](bool isPath) {
         return validateFileName(m_name->text(), isPath) ? tr("may be used") : tr("refused");
     };
-    m_verdict->setText(verdict(false) + QStringLiteral("   ") + verdict(true));
+    m_verdict->setText(verdict(false) + QStringLiteral("  ·  ") + verdict(true));
 }
 
 void FilesPage::comparePaths()
@@ -157,7 +157,7 @@ void FilesPage::start(bool pack)
     connect(m_work.get(), SIGNAL(progress(int)), m_bar, SLOT(setValue(int)));
     connect(m_work.get(), SIGNAL(finished()), this, SLOT(workEnded()));
     m_cancel->setEnabled(true);
-    m_result->clear();
+    say(m_result, [] { return QString(); });
     m_bar->setValue(0);
     m_work->start();
 }
@@ -169,23 +169,26 @@ void FilesPage::workEnded()
     const int files = m_work->fileCount();
     m_work.reset();
     if (!done) {
-        m_result->setText(tr("Not done: cancelled, or a file can't be read or written."));
+        say(m_result, [] { return tr("Not done: cancelled, or a file can't be read or written."); });
         return;
     }
     m_bar->setValue(100);
     if (m_packing) {
-        m_result->setText(
-            tr("%1 files packed into %2.").arg(files).arg(fileSizeToString(QFileInfo(archivePath()).size())));
+        const QString size = fileSizeToString(QFileInfo(archivePath()).size());
+        say(m_result, [=] { return tr("%1 files packed into %2.").arg(files).arg(size); });
         return;
     }
     const QString difference = FileWork::firstDifference(m_folder->text(), unpackedPath());
-    m_result->setText(difference.isEmpty() ? tr("%1 files unpacked; both trees are equal.").arg(files)
-                                           : tr("The trees differ: %1").arg(difference));
+    say(m_result, [=] {
+        return difference.isEmpty() ? tr("%1 files unpacked; both trees are equal.").arg(files)
+                                    : tr("The trees differ: %1").arg(difference);
+    });
     QDir(unpackedPath()).removeRecursively();
 }
 
 void FilesPage::trashArchive()
 {
     const bool moved = moveFileToTrash(archivePath()) == FileOperationSucceeded;
-    m_result->setText(moved ? tr("The archive is in the recycle bin.") : tr("There is no archive."));
+    say(m_result,
+        [moved] { return moved ? tr("The archive is in the recycle bin.") : tr("There is no archive."); });
 }

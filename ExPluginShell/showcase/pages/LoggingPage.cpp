@@ -37,7 +37,11 @@ void LoggingPage::addSender()
 {
     m_message = new QLineEdit(this);
     const char* const hint = QT_TR_NOOP("A line from the showcase");
-    translate(hint, [this](const QString& text) { m_message->setText(text); });
+    translate(hint, [this](const QString& text) {
+        if (!m_message->isModified()) { // what the user wrote stays
+            m_message->setText(text);
+        }
+    });
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_message, 1);

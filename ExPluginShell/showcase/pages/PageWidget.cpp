@@ -22,6 +22,12 @@ void PageWidget::translate(const char* source, std::function<void(const QString&
     this->apply(m_texts.back());
 }
 
+void PageWidget::say(QLabel* label, std::function<QString()> text)
+{
+    label->setText(text());
+    m_said[label] = std::move(text);
+}
+
 void PageWidget::apply(const Text& text) const
 {
     text.apply(QCoreApplication::translate(metaObject()->className(), text.source));
@@ -89,6 +95,9 @@ void PageWidget::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         for (const Text& text : m_texts) {
             apply(text);
+        }
+        for (const auto& [label, text] : m_said) {
+            label->setText(text());
         }
         languageChanged();
     }

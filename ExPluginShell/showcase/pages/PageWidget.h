@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 class QFormLayout;
@@ -34,6 +35,9 @@ protected:
     /// the class of the page, so \a source is marked with QT_TR_NOOP; outside of this call, whose name the
     /// tools take for a translation of their own.
     void translate(const char* source, std::function<void(const QString&)> apply);
+    /// Shows in \a label what \a text puts together, now and whenever the language changes, until the next
+    /// call for this label.
+    void say(QLabel* label, std::function<QString()> text);
     /// Where the page's widgets go.
     QVBoxLayout* column() const { return m_column; }
 
@@ -64,4 +68,5 @@ private:
 
     QVBoxLayout* m_column;
     std::vector<Text> m_texts;
+    std::map<QLabel*, std::function<QString()>> m_said;
 };
