@@ -36,6 +36,7 @@ const char* const windowSheet = R"(
 #languageLabel, #pageSummary, #pageSubtitle { color: #A9AEB5; }
 #pageHeading { font-size: 26px; color: #FFFFFF; }
 #pageSubtitle { font-size: 15px; }
+#code { font-family: "Consolas", "DejaVu Sans Mono", "Liberation Mono", "Nimbus Mono PS", "monospace"; font-size: 12px; }
 )";
 
 QString translated(const char* text)
@@ -89,7 +90,7 @@ QWidget* ShowcaseWindow::makeProductName()
     auto* const name = new QLabel(QStringLiteral("Trelio Frame"), row);
     name->setObjectName(QStringLiteral("productName"));
     auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(8, 0, 0, 0);
+    layout->setContentsMargins(14, 0, 0, 0); // in line with the names of the pages
     layout->setSpacing(10);
     layout->addWidget(logo);
     layout->addWidget(name, 1);

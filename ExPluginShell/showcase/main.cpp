@@ -46,10 +46,20 @@ void startLog()
     }
 }
 
+bool hasNoDisplay()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
+}
+
 /// Language and look, as every host of the product does once at start-up.
 void dress()
 {
     using namespace TOLVAN_NAMESPACE;
+    if (hasNoDisplay()) { // its letters are larger than those of any desktop
+        QFont font = QApplication::font();
+        font.setPixelSize(13);
+        QApplication::setFont(font);
+    }
     CLanguageManager::instance()->loadLanguageForApp();
     new OwnTexts(qApp);
     loadFonts();
@@ -62,8 +72,7 @@ int runWindow(const QString& screenshots)
 {
     startLog();
     dress();
-    const bool noDisplay = QGuiApplication::platformName() == QLatin1String("offscreen");
-    if (!screenshots.isEmpty() || noDisplay) {
+    if (!screenshots.isEmpty() || hasNoDisplay()) {
         const QString folder = QDir::temp().filePath(QStringLiteral("trelio-showcase"));
         return writeScreenshots(screenshots.isEmpty() ? folder : screenshots) ? 0 : 1;
     }

@@ -67,6 +67,7 @@ void MessageBoxPage::addBoxes()
         connect(button, &QPushButton::clicked, this, [this, i] { showBox(i); });
         m_buttons += button;
         grid->addWidget(button, i / columns, i % columns);
+        grid->setColumnStretch(i % columns, 1);
     }
     column()->addLayout(grid);
     m_answer = new QLabel(this);

@@ -49,11 +49,13 @@ NativeDialogsPage::NativeDialogsPage(QWidget* parent)
                                                             QStringLiteral("*.jpg *.png *.tif"), {})});
                    }),
     };
+    constexpr int columns = 3;
     auto* const grid = new QGridLayout;
     grid->setSpacing(8);
     int number = 0;
     for (QPushButton* const button : buttons) {
-        grid->addWidget(button, number / 3, number % 3);
+        grid->addWidget(button, number / columns, number % columns);
+        grid->setColumnStretch(number % columns, 1);
         ++number;
     }
     column()->addLayout(grid);

@@ -62,6 +62,7 @@ StoragePage::StoragePage(QWidget* parent)
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setWordWrap(false);
     m_table->setTextElideMode(Qt::ElideMiddle);
     column()->addWidget(m_table, 1);

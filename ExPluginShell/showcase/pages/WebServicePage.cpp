@@ -4,7 +4,6 @@
 #include "Pages.h"
 
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -77,9 +76,7 @@ QPlainTextEdit* WebServicePage::addView(const char* title, QLabel* note, int str
     view->setReadOnly(true);
     view->setLineWrapMode(QPlainTextEdit::NoWrap);
     view->setTabChangesFocus(true);
-    // the look gives all widgets its own font, which only a style sheet of the widget overrules
-    view->setStyleSheet(QStringLiteral("font-family: \"%1\"; font-size: 12px;")
-                            .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family()));
+    view->setObjectName(QStringLiteral("code"));
 
     auto* line = new QHBoxLayout;
     QLabel* const label = addTitle(title);
