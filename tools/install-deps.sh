@@ -34,7 +34,7 @@ packages_of() {
         echo zip unzip p7zip-full libarchive-tools libglib2.0-bin gvfs gvfs-daemons trash-cli dbus
         ;;
     windows)
-        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb xauth xz-utils
+        echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb openbox xz-utils
         ;;
     sdk)
         echo g++ make cmake perl dpkg-dev xz-utils

@@ -2,6 +2,8 @@
 # Runs one Windows test program under Wine, in a Wine prefix of its own and for a limited time.
 set -euo pipefail
 
+tree="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+
 usage() {
     cat <<'TEXT'
 Usage: run-test.sh --sdk FOLDER --build FOLDER [--dlls FOLDER]... [--timeout SECONDS] PROGRAM [ARGUMENT]...
@@ -14,7 +16,8 @@ Runs PROGRAM as CTest does in the win64 build, prints what it wrote and ends wit
 
 Every run starts with a fresh registry and fresh user folders; the system part of the prefix is shared.
 Qt Test programs write their results through a file, because the console may not reach a pipe. Programs with a
-QApplication get "-platform offscreen"; TOLVAN_TEST_PLATFORM=windows gives them real windows on a virtual screen.
+QApplication get "-platform offscreen"; TOLVAN_TEST_PLATFORM=windows gives them real windows on a virtual screen with a
+window manager.
 Exit code 125: the run could not be prepared. KEEP_WINE_PREFIX=1 leaves the prefix of the run for inspection.
 TEXT
 }
@@ -166,7 +169,7 @@ results=
 if [[ "$imports" =~ _ZN(12QApplication|15QGuiApplication)C1 ]]; then
     platform="${TOLVAN_TEST_PLATFORM:-offscreen}"
     arguments+=(-platform "$platform")
-    [ "$platform" != windows ] || screen=(xvfb-run -a)
+    [ "$platform" != windows ] || screen=("$tree/tests/support/with-x-server.sh")
 fi
 if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
     results="$run/results.txt"
