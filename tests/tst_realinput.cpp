@@ -8,9 +8,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <X11/extensions/XTest.h>
-#include <X11/keysym.h>
-#include <X11/Xlib.h>
+#include "RealInput.h" // last: it brings macros along
 
 /// Input of a real X server, as a user's mouse and keyboard make it, while the program waits. Runs on an X
 /// server of its own with a window manager.
@@ -21,7 +19,6 @@ class RealInputTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanupTestCase() { XCloseDisplay(m_display); }
     void inputArrivesWithoutAWait();
     void inputWaits_data();
     void inputWaits();
@@ -37,11 +34,9 @@ private:
         int clicks = 0, moves = 0, wheels = 0;
     };
 
-    void type(KeySym key);
-    void moveTo(const QWidget* widget);
     void useAll();
 
-    Display* m_display = nullptr;
+    RealInput m_user;
     Window m_window;
 };
 
@@ -75,9 +70,7 @@ QString RealInputTest::Window::seen() const
 void RealInputTest::initTestCase()
 {
     QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
-    m_display = XOpenDisplay(nullptr);
-    int unused = 0;
-    QVERIFY(m_display && XTestQueryExtension(m_display, &unused, &unused, &unused, &unused));
+    QVERIFY(m_user.isThere());
     m_window.show();
     m_window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&m_window));
@@ -88,37 +81,20 @@ void RealInputTest::init()
     m_window.edit->clear();
     m_window.edit->setFocus();
     QTRY_VERIFY(m_window.edit->hasFocus());
-    moveTo(m_window.edit);
-    XSync(m_display, False);
+    m_user.moveTo(*m_window.edit);
     QTRY_VERIFY(m_window.edit->underMouse());
     m_window.clicks = m_window.moves = m_window.wheels = 0;
-}
-
-void RealInputTest::type(KeySym key)
-{
-    const unsigned int code = XKeysymToKeycode(m_display, key);
-    XTestFakeKeyEvent(m_display, code, True, CurrentTime);
-    XTestFakeKeyEvent(m_display, code, False, CurrentTime);
-}
-
-void RealInputTest::moveTo(const QWidget* widget)
-{
-    const QPoint to = widget->mapToGlobal(widget->rect().center());
-    XTestFakeMotionEvent(m_display, -1, to.x(), to.y(), CurrentTime);
 }
 
 /// Types "ab", moves to the button, clicks it and turns the wheel there; the pointer then stays, because a
 /// window manager may delay the click. Returns when the server has it all.
 void RealInputTest::useAll()
 {
-    type(XK_a);
-    type(XK_b);
-    moveTo(m_window.button);
-    for (const unsigned int button : {1U, 4U}) { // left, wheel up
-        XTestFakeButtonEvent(m_display, button, True, CurrentTime);
-        XTestFakeButtonEvent(m_display, button, False, CurrentTime);
-    }
-    XSync(m_display, False);
+    m_user.type(XK_a);
+    m_user.type(XK_b);
+    m_user.moveTo(*m_window.button);
+    m_user.click(1); // left
+    m_user.click(4); // wheel up
 }
 
 static const QString everything = QStringLiteral("text 'ab', 1 clicks, moves: yes, 1 wheel turns");
