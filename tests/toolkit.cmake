@@ -12,6 +12,10 @@ if(UTILSDLL_WITH_BUNDLES)
     tolvan_add_test(tst_dialoglanguages)
 endif()
 if(NOT WIN32)
+    foreach(ratio 1.5 2)
+        tolvan_register_test(tst_controls_ratio${ratio} COMMAND tst_controls)
+        set_property(TEST tst_controls_ratio${ratio} APPEND PROPERTY ENVIRONMENT QT_SCALE_FACTOR=${ratio})
+    endforeach()
     add_executable(tst_screens tst_screens.cpp)
     target_link_libraries(tst_screens PRIVATE test_support project_options Tolvan::UtilsDllTrelioFrame)
     tolvan_register_test(tst_screens_x11 LABELS x11 COMMAND
@@ -20,10 +24,17 @@ if(NOT WIN32)
         tolvan_register_test(${name}_x11 LABELS x11 COMMAND
             "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:${name}>)
     endforeach()
+    find_package(X11)
+    if(X11_XTest_FOUND)
+        add_executable(tst_realdrag tst_realdrag.cpp)
+        target_link_libraries(tst_realdrag PRIVATE
+            test_support project_options Tolvan::UtilsDllTrelioFrame X11::X11 X11::Xtst)
+        tolvan_register_test(tst_realdrag LABELS x11 COMMAND
+            "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:tst_realdrag>)
+    endif()
 else()
-    # Once more with the real windows of the system, on a virtual screen (but for the message boxes: without a window
-    # manager Wine takes seconds to give each of them the focus).
-    foreach(name tst_guiutils tst_basedialog tst_controls tst_aboutdialogs)
+    # Once more with the real windows of the system, on a virtual screen.
+    foreach(name tst_guiutils tst_basedialog tst_controls tst_messagebox tst_aboutdialogs)
         tolvan_register_test(${name}_desktop COMMAND ${name})
         set_property(TEST ${name}_desktop APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
     endforeach()

@@ -1,10 +1,10 @@
+#include "ModalDialog.h"
 #include "TestMain.h"
 
 #include <utilsDll/AboutDlg.h>
 
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
 
 /// The About dialogs: what they tell, the names that the style sheets address, and how they close.
 class AboutDialogsTest : public QObject
@@ -68,14 +68,12 @@ void AboutDialogsTest::texts()
 void AboutDialogsTest::styleSheetReachesTheName()
 {
     qApp->setStyleSheet(QStringLiteral("CAboutDlg #label_1 { font-size: 31px; }"));
-    CAboutDlg dialog;
-    CAboutOstraDlg other;
-    auto* const label = dialog.findChild<QLabel*>(QStringLiteral("label_1"));
-    label->ensurePolished();
-    QCOMPARE(label->font().pixelSize(), 31);
-    auto* const otherLabel = other.findChild<QLabel*>(QStringLiteral("label_1"));
-    otherLabel->ensurePolished();
-    QVERIFY(otherLabel->font().pixelSize() != 31);
+    for (const bool family : {false, true}) {
+        const auto dialog = make(family);
+        auto* const label = dialog->findChild<QLabel*>(QStringLiteral("label_1"));
+        label->ensurePolished();
+        QCOMPARE(label->font().pixelSize() == 31, !family);
+    }
     qApp->setStyleSheet(QString());
 }
 
@@ -93,16 +91,15 @@ void AboutDialogsTest::closes()
     for (const bool family : {false, true}) {
         const auto dialog = make(family);
         bool closed = false;
-        QTimer::singleShot(0, dialog.get(), [&] {
+        const auto act = [&](QDialog& open) {
             if (key != 0) {
-                QTest::keyClick(dialog.get(), static_cast<Qt::Key>(key));
+                QTest::keyClick(&open, static_cast<Qt::Key>(key));
             } else {
-                dialog->findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
+                open.findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
             }
-            closed = !dialog->isVisible();
-            dialog->reject();
-        });
-        dialog->exec();
+            closed = !open.isVisible();
+        };
+        QVERIFY(whileOpen<QDialog>([&] { dialog->exec(); }, act));
         QVERIFY(closed);
     }
 }

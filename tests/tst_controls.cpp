@@ -1,3 +1,4 @@
+#include "ScreenProbe.h"
 #include "TestMain.h"
 
 #include <utilsDll/controls/IconViewer.h>
@@ -11,19 +12,28 @@ using TOLVAN_NAMESPACE::CIconViewer;
 namespace
 {
 
-QImage render(QWidget& widget, qreal ratio = 1.0)
+/// A white picture of the size of \a widget, in its device pixels.
+QImage blank(const QWidget& widget)
 {
+    const qreal ratio = widget.devicePixelRatioF();
     QImage image(widget.size() * ratio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::white);
+    return image;
+}
+
+QImage render(QWidget& widget)
+{
+    QImage image = blank(widget);
     widget.render(&image, {}, {}, QWidget::DrawChildren);
     return image;
 }
 
-QPixmap filled(const QSize& size, const QColor& color)
+QPixmap filled(const QSize& size, const QBrush& brush)
 {
     QPixmap pixmap(size);
-    pixmap.fill(color);
+    pixmap.fill(Qt::white);
+    QPainter(&pixmap).fillRect(pixmap.rect(), brush);
     return pixmap;
 }
 
@@ -51,6 +61,7 @@ class ControlsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void hintsAreExchanged();
     void textRunsUpwards_data();
     void textRunsUpwards();
@@ -58,11 +69,16 @@ private Q_SLOTS:
     void onlyTheTextIsPainted();
     void iconFillsTheWidget_data();
     void iconFillsTheWidget();
-    void smallBitmapIsNotEnlarged();
-    void nullIconPaintsNothing();
+    void iconIsSharp();
+    void nothingToShow();
     void disabledIcon();
-    void sizeHint();
 };
+
+void ControlsTest::initTestCase()
+{
+    const QString ratio = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
+    QCOMPARE(qApp->devicePixelRatio(), ratio.toDouble());
+}
 
 void ControlsTest::hintsAreExchanged()
 {
@@ -105,9 +121,7 @@ void ControlsTest::textRunsUpwards()
     label.resize(20, 80);
     label.setLeftMargin(left);
     label.setTopMargin(top);
-    const QImage image = render(label);
-    QImage expected(label.size(), QImage::Format_ARGB32_Premultiplied);
-    expected.fill(Qt::white);
+    QImage expected = blank(label);
     QPainter painter(&expected);
     painter.setFont(label.font());
     painter.setPen(label.palette().color(QPalette::WindowText));
@@ -115,18 +129,17 @@ void ControlsTest::textRunsUpwards()
     painter.rotate(-90);
     painter.drawText(0, 0, QStringLiteral("Text"));
     painter.end();
-    QCOMPARE(image, expected);
-    QVERIFY(image != QImage(expected.size(), expected.format()));
-    const QRect below(0, baseline.y() + 1, 20, 80);
-    QCOMPARE(image.copy(below & image.rect()), expected.copy(below & image.rect()));
+    QCOMPARE(render(label), expected);
 }
 
 void ControlsTest::marginsAskForNoRepaint()
 {
+    if (ScreenProbe::canSee()) {
+        QSKIP("a window system asks for repaints of its own at any time");
+    }
     CountingLabel label(QStringLiteral("Text"));
     label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    QTest::qWait(20);
+    QTRY_VERIFY(label.paints > 0);
     label.paints = 0;
     label.setLeftMargin(4);
     label.setTopMargin(4);
@@ -142,55 +155,62 @@ void ControlsTest::onlyTheTextIsPainted()
     label.resize(20, 80);
     label.setFrameStyle(QFrame::Box | QFrame::Plain);
     label.setPixmap(filled({10, 10}, Qt::red));
-    QImage white(label.size(), QImage::Format_ARGB32_Premultiplied);
-    white.fill(Qt::white);
-    QCOMPARE(render(label), white);
+    QCOMPARE(render(label), blank(label));
 }
 
 void ControlsTest::iconFillsTheWidget_data()
 {
+    QTest::addColumn<int>("edge"); // of the bitmap
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<qreal>("ratio");
-    QTest::addColumn<QRect>("painted"); // in device pixels
-    QTest::newRow("34 pixels") << QSize(34, 34) << 1.0 << QRect(0, 0, 34, 34);
-    QTest::newRow("wide") << QSize(60, 34) << 1.0 << QRect(13, 0, 34, 34);
-    QTest::newRow("high") << QSize(34, 50) << 1.0 << QRect(0, 8, 34, 34);
+    QTest::addColumn<QRect>("painted");
+    QTest::newRow("34 pixels") << 128 << QSize(34, 34) << QRect(0, 0, 34, 34);
+    QTest::newRow("wide") << 128 << QSize(62, 34) << QRect(14, 0, 34, 34);
+    QTest::newRow("high") << 128 << QSize(34, 50) << QRect(0, 8, 34, 34);
+    QTest::newRow("a small bitmap is not enlarged") << 16 << QSize(36, 36) << QRect(10, 10, 16, 16);
 }
 
 void ControlsTest::iconFillsTheWidget()
 {
+    QFETCH(int, edge);
     QFETCH(QSize, size);
-    QFETCH(qreal, ratio);
     QFETCH(QRect, painted);
     CIconViewer viewer;
-    viewer.setIcon(QIcon(filled({128, 128}, Qt::red)));
+    viewer.setIcon(QIcon(filled({edge, edge}, Qt::red)));
     viewer.resize(size);
-    QImage expected(size * ratio, QImage::Format_ARGB32_Premultiplied);
-    expected.fill(Qt::white);
+    QImage expected = blank(viewer);
     QPainter(&expected).fillRect(painted, Qt::red);
-    QCOMPARE(render(viewer, ratio), expected);
-}
-
-void ControlsTest::smallBitmapIsNotEnlarged()
-{
-    CIconViewer viewer;
-    viewer.setIcon(QIcon(filled({16, 16}, Qt::red)));
-    viewer.resize(34, 34);
-    QImage expected(34, 34, QImage::Format_ARGB32_Premultiplied);
-    expected.fill(Qt::white);
-    QPainter(&expected).fillRect(QRect(9, 9, 16, 16), Qt::red);
     QCOMPARE(render(viewer), expected);
 }
 
-void ControlsTest::nullIconPaintsNothing()
+/// One pixel of the icon is one of the device, whether or not icons look at the ratio themselves.
+void ControlsTest::iconIsSharp()
 {
     CIconViewer viewer;
     viewer.resize(34, 34);
-    QImage white(34, 34, QImage::Format_ARGB32_Premultiplied);
-    white.fill(Qt::white);
-    QCOMPARE(render(viewer), white);
+    const QPixmap finePattern = filled(viewer.size() * viewer.devicePixelRatioF(), Qt::Dense4Pattern);
+    QIcon icon(filled(finePattern.size() / 2, Qt::red));
+    icon.addPixmap(finePattern);
+    icon.addPixmap(filled(finePattern.size() * 2, Qt::red));
+    viewer.setIcon(icon);
+    for (const bool enlarging : {true, false}) {
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, enlarging);
+        QImage image = render(viewer);
+        image.setDevicePixelRatio(1.0);
+        QCOMPARE(image, finePattern.toImage().convertToFormat(image.format()));
+    }
+}
+
+void ControlsTest::nothingToShow()
+{
+    CIconViewer viewer;
+    QVERIFY(viewer.icon().isNull());
+    QCOMPARE(viewer.sizeHint(), QSize(0, 0));
+    viewer.setSizeHint({34, 34});
+    QCOMPARE(viewer.sizeHint(), QSize(34, 34));
+    viewer.resize(34, 34);
+    QCOMPARE(render(viewer), blank(viewer));
     viewer.setIcon(QIcon(QStringLiteral("no-such-file.png")));
-    QCOMPARE(render(viewer), white);
+    QCOMPARE(render(viewer), blank(viewer));
     viewer.resize(0, 0);
     viewer.repaint();
 }
@@ -204,15 +224,6 @@ void ControlsTest::disabledIcon()
     viewer.resize(34, 34);
     viewer.setEnabled(false);
     QCOMPARE(render(viewer).pixelColor(17, 17), QColor(Qt::gray));
-}
-
-void ControlsTest::sizeHint()
-{
-    CIconViewer viewer;
-    QCOMPARE(viewer.sizeHint(), QSize(0, 0));
-    viewer.setSizeHint({34, 34});
-    QCOMPARE(viewer.sizeHint(), QSize(34, 34));
-    QVERIFY(viewer.icon().isNull());
 }
 
 TOLVAN_GUI_TEST_MAIN(ControlsTest)

@@ -1,3 +1,5 @@
+#include "BoxKinds.h"
+#include "ModalDialog.h"
 #include "TestMain.h"
 
 #include <utilsDll/AboutDlg.h>
@@ -5,13 +7,9 @@
 #include <utilsDll/controls/IconViewer.h>
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/LanguageManager.h>
-#include <utilsDll/MessageBox.h>
 
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
-
-#include <functional>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -22,57 +20,34 @@ class DialogLanguagesTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void boxes_data();
-    void boxes();
-    void aboutDialogs_data() { boxes_data(); }
-    void aboutDialogs();
-
-private:
-    static void checkWhileOpen(const std::function<void()>& open, const std::function<void(QWidget&)>& check);
+    void nothingIsCutOff_data();
+    void nothingIsCutOff();
 };
 
 namespace
 {
 
-void checkTexts(QWidget& dialog)
-{
-    for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
-        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));
-    }
-    for (const QPushButton* const button : dialog.findChildren<QPushButton*>()) {
-        QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
-        QVERIFY2(button->width() >= 80 && button->height() >= 36, qPrintable(button->text()));
-        QVERIFY(dialog.rect().contains(QRect(button->mapTo(&dialog, QPoint()), button->size())));
-    }
-    const auto* const viewer = dialog.findChild<CIconViewer*>();
-    QVERIFY(viewer && !viewer->icon().isNull());
-}
-
-QStringList buttonTexts(const QWidget& dialog)
+/// What the dialog's buttons say.
+QStringList checkTexts(const QDialog& dialog)
 {
     QStringList texts;
+    const auto verify = [](bool ok, const QString& text) { QVERIFY2(ok, qPrintable(text)); };
+    for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
+        verify(label->height() >= label->heightForWidth(label->width()), label->text());
+    }
     for (const QPushButton* const button : dialog.findChildren<QPushButton*>()) {
         texts += button->text();
+        verify(button->width() >= button->sizeHint().width(), button->text());
+        verify(button->width() >= 80 && button->height() >= 36, button->text());
+        const QRect place(button->mapTo(&dialog, QPoint()), button->size());
+        verify(dialog.rect().contains(place), button->text());
     }
+    const auto* const viewer = dialog.findChild<CIconViewer*>();
+    verify(viewer && !viewer->icon().isNull(), QStringLiteral("the icon"));
     return texts;
 }
 
 } // namespace
-
-void DialogLanguagesTest::checkWhileOpen(const std::function<void()>& open,
-                                         const std::function<void(QWidget&)>& check)
-{
-    bool checked = false;
-    QTimer::singleShot(0, [&] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog);
-        check(*dialog);
-        checked = true;
-        dialog->close();
-    });
-    open();
-    QVERIFY(checked);
-}
 
 void DialogLanguagesTest::initTestCase()
 {
@@ -82,58 +57,40 @@ void DialogLanguagesTest::initTestCase()
     CLanguageManager::instance()->loadLanguageForApp();
 }
 
-void DialogLanguagesTest::boxes_data()
+void DialogLanguagesTest::nothingIsCutOff_data()
 {
-    QTest::addColumn<int>("number"); // of the language, in the product family
-    QTest::addColumn<QStringList>("texts");
-    const auto row = [](const char* name, int number, std::initializer_list<const char*> texts) {
-        QStringList list;
-        for (const char* const text : texts) {
-            list += QString::fromUtf8(text);
-        }
-        QTest::newRow(name) << number << list;
+    QTest::addColumn<unsigned>("number"); // of the language, in the product family
+    QTest::addColumn<QString>("save");
+    QTest::addColumn<QString>("quit");
+    const auto row = [](const char* name, unsigned number, const char* save, const char* quit) {
+        QTest::newRow(name) << number << QString::fromUtf8(save) << QString::fromUtf8(quit);
     };
-    row("German", 0,
-        {"Nicht speichern", "Speichern", "Abbrechen", "Nicht beenden", "Ohne Speichern beenden"});
-    row("French", 5,
-        {"Ne pas enregistrer", "Enregistrer", "Annuler", "Ne pas quitter", "Quitter sans enregistrer"});
-    row("Japanese", 12, {"保存しない", "保存", "キャンセル", "終了しない", "保存せずに終了"});
-    row("Chinese", 13, {"不保存", "保存", "取消", "不退出", "不保存并退出"});
-    row("English", 2, {"Don't save", "Save", "Cancel", "Don't quit", "Quit without saving"});
+    row("German", 0, "Nicht speichern, Speichern, Abbrechen", "Nicht beenden, Ohne Speichern beenden");
+    row("French", 5, "Ne pas enregistrer, Enregistrer, Annuler", "Ne pas quitter, Quitter sans enregistrer");
+    row("Japanese", 12, "保存しない, 保存, キャンセル", "終了しない, 保存せずに終了");
+    row("Chinese", 13, "不保存, 保存, 取消", "不退出, 不保存并退出");
+    row("English", 2, "Don't save, Save, Cancel", "Don't quit, Quit without saving");
 }
 
-void DialogLanguagesTest::boxes()
+void DialogLanguagesTest::nothingIsCutOff()
 {
-    QFETCH(int, number);
-    QFETCH(QStringList, texts);
+    QFETCH(const unsigned, number);
+    QFETCH(const QString, save);
+    QFETCH(const QString, quit);
     auto* const languages = CLanguageManager::instance();
-    languages->changeLanguage(languages->getLanguageIndexFromID(static_cast<unsigned>(number)));
-    const QString text = texts.join(QStringLiteral(", ")); // some words of the language
-    const std::function<void()> others[] = {[&] { CMessageBox::information(nullptr, text, 165); },
-                                            [&] { CMessageBox::warning(nullptr, text, 165); },
-                                            [&] { CMessageBox::critical(nullptr, text, 165); },
-                                            [&] { CMessageBox::yesNoMessage(nullptr, text, 165); },
-                                            [&] { CMessageBox::rotateQuestion(nullptr, text, 165); }};
-    for (const auto& open : others) {
-        checkWhileOpen(open, &checkTexts);
+    languages->changeLanguage(languages->getLanguageIndexFromID(number));
+    const QString separator = QStringLiteral(", ");
+    QMap<QString, QString> said;
+    for (const BoxKinds::Kind& kind : BoxKinds::kinds()) {
+        const auto check = [&](CMessageBox& box) {
+            said[QString::fromLatin1(kind.name)] = checkTexts(box).join(separator);
+        };
+        QVERIFY(whileOpen<CMessageBox>([&] { kind.show(nullptr, save + separator + quit); }, check));
     }
-    QStringList shown;
-    const auto checkAndNote = [&](QWidget& dialog) {
-        checkTexts(dialog);
-        shown += buttonTexts(dialog);
-    };
-    checkWhileOpen([&] { CMessageBox::saveDiscardCancelMessage(nullptr, text, 165); }, checkAndNote);
-    checkWhileOpen([&] { CMessageBox::backgroundProcessingCancelMessage(nullptr, text); }, checkAndNote);
-    QCOMPARE(shown, texts);
-}
-
-void DialogLanguagesTest::aboutDialogs()
-{
-    QFETCH(int, number);
-    auto* const languages = CLanguageManager::instance();
-    languages->changeLanguage(languages->getLanguageIndexFromID(static_cast<unsigned>(number)));
-    checkWhileOpen([] { CAboutDlg().exec(); }, &checkTexts);
-    checkWhileOpen([] { CAboutOstraDlg().exec(); }, &checkTexts);
+    QCOMPARE(said.value(QStringLiteral("save, discard, cancel")), save);
+    QCOMPARE(said.value(QStringLiteral("quit")), quit);
+    QVERIFY(whileOpen<CAboutDlg>([] { CAboutDlg().exec(); }, &checkTexts));
+    QVERIFY(whileOpen<CAboutOstraDlg>([] { CAboutOstraDlg().exec(); }, &checkTexts));
 }
 
 TOLVAN_GUI_TEST_MAIN(DialogLanguagesTest)

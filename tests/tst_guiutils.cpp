@@ -14,6 +14,8 @@
 #include <windows.h>
 #endif
 
+#include <utility>
+
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -24,55 +26,73 @@ bool onWindows()
     return QSysInfo::kernelType() == QLatin1String("winnt");
 }
 
-/// Keeps the mouse and hover events that it gets.
-class Recorder : public QWidget
+template <class... Values>
+QString describe(Values... values)
+{
+    QString text;
+    (QDebug(&text) << ... << values);
+    return text;
+}
+
+/// Keeps the mouse and hover events of a widget in their order.
+class EventLog : public QObject
 {
 public:
-    explicit Recorder(QWidget* parent = nullptr)
-        : QWidget(parent)
+    /// \a holdBack keeps moves and leaves from the widget, so that a menu keeps its active action.
+    explicit EventLog(QWidget& widget, bool holdBack = false)
+        : m_holdBack(holdBack)
     {
+        widget.installEventFilter(this);
     }
 
-    QStringList events;
+    QStringList take() { return std::exchange(m_events, {}); }
 
 protected:
-    bool event(QEvent* event) override
+    bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::MouseMove) {
             const auto& move = *static_cast<QMouseEvent*>(event);
-            events += QStringLiteral("move %1,%2 %3,%4 buttons %5/%6 keys %7")
-                          .arg(move.x())
-                          .arg(move.y())
-                          .arg(move.globalX())
-                          .arg(move.globalY())
-                          .arg(move.button())
-                          .arg(move.buttons())
-                          .arg(move.modifiers());
+            m_events += describe("move", move.globalPos(), move.pos(), move.button(), move.buttons(),
+                                 move.modifiers());
         } else if (event->type() == QEvent::Leave) {
-            events += QStringLiteral("leave");
+            m_events += describe("leave");
         } else if (event->type() == QEvent::Enter) {
-            const QPoint pos = static_cast<QEnterEvent*>(event)->globalPos();
-            events += QStringLiteral("enter %1,%2").arg(pos.x()).arg(pos.y());
+            m_events += describe("enter", static_cast<QEnterEvent*>(event)->globalPos());
+            return false;
+        } else {
+            return false;
         }
-        return QWidget::event(event);
+        return m_holdBack;
     }
+
+private:
+    QStringList m_events;
+    bool m_holdBack;
 };
 
-/// A menu that keeps its active action whatever the mouse does, and counts the moves.
-class SteadyMenu : public QMenu
+QString moveTo(const QPoint& pos, const QWidget& widget)
+{
+    return describe("move", pos, widget.mapFromGlobal(pos), Qt::NoButton, Qt::MouseButtons(),
+                    Qt::KeyboardModifiers());
+}
+
+/// An active window at a place of its own.
+class Window : public QWidget
 {
 public:
-    using QMenu::QMenu;
-
-    int moves = 0;
-
-protected:
-    bool event(QEvent* event) override
+    Window()
     {
-        moves += event->type() == QEvent::MouseMove ? 1 : 0;
-        return event->type() == QEvent::MouseMove || event->type() == QEvent::Leave || QMenu::event(event);
+        setGeometry(100, 80, 300, 200);
+        show();
+        activateWindow();
     }
 };
+
+void moveCursor(const QPoint& pos)
+{
+    QCursor::setPos(pos);
+    QTRY_COMPARE(QCursor::pos(), pos);
+}
 
 void expectReport(int line, const char* message)
 {
@@ -103,8 +123,8 @@ private Q_SLOTS:
     void misplacedWindows();
     void screenOfParentWithoutExtent();
     void mouseMoveIsSent();
-    void hoverOverWidget();
-    void hoverBesideWidget();
+    void hover();
+    void hoverOverMenu_data();
     void hoverOverMenu();
     void hoverWithoutActiveWindow();
     void closeButton();
@@ -183,99 +203,80 @@ void GuiUtilsTest::screenOfParentWithoutExtent()
 
 void GuiUtilsTest::mouseMoveIsSent()
 {
-    Recorder widget;
+    QWidget widget;
     widget.setMouseTracking(true); // or else a move without buttons is not the widget's business
+    EventLog log(widget);
     widget.move(100, 80);
-    const QPoint local = widget.mapFromGlobal({123, 97});
     synthesizeMouseEvent(&widget, {123, 97});
-    QCOMPARE(
-        widget.events,
-        QStringList(QStringLiteral("move %1,%2 123,97 buttons 0/0 keys 0").arg(local.x()).arg(local.y())));
+    QCOMPARE(log.take(), QStringList(moveTo({123, 97}, widget)));
     synthesizeMouseEvent(nullptr, {1, 2});
 }
 
-void GuiUtilsTest::hoverOverWidget()
+void GuiUtilsTest::hover()
 {
-    Recorder widget;
-    widget.resize(200, 150);
-    widget.show();
-    widget.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&widget));
-    const QPoint centre = widget.mapToGlobal(widget.rect().center());
-    QCursor::setPos(centre);
-    QTRY_COMPARE(QCursor::pos(), centre);
-    QTest::qWait(50); // what the move itself brought
-    widget.events.clear();
-    flickHoverEvent(&widget);
-    const QStringList synchronous = widget.events;
-    QCOMPARE(synchronous, QStringList({QStringLiteral("leave"),
-                                       QStringLiteral("enter %1,%2").arg(centre.x()).arg(centre.y())}));
-    QCOMPARE(QCursor::pos(), centre);
+    Window window;
+    QWidget child(&window);
+    child.setGeometry(0, 0, 50, 50);
+    child.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QPoint over = child.mapToGlobal({20, 20});
+    EventLog log(child);
+    moveCursor(over);
+    log.take();
+    flickHoverEvent(&child);
+    QCOMPARE(log.take(), QStringList({describe("leave"), describe("enter", over)}));
+    QCOMPARE(QCursor::pos(), over);
+
+    moveCursor(child.mapToGlobal({50, 20})); // the first pixel beside it
+    log.take();
+    flickHoverEvent(&child);
+    QCOMPARE(log.take(), QStringList(describe("leave")));
+    flickHoverEvent(nullptr);
 }
 
-void GuiUtilsTest::hoverBesideWidget()
+void GuiUtilsTest::hoverOverMenu_data()
 {
-    Recorder window;
-    window.resize(200, 150);
-    Recorder child(&window);
-    child.setGeometry(0, 0, 50, 50);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const QPoint beside = window.mapToGlobal({50, 20});
-    QCursor::setPos(beside);
-    QTRY_COMPARE(QCursor::pos(), beside);
-    QTest::qWait(50);
-    child.events.clear();
-    flickHoverEvent(&child);
-    QCOMPARE(child.events, QStringList(QStringLiteral("leave")));
-    flickHoverEvent(nullptr);
+    QTest::addColumn<bool>("steady");    // the menu takes no notice of the mouse
+    QTest::addColumn<bool>("separator"); // it turns into a separator while it is active
+    QTest::addColumn<int>("expected");   // -1: none
+    QTest::newRow("chooses the entry under the cursor") << false << false << 0;
+    QTest::newRow("an active entry stays") << true << false << 1;
+    QTest::newRow("an active separator is let go") << true << true << -1;
 }
 
 void GuiUtilsTest::hoverOverMenu()
 {
-    QWidget window;
-    window.resize(300, 200);
-    window.show();
-    window.activateWindow();
+    QFETCH(const bool, steady);
+    QFETCH(const bool, separator);
+    QFETCH(const int, expected);
+    Window window;
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QMenu menu(&window);
     QAction* const first = menu.addAction(QStringLiteral("First entry"));
-    menu.addSeparator();
-    menu.addAction(QStringLiteral("Last entry"));
+    QAction* const active = menu.addAction(QStringLiteral("Last entry"));
     menu.popup(window.mapToGlobal({20, 20}));
     QVERIFY(QTest::qWaitForWindowExposed(&menu));
-    QCursor::setPos(menu.mapToGlobal(menu.actionGeometry(first).center()));
-    QTest::qWait(50);
-    menu.setActiveAction(nullptr);
+    const QPoint pos = menu.mapToGlobal(menu.actionGeometry(first).center());
+    moveCursor(pos);
+    menu.setActiveAction(active); // the other one
+    active->setSeparator(separator);
+    QCOMPARE(menu.activeAction(), active);
+    EventLog log(menu, steady);
     flickHoverEvent(&menu);
-    QCOMPARE(menu.activeAction(), first);
+    QCOMPARE(log.take(),
+             QStringList({describe("leave"), describe("enter", pos), moveTo(pos, menu), moveTo(pos, menu)}));
+    QCOMPARE(menu.actions().indexOf(menu.activeAction()), expected);
     menu.close();
-    SteadyMenu steady(&window);
-    QAction* const entry = steady.addAction(QStringLiteral("Entry"));
-    QAction* const separator = steady.addSeparator();
-    steady.popup(window.mapToGlobal({20, 20}));
-    QVERIFY(QTest::qWaitForWindowExposed(&steady));
-    QCursor::setPos(steady.mapToGlobal(steady.rect().center()));
-    QTest::qWait(50);
-    for (QAction* const active : {entry, separator}) {
-        steady.setActiveAction(active);
-        steady.moves = 0;
-        flickHoverEvent(&steady);
-        QCOMPARE(steady.moves, 2);
-        QCOMPARE(steady.activeAction(), active == separator ? nullptr : active);
-    }
-    steady.close();
 }
 
 void GuiUtilsTest::hoverWithoutActiveWindow()
 {
-    Recorder widget;
-    widget.setAttribute(Qt::WA_ShowWithoutActivating);
+    QWidget widget;
+    EventLog log(widget);
     QApplication::setActiveWindow(nullptr);
     QVERIFY(!QApplication::activeWindow());
     flickHoverEvent(&widget);
-    QCOMPARE(widget.events, QStringList());
+    QCOMPARE(log.take(), QStringList());
 }
 
 void GuiUtilsTest::closeButton()
@@ -285,9 +286,7 @@ void GuiUtilsTest::closeButton()
         QSKIP("a window without a system menu; seen on the platform \"windows\"");
     }
 #endif
-    QWidget window;
-    window.resize(300, 100);
-    window.show();
+    Window window;
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const WId handle = window.winId();
     const auto closable = [&] {
@@ -317,31 +316,27 @@ class AfterApplicationTest : public QObject
     Q_OBJECT
 
 public:
-    explicit AfterApplicationTest(Recorder& survivor)
+    explicit AfterApplicationTest(QWidget& survivor)
         : m_survivor(survivor)
     {
     }
 
 private Q_SLOTS:
-    void centring();
-    void hovering();
+    void nothingIsDone();
 
 private:
-    Recorder& m_survivor;
+    QWidget& m_survivor;
 };
 
-void AfterApplicationTest::centring()
+void AfterApplicationTest::nothingIsDone()
 {
+    EventLog log(m_survivor);
+    flickHoverEvent(&m_survivor);
+    QCOMPARE(log.take(), QStringList());
     installedLogger().take();
     expectReport(111, "desktop is unavailable");
     moveWindowToScreenCenter(&m_survivor, nullptr);
     QCOMPARE(installedLogger().take(), report(111, "desktop is unavailable"));
-}
-
-void AfterApplicationTest::hovering()
-{
-    flickHoverEvent(&m_survivor);
-    QCOMPARE(m_survivor.events, QStringList());
 }
 
 int main(int argc, char* argv[])
@@ -351,10 +346,10 @@ int main(int argc, char* argv[])
     qputenv("QT_FONT_DPI", "120");
     QTEST_SET_MAIN_SOURCE_PATH
     int failed = 0;
-    std::unique_ptr<Recorder> survivor;
+    std::unique_ptr<QWidget> survivor;
     {
         QApplication application(argc, argv);
-        survivor = std::make_unique<Recorder>();
+        survivor = std::make_unique<QWidget>();
         GuiUtilsTest test;
         failed = QTest::qExec(&test, argc, argv);
     }

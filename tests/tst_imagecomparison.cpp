@@ -59,8 +59,6 @@ private Q_SLOTS:
     void plainMeasureIsTheMeasure();
     void threshold_data();
     void threshold();
-    void alphaDoesNotCount();
-    void rowsWeighMoreTheLowerTheyAre();
     void shallowImagesAreConverted_data();
     void shallowImagesAreConverted();
     void partOfALargerImage();
@@ -132,28 +130,6 @@ void ImageComparisonTest::threshold()
     const QImage image = noise({1, 1}, 7);
     double difference = incoming;
     QCOMPARE(int(compareImages(image, image, difference, limit)), answer);
-}
-
-void ImageComparisonTest::alphaDoesNotCount()
-{
-    double difference = 0.0;
-    QCOMPARE(compareImages(filled({9, 9}, qRgba(9, 8, 7, 0)), filled({9, 9}, qRgba(9, 8, 7, 255)), difference,
-                           1e-9),
-             imgCmpSimilar);
-    QCOMPARE(difference, 0.0);
-}
-
-void ImageComparisonTest::rowsWeighMoreTheLowerTheyAre()
-{
-    constexpr int height = 3;
-    const double scale = 100.0 / (2 * height * 3);
-    for (int y = 0; y < height; ++y) {
-        QImage changed = filled({2, height}, qRgb(0, 0, 0));
-        changed.setPixel(0, y, qRgb(0, 51, 0)); // a fifth of one channel
-        double difference = 0.0;
-        compareImages(filled({2, height}, qRgb(0, 0, 0)), changed, difference, 1.0);
-        QVERIFY(qFuzzyCompare(difference, 0.2 * std::pow(scale, height + 1 - y)));
-    }
 }
 
 void ImageComparisonTest::shallowImagesAreConverted_data()

@@ -2,7 +2,6 @@
 
 #include <utilsDll/MessageBox.h>
 
-#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -11,118 +10,70 @@
 namespace BoxKinds
 {
 
-inline const QString text = QStringLiteral("The picture was changed. Do you want to save the changes?");
-constexpr int height = 200;
+constexpr int usualHeight = 170;
+constexpr int nothing = -1; // what a box returns that returns nothing
 
-/// One function of the box: its buttons from left to right, and what it returns.
-struct Kind {
+struct Button {
     const char* name;
-    std::function<int(QWidget*)> show;
-    const char* icon;
-    QStringList buttons; // object names
-    QStringList texts;
-    int defaultButton;
-    QList<int> results; // of the buttons
-    int otherwise;      // no choice
-    int height;
-    bool simple;
+    const char* text;
+    int result; // of the box when the button was clicked
 };
 
-constexpr int nothing = -1;
+/// One function of the box.
+struct Kind {
+    const char* name;
+    std::function<int(QWidget* parent, const QString& text)> show;
+    const char* icon;
+    QVector<Button> buttons; // from left to right
+    int defaultButton;
+    int otherwise; // without a choice
+    int height = usualHeight;
+};
 
 template <class Function>
-std::function<int(QWidget*)> simple(Function function)
+auto telling(Function function)
 {
-    return [function](QWidget* parent) {
-        function(parent, text, height);
+    return [function](QWidget* parent, const QString& text) {
+        function(parent, text, usualHeight);
         return nothing;
     };
 }
 
-inline QStringList list(std::initializer_list<const char*> texts)
+template <class Function>
+auto asking(Function function)
 {
-    QStringList result;
-    for (const char* const entry : texts) {
-        result += QString::fromLatin1(entry);
-    }
-    return result;
+    return
+        [function](QWidget* parent, const QString& text) { return int(function(parent, text, usualHeight)); };
+}
+
+inline int askToQuit(QWidget* parent, const QString& text)
+{
+    return CMessageBox::backgroundProcessingCancelMessage(parent, text);
 }
 
 inline const QVector<Kind>& kinds()
 {
+    const char* const info = "://icons/messagebox/info_dark_icon.svg";
     const char* const alert = "://icons/messagebox/alert_dark_icon.svg";
     const char* const question = "://icons/messagebox/question_mark_dark_icon.svg";
+    const QVector<Button> ok{{"mbSipleButton", "OK", nothing}};
+    const QVector<Button> close{{"mbSipleButton", "Close", nothing}};
+    const QVector<Button> yesNo{{"yesButton", "Yes", 0x4000}, {"noButton", "No", 0x10000}};
+    const QVector<Button> save{{"discardButton", "Don't save", 0x800000},
+                               {"saveButton", "Save", 0x800},
+                               {"cancelButton", "Cancel", 0x400000}};
+    const QVector<Button> rotate{{"rotateButton", "Rotate", 1}, {"cancelButton", "Cancel", 0}};
+    const QVector<Button> quit{{"dontQuitButton", "Don't quit", 0x400000},
+                               {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
     static const QVector<Kind> all{
-        {"information",
-         simple(&CMessageBox::information),
-         "://icons/messagebox/info_dark_icon.svg",
-         list({"mbSipleButton"}),
-         list({"OK"}),
-         0,
-         {nothing},
-         nothing,
-         height,
-         true},
-        {"warning",
-         simple(&CMessageBox::warning),
-         alert,
-         list({"mbSipleButton"}),
-         list({"Close"}),
-         0,
-         {nothing},
-         nothing,
-         height,
-         true},
-        {"critical",
-         simple(&CMessageBox::critical),
-         alert,
-         list({"mbSipleButton"}),
-         list({"Close"}),
-         0,
-         {nothing},
-         nothing,
-         height,
-         true},
-        {"yes or no",
-         [](QWidget* parent) { return int(CMessageBox::yesNoMessage(parent, text, height)); },
-         question,
-         list({"yesButton", "noButton"}),
-         list({"Yes", "No"}),
-         0,
-         {0x4000, 0x10000},
-         0x10000,
-         height,
-         false},
-        {"save, discard, cancel",
-         [](QWidget* parent) { return int(CMessageBox::saveDiscardCancelMessage(parent, text, height)); },
-         question,
-         list({"discardButton", "saveButton", "cancelButton"}),
-         list({"Don't save", "Save", "Cancel"}),
-         1,
-         {0x800000, 0x800, 0x400000},
-         0x400000,
-         height,
-         false},
-        {"rotate",
-         [](QWidget* parent) { return int(CMessageBox::rotateQuestion(parent, text, height)); },
-         question,
-         list({"rotateButton", "cancelButton"}),
-         list({"Rotate", "Cancel"}),
-         0,
-         {1, 0},
-         0,
-         height,
-         false},
-        {"quit",
-         [](QWidget* parent) { return int(CMessageBox::backgroundProcessingCancelMessage(parent, text)); },
-         alert,
-         list({"dontQuitButton", "quitWithoutSavingButton"}),
-         list({"Don't quit", "Quit without saving"}),
-         1,
-         {0x400000, 0x800000},
-         0x400000,
-         165,
-         false},
+        {"information", telling(&CMessageBox::information), info, ok, 0, nothing},
+        {"warning", telling(&CMessageBox::warning), alert, close, 0, nothing},
+        {"critical", telling(&CMessageBox::critical), alert, close, 0, nothing},
+        {"yes or no", asking(&CMessageBox::yesNoMessage), question, yesNo, 0, 0x10000},
+        {"save, discard, cancel", asking(&CMessageBox::saveDiscardCancelMessage), question, save, 1,
+         0x400000},
+        {"rotate", asking(&CMessageBox::rotateQuestion), question, rotate, 0, 0},
+        {"quit", &askToQuit, alert, quit, 1, 0x400000, 165},
     };
     return all;
 }
