@@ -16,11 +16,9 @@ if(NOT WIN32)
         tolvan_register_test(tst_controls_ratio${ratio} COMMAND tst_controls)
         set_property(TEST tst_controls_ratio${ratio} APPEND PROPERTY ENVIRONMENT QT_SCALE_FACTOR=${ratio})
     endforeach()
-    add_executable(tst_screens tst_screens.cpp)
-    target_link_libraries(tst_screens PRIVATE test_support project_options Tolvan::UtilsDllTrelioFrame)
-    tolvan_register_test(tst_screens_x11 LABELS x11 COMMAND
-        "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" --two-screens $<TARGET_FILE:tst_screens>)
-    foreach(name tst_guiutils tst_basedialog tst_controls tst_messagebox tst_aboutdialogs)
+    tolvan_register_test(tst_guiutils_x11 LABELS x11 COMMAND
+        "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" --two-screens $<TARGET_FILE:tst_guiutils>)
+    foreach(name tst_basedialog tst_controls tst_messagebox tst_aboutdialogs)
         tolvan_register_test(${name}_x11 LABELS x11 COMMAND
             "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:${name}>)
     endforeach()

@@ -82,7 +82,6 @@ class BaseDialogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void flags_data();
     void flags();
     void methodsForTheAutomationService();
     void firstShowCentres();
@@ -91,36 +90,28 @@ private Q_SLOTS:
     void drag();
 };
 
-void BaseDialogTest::flags_data()
-{
-    QTest::addColumn<int>("asked");
-    QTest::newRow("none") << 0;
-    QTest::newRow("all buttons") << int(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint);
-    QTest::newRow("tool") << int(Qt::Tool | Qt::WindowStaysOnTopHint);
-}
-
 void BaseDialogTest::flags()
 {
-    QFETCH(int, asked);
-    const Dialog dialog(nullptr, static_cast<Qt::WindowFlags>(asked));
-    const Qt::WindowFlags flags = dialog.windowFlags();
-    QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
-    QCOMPARE(flags & Qt::WindowFlags(0x1C000), Qt::WindowFlags());
-    QCOMPARE(flags.testFlag(Qt::WindowStaysOnTopHint), (asked & Qt::WindowStaysOnTopHint) != 0);
-    QVERIFY(dialog.testAttribute(Qt::WA_TranslucentBackground));
+    const Qt::WindowFlags buttons(0x1C000); // minimise, maximise, help
+    for (const Qt::WindowFlags asked : {Qt::WindowFlags(), buttons, Qt::Tool | Qt::WindowStaysOnTopHint}) {
+        const Dialog dialog(nullptr, asked);
+        const Qt::WindowFlags flags = dialog.windowFlags();
+        QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+        QCOMPARE(flags & buttons, Qt::WindowFlags());
+        QCOMPARE(flags & Qt::WindowStaysOnTopHint, asked & Qt::WindowStaysOnTopHint);
+        QVERIFY(dialog.testAttribute(Qt::WA_TranslucentBackground));
+    }
 }
 
 void BaseDialogTest::methodsForTheAutomationService()
 {
     Dialog dialog;
     const QMetaObject& meta = CBaseDialog::staticMetaObject;
-    QStringList methods;
+    QByteArrayList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods += QString::fromLatin1(meta.method(i).methodSignature());
+        methods += meta.method(i).methodSignature();
     }
-    QCOMPARE(methods,
-             QStringList({QStringLiteral("sendNotification()"), QStringLiteral("moveToScreenCenter()"),
-                          QStringLiteral("getObjectName()")}));
+    QCOMPARE(methods, QByteArrayList({"sendNotification()", "moveToScreenCenter()", "getObjectName()"}));
     QVERIFY(dialog.canUseInAATSignalService());
     QString name;
     QVERIFY(QMetaObject::invokeMethod(&dialog, "getObjectName", Q_RETURN_ARG(QString, name)));

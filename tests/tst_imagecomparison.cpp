@@ -47,6 +47,16 @@ QImage filled(const QSize& size, QRgb pixel)
     return image;
 }
 
+void verifyMeasure(const QImage& first, const QImage& second, double incoming)
+{
+    const double expected = plainMeasure(first, second, incoming);
+    double difference = incoming;
+    compareImages(first, second, difference, 1.0);
+    QVERIFY2(
+        std::abs(difference - expected) <= 1e-12 * std::abs(expected),
+        qPrintable(QStringLiteral("%1 instead of %2").arg(difference, 0, 'g', 17).arg(expected, 0, 'g', 17)));
+}
+
 } // namespace
 
 class ImageComparisonTest : public QObject
@@ -59,9 +69,7 @@ private Q_SLOTS:
     void plainMeasureIsTheMeasure();
     void threshold_data();
     void threshold();
-    void shallowImagesAreConverted_data();
-    void shallowImagesAreConverted();
-    void partOfALargerImage();
+    void otherMemory();
 };
 
 void ImageComparisonTest::refusals()
@@ -79,31 +87,22 @@ void ImageComparisonTest::refusals()
 void ImageComparisonTest::plainMeasureIsTheMeasure_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("incoming");
     for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(7, 5), QSize(17, 1), QSize(1, 33),
                              QSize(1023, 3), QSize(1025, 2), QSize(4099, 2)}) {
-        for (const double incoming : {0.0, 0.5, -3.25, 1e9}) {
-            QTest::addRow("%dx%d from %g", size.width(), size.height(), incoming) << size << incoming;
-        }
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
     }
 }
 
 void ImageComparisonTest::plainMeasureIsTheMeasure()
 {
     QFETCH(QSize, size);
-    QFETCH(double, incoming);
     const QImage black = filled(size, 0);
     const QImage white = filled(size, 0xffffffff);
-    const std::pair<QImage, QImage> pairs[] = {
-        {noise(size, 1), noise(size, 2)}, {noise(size, 3), black}, {white, black}, {black, white}};
-    for (const auto& [first, second] : pairs) {
-        const double expected = plainMeasure(first, second, incoming);
-        double difference = incoming;
-        compareImages(first, second, difference, 1.0);
-        QVERIFY2(
-            std::abs(difference - expected) <= 1e-12 * std::abs(expected),
-            qPrintable(
-                QStringLiteral("%1 instead of %2").arg(difference, 0, 'g', 17).arg(expected, 0, 'g', 17)));
+    for (const double incoming : {0.0, 0.5, -3.25, 1e9}) {
+        verifyMeasure(noise(size, 1), noise(size, 2), incoming);
+        verifyMeasure(noise(size, 3), black, incoming);
+        verifyMeasure(white, black, incoming);
+        verifyMeasure(black, white, incoming);
     }
 }
 
@@ -132,32 +131,23 @@ void ImageComparisonTest::threshold()
     QCOMPARE(int(compareImages(image, image, difference, limit)), answer);
 }
 
-void ImageComparisonTest::shallowImagesAreConverted_data()
+void ImageComparisonTest::otherMemory()
 {
-    QTest::addColumn<int>("format");
-    QTest::newRow("grey") << int(QImage::Format_Grayscale8);
-    QTest::newRow("16 bits") << int(QImage::Format_RGB16);
-    QTest::newRow("24 bits") << int(QImage::Format_RGB888);
-    QTest::newRow("black and white") << int(QImage::Format_Mono);
-}
-
-void ImageComparisonTest::shallowImagesAreConverted()
-{
-    QFETCH(int, format);
-    const QImage black = filled({65, 3}, 0xff000000).convertToFormat(static_cast<QImage::Format>(format));
-    const QImage white = filled({65, 3}, 0xffffffff).convertToFormat(static_cast<QImage::Format>(format));
-    double difference = 0.0;
-    compareImages(black, white, difference, 1.0);
-    const double expected = plainMeasure(filled({65, 3}, 0), filled({65, 3}, 0xffffffff), 0.0);
-    QVERIFY(std::abs(difference - expected) <= 1e-12 * expected);
-}
-
-void ImageComparisonTest::partOfALargerImage()
-{
+    const QImage black = filled({65, 3}, 0xff000000);
+    const QImage white = filled({65, 3}, 0xffffffff);
+    double expected = 0.0;
+    compareImages(black, white, expected, 1.0);
+    QVERIFY(expected > 0.0);
+    for (const auto shallow :
+         {QImage::Format_Grayscale8, QImage::Format_RGB16, QImage::Format_RGB888, QImage::Format_Mono}) {
+        double difference = 0.0;
+        compareImages(black.convertToFormat(shallow), white.convertToFormat(shallow), difference, 1.0);
+        QCOMPARE(difference, expected);
+    }
     const QImage whole = noise({64, 8}, 5);
     const QImage part(whole.constBits() + 4 * 3, 10, 8, whole.bytesPerLine(), QImage::Format_ARGB32);
     double difference = 0.0;
-    QCOMPARE(compareImages(part, whole.copy(3, 0, 10, 8), difference, 1e-9), imgCmpSimilar);
+    compareImages(part, whole.copy(3, 0, 10, 8), difference, 1.0);
     QCOMPARE(difference, 0.0);
 }
 
