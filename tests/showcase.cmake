@@ -9,5 +9,8 @@ if(TARGET trelio-showcase)
     if(NOT WIN32)
         tolvan_register_test(tst_showcasewindow_x11 LABELS x11 COMMAND
             "${CMAKE_CURRENT_SOURCE_DIR}/support/with-x-server.sh" $<TARGET_FILE:tst_showcasewindow>)
+    else()
+        tolvan_register_test(tst_showcasewindow_desktop COMMAND tst_showcasewindow)
+        set_property(TEST tst_showcasewindow_desktop APPEND PROPERTY ENVIRONMENT TOLVAN_TEST_PLATFORM=windows)
     endif()
 endif()

@@ -89,7 +89,7 @@ QWidget* StylePage::makeNumberFields()
         translate(choice, [widget](const QString& text) { widget->setItemText(0, text); });
         widget->addItem(QStringLiteral("16 : 9"));
         widget->setEditable(editable);
-        widget->setMinimumContentsLength(12); // under a style sheet a line edit gets too little by itself
+        widget->setMinimumContentsLength(10); // under a style sheet a line edit gets too little by itself
         return widget;
     };
     grid->addWidget(combo(false), 0, 0);

@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>Pictures are still being corrected. What is not finished will be lost.</source>
-        <translation>画像の補正がまだ終わっていません。未完了の処理は失われます。</translation>
+        <translation>補正中の画像があります。未完了の処理は失われます。</translation>
     </message>
 </context>
 <context>
