@@ -23,13 +23,25 @@ class QPushButton;
 /// \par Blocking
 /// Every static function shows a box, runs an event loop of its own until the user answers, and returns the
 /// answer. Everything else of the program goes on meanwhile, other windows take no input, and what owns the
-/// caller may be gone when the call returns. \par Parent The box stands in the middle of the screen of
-/// \a parent, which may be null. When the parent dies while the box is open, the box goes with it, and the
-/// answer is the one that stands for "no choice". \par Keys and closing Enter takes the default button.
-/// Escape and the window's close button give the answer that stands for "no choice". \par Text Shown as
-/// QLabel does by itself: what looks like rich text is shown as such. \par Failures None are reported. A
-/// missing icon leaves its place empty; a height too small for the text cuts it off. \par Threads Main thread
-/// only.
+/// caller may be gone when the call returns.
+///
+/// \par Parent
+/// The box stands in the middle of the screen of \a parent, which may be null. When the parent dies while the
+/// box is open, the box goes with it, and the answer is the one that stands for "no choice".
+///
+/// \par Keys and closing
+/// Enter takes the default button. Escape and the window's close button give the answer that stands for
+/// "no choice".
+///
+/// \par Text
+/// Shown as QLabel does by itself: what looks like rich text is shown as such. \a height is that of the box in
+/// pixels, and one too small for the text cuts it off.
+///
+/// \par Failures
+/// None are reported. A missing icon leaves its place empty.
+///
+/// \par Threads
+/// Main thread only.
 class UTILSDLL_EXPORT CMessageBox : public TOLVAN_NAMESPACE::CBaseDialog
 {
     Q_OBJECT
@@ -37,7 +49,7 @@ class UTILSDLL_EXPORT CMessageBox : public TOLVAN_NAMESPACE::CBaseDialog
 public:
     ~CMessageBox() override;
 
-    /// Tells something: the button "OK". \param height height of the box in pixels
+    /// Tells something: the button "OK".
     static void information(QWidget* parent, const QString& text, int height);
     /// Warns: the button "Close".
     static void warning(QWidget* parent, const QString& text, int height);
