@@ -46,6 +46,13 @@ QHBoxLayout* DrawingPage::makePicture()
     m_canvas = new GuideCanvas(this);
     const char* const explanation = QT_TR_NOOP("Picture with guide lines");
     translate(explanation, [this](const QString& text) { m_canvas->setAccessibleName(text); });
+    const char* const keys = QT_TR_NOOP(
+        "Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys "
+        "move its end, with Shift its start.");
+    translate(keys, [this](const QString& text) {
+        m_canvas->setAccessibleDescription(text);
+        m_canvas->setToolTip(QStringLiteral("<qt>%1</qt>").arg(text)); // wraps
+    });
     // The text starts at the label's width: the margin takes it down to the foot of the picture.
     connect(m_canvas, &GuideCanvas::sizeChanged, this, [caption](const QSize& size) {
         caption->setLeftMargin(caption->width() - size.height());

@@ -480,6 +480,10 @@
         <translation>Bild mit Hilfslinien</translation>
     </message>
     <message>
+        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
+        <translation>Einfg fügt eine Linie hinzu und Entf entfernt sie, Bild auf und Bild ab wählen eine, die Pfeiltasten bewegen ihr Ende, mit Umschalt ihren Anfang.</translation>
+    </message>
+    <message>
         <source>Stretch the pattern</source>
         <translation>Muster strecken</translation>
     </message>

@@ -480,6 +480,10 @@
         <translation>Picture with guide lines</translation>
     </message>
     <message>
+        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
+        <translation>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</translation>
+    </message>
+    <message>
         <source>Stretch the pattern</source>
         <translation>Stretch the pattern</translation>
     </message>

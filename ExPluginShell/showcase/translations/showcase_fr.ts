@@ -480,6 +480,10 @@
         <translation>Image avec lignes de guidage</translation>
     </message>
     <message>
+        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
+        <translation>Inser ajoute une ligne et Suppr la retire, Page précédente et Page suivante en choisissent une, les flèches déplacent sa fin et, avec Maj, son début.</translation>
+    </message>
+    <message>
         <source>Stretch the pattern</source>
         <translation>Étirer le motif</translation>
     </message>

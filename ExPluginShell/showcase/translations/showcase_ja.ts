@@ -480,6 +480,10 @@
         <translation>ガイド線付きの画像</translation>
     </message>
     <message>
+        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
+        <translation>Insert で線を追加、Delete で削除、Page Up と Page Down で選択します。矢印キーで終点を、Shift と矢印キーで始点を動かします。</translation>
+    </message>
+    <message>
         <source>Stretch the pattern</source>
         <translation>パターンを引き伸ばす</translation>
     </message>

@@ -480,6 +480,10 @@
         <translation>带参考线的图片</translation>
     </message>
     <message>
+        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
+        <translation>Insert 添加线条，Delete 删除线条，Page Up 和 Page Down 选择线条，方向键移动终点，Shift 加方向键移动起点。</translation>
+    </message>
+    <message>
         <source>Stretch the pattern</source>
         <translation>拉伸图案</translation>
     </message>
