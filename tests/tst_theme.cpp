@@ -4,6 +4,7 @@
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/SharedUtils.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <type_traits>
@@ -104,6 +105,7 @@ private Q_SLOTS:
     void textStandsOut_data();
     void textStandsOut();
     void contentOfScrollAreasIsDark();
+    void toolTipsHaveTheFont();
     void statesCanBeToldApart_data();
     void statesCanBeToldApart();
 
@@ -168,6 +170,17 @@ void ThemeTest::contentOfScrollAreasIsDark()
     area.setWidget(new Panel);
     area.resize(80, 60);
     QCOMPARE(mostFrequent(area.grab().toImage()).name(), QStringLiteral("#242528"));
+}
+
+void ThemeTest::toolTipsHaveTheFont()
+{
+    QToolTip::showText(m_window->geometry().center(), QStringLiteral("Tip"), m_window.get());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(windows.begin(), windows.end(),
+                                  [](const QWidget* window) { return window->inherits("QTipLabel"); });
+    QVERIFY(tip != windows.end());
+    QCOMPARE((*tip)->font().family(), m_window->font().family());
+    QToolTip::hideText();
 }
 
 void ThemeTest::statesCanBeToldApart_data()
