@@ -15,7 +15,8 @@ class LengthService : public QTcpServer
 public:
     explicit LengthService(QObject* parent = nullptr);
 
-    /// Starts to listen unless it does already. \return false when there is no port to be had
+    /// Starts to listen unless it does already.
+    /// \return false when there is no port to be had
     bool start();
 
     static QStringList unitNames();

@@ -13,7 +13,8 @@ public:
     void row(const QString& name, const QString& value);
     /// A step and its result; \a ok tells whether it did what it should.
     void check(const QString& name, const QString& value, bool ok);
-    /// Writes the closing line. \return whether every step did what it should
+    /// Writes the closing line.
+    /// \return whether every step did what it should
     bool finish();
 
 private:

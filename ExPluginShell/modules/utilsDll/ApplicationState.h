@@ -70,9 +70,9 @@ UTILSDLL_EXPORT void allowCrashReportSending(bool allowed);
 UTILSDLL_EXPORT void startCrashSender();
 
 /// Folder of the Qt plug-ins that belong to the product. The first answer is kept for the life of the
-/// process, whatever later calls ask for. \param fromConnector true for the folder of the loaded connector
-/// module (native separators, one at the end), false
-///        for the folder of the program (no separator at the end)
+/// process, whatever later calls ask for.
+/// \param fromConnector true for the folder of the loaded connector module (native separators, one at the
+///        end), false for the folder of the program (no separator at the end)
 /// \return empty when the connector module is asked for and not loaded; that is not kept
 UTILSDLL_EXPORT QString getQtPluginsDir(bool fromConnector);
 

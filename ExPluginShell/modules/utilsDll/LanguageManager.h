@@ -31,8 +31,10 @@ namespace TOLVAN_NAMESPACE
 /// One row a language, every cell a text under Qt::DisplayRole: column 0 the language's name in itself, 1 its
 /// suite number as decimal text, 2 the resource path of its file, 3 its abbreviation. Rows come in the order
 /// of the listing, so look a row up by its number and never remember it. The table is filled once and stays
-/// as it is. \par Threads Main thread only. Every operation here reads settings or resources and may block
-/// for as long as the disk does.
+/// as it is.
+/// \par Threads
+/// Main thread only. Every operation here reads settings or resources and may block for as long as the disk
+/// does.
 class UTILSDLL_EXPORT CLanguageManager : public QObject
 {
     Q_OBJECT

@@ -75,9 +75,9 @@ private:
 };
 
 /// Reports a failed assertion and returns; the caller then takes its fallback. Logs "ASSERT in " + path + ":"
-/// + line at level "E" and writes the same text to the Qt debug stream. \param function qualified name of the
-/// reporting function \param unit     name of the source unit, e.g. "SharedUtils"; its path is written with
-/// backslashes everywhere
+/// + line at level "E" and writes the same text to the Qt debug stream.
+/// \param function qualified name of the reporting function
+/// \param unit name of the source unit, e.g. "SharedUtils"; its path is written with backslashes everywhere
 void reportAssertion(const char* function, const char* unit, int line);
 
 /// Like reportAssertion(), with a message: "ASSERT_X in " + path + " line " + line + ":" + message.

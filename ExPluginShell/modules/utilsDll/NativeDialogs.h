@@ -45,7 +45,8 @@ public:
     /// \return the file with forward slashes, empty when the dialog was cancelled
     QString getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
                             const QString& filter, QString* selectedFilter, QFileDialog::Options options);
-    /// Asks for existing files, like getOpenFileName(). \return the files, none when it was cancelled
+    /// Asks for existing files, like getOpenFileName().
+    /// \return the files, none when it was cancelled
     QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QString& dir,
                                  const QString& filter, QString* selectedFilter,
                                  QFileDialog::Options options);

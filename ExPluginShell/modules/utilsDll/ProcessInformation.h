@@ -28,9 +28,9 @@ UTILSDLL_EXPORT QString currentProcessName();
 /// regard to case.
 ///
 /// Blocks while it walks all processes (at most the first 1024) and loads the executable that it finds, which
-/// stays loaded: ask once per run and keep the answer. Processes that may not be opened are skipped. \return
-/// the unknown version for an empty name, when no such process is found, when the file has no version
-///         resource, and always on systems whose executables carry none
+/// stays loaded: ask once per run and keep the answer. Processes that may not be opened are skipped.
+/// \return the unknown version for an empty name, when no such process is found, when the file has no version
+///        resource, and always on systems whose executables carry none
 UTILSDLL_EXPORT BinaryVersion binaryFileVersionByProcessName(const QString& processName);
 
 } // namespace UtilsDll

@@ -31,10 +31,12 @@ namespace TOLVAN_NAMESPACE
 /// in the instance. setValue(), contains() and remove() put it before the key, value() does not: what is
 /// written inside a group is read with the full key or after endGroup(). Callers rely on this as it is. A
 /// prefix begun in temporary mode stays (and is applied by value() in normal mode) until endGroup() is called
-/// in temporary mode. Array operations work on the shared file directly, without the prefix. \par Failures A
-/// store that can't be written loses the value in silence. \par Threads Instances are cheap, made on the
-/// stack and not shared between threads. The mode is switched once, on the main thread, before other threads
-/// use settings; nothing is locked.
+/// in temporary mode. Array operations work on the shared file directly, without the prefix.
+/// \par Failures
+/// A store that can't be written loses the value in silence.
+/// \par Threads
+/// Instances are cheap, made on the stack and not shared between threads. The mode is switched once, on the
+/// main thread, before other threads use settings; nothing is locked.
 class UTILSDLL_EXPORT CSettings : public QObject
 {
     Q_OBJECT
@@ -89,13 +91,14 @@ public:
     static void resetTemporarySettings();
 
     /// Reads \a key from the preferences INI file set with CStorageLocation::setPreferencesFilePath(). The
-    /// temporary mode plays no part. \return \a defaultValue when the key is missing or its text is empty
+    /// temporary mode plays no part.
+    /// \return \a defaultValue when the key is missing or its text is empty
     /// \throws std::runtime_error "Preferences file path not set"
     static QString getStringFromPreferencesFile(const QString& key, const QString& defaultValue);
 
     /// Language code of the product family: 0 German, 2 English, 5 French, 12 Japanese, 13 Simplified
-    /// Chinese. \return the value as it is stored; 2 when there is none, or when it is none of these (which
-    /// is logged)
+    /// Chinese.
+    /// \return the value as it is stored; 2 when there is none, or when it is none of these (which is logged)
     static QVariant getLanguageFromOstraConfiguration();
     /// Stores the language code of the product family, as an integer.
     static void writeLanguageToOstraConfiguration(int language);
@@ -103,9 +106,10 @@ public:
     /// Value of \a key in \a group of the user's suite configuration file.
     ///
     /// The first match in document order counts, over all groups of that name. Never throws; blocks while the
-    /// file is read. \return \a defaultValue when the file (logged as a warning), the group or the key is
-    /// missing and when the file
-    ///         can't be read or parsed (logged as an error); "en" when the key is there without a value
+    /// file is read.
+    /// \return \a defaultValue when the file (logged as a warning), the group or the key is missing and when
+    ///        the file can't be read or parsed (logged as an error); "en" when the key is there without a
+    ///        value
     static QString getSettingFromOstraUserConfigFile(const QString& group, const QString& key,
                                                      const QString& defaultValue);
     /// Like getSettingFromOstraUserConfigFile(), from the machine-wide file.
@@ -116,9 +120,10 @@ public:
     /// A key that is there gets the new value and keeps its type. Otherwise a whole new group is appended,
     /// also when one of that name exists. A missing file is created, a missing folder is not. The file is
     /// replaced whole: a reader, or a crash at any moment, sees the old text or the new. Never throws; blocks
-    /// while the file is written. \param type free-form name of the value's type, never interpreted here
+    /// while the file is written.
+    /// \param type free-form name of the value's type, never interpreted here
     /// \return false, with an error in the log and the file untouched, when it can't be read, parsed or
-    /// written, and when a text holds a character that no XML file can hold
+    ///        written, and when a text holds a character that no XML file can hold
     static bool writeSettingToOstraUserConfigFile(const QString& group, const QString& key,
                                                   const QString& value, const QString& type);
     /// Like writeSettingToOstraUserConfigFile(), for the machine-wide file.

@@ -14,15 +14,18 @@ namespace TOLVAN_NAMESPACE
 ///
 /// \par Created
 /// Operations marked "created" make the folder, with all missing parents, on every call if it is not there. A
-/// folder that can't be created is not reported; the path is returned all the same. \par Cached Operations
-/// marked "cached" compute their text on the first call and keep it until the library is unloaded. A later
-/// change of the environment is not seen; a created folder is still checked on every call.
+/// folder that can't be created is not reported; the path is returned all the same.
+/// \par Cached
+/// Operations marked "cached" compute their text on the first call and keep it until the library is unloaded.
+/// A later change of the environment is not seen; a created folder is still checked on every call.
 /// \par Systems
 /// "Local application data" is the known folder of that name on Windows and `XDG_DATA_HOME` elsewhere;
 /// "program data" is the first folder of `XDG_CONFIG_DIRS` elsewhere; the common pictures are `pictures`
 /// under the first folder of `XDG_DATA_DIRS` elsewhere. A folder that the system does not tell gives an empty
-/// path. \par Threads Every operation may be called from any thread. The preferences file path alone is a
-/// plain text without a lock: set it once at start, before other threads read it.
+/// path.
+/// \par Threads
+/// Every operation may be called from any thread. The preferences file path alone is a plain text without a
+/// lock: set it once at start, before other threads read it.
 class UTILSDLL_EXPORT CStorageLocation
 {
 public:

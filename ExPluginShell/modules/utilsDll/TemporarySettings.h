@@ -29,10 +29,13 @@ class CSettings;
 ///
 /// \par Ownership
 /// The start-up code of the host owns the object and deletes it at the end of the run. When it dies nothing
-/// of its folder is left, also when writes were pending. \par Failures Without a seed file the settings start
-/// empty. Without a usable temporary folder the failure is logged as a failed assertion, the object is built
-/// all the same and writes are lost in silence, like all write errors of the file. \par Threads Made for the
-/// main thread of the host; nothing is locked.
+/// of its folder is left, also when writes were pending.
+/// \par Failures
+/// Without a seed file the settings start empty. Without a usable temporary folder the failure is logged as a
+/// failed assertion, the object is built all the same and writes are lost in silence, like all write errors
+/// of the file.
+/// \par Threads
+/// Made for the main thread of the host; nothing is locked.
 class UTILSDLL_EXPORT CTemporarySettings : public QObject
 {
     Q_OBJECT

@@ -33,7 +33,8 @@ public:
     std::vector<FolderEntry> entries();
     /// One of the folders among the entries; its own content knows no name filters.
     FolderContent folder(const FolderEntry& entry) const;
-    /// Deletes a file or a link. \return whether it is gone
+    /// Deletes a file or a link.
+    /// \return whether it is gone
     bool removeFile(const FolderEntry& entry) const;
 
 private:

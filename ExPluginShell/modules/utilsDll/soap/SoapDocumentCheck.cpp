@@ -17,7 +17,7 @@ bool startsWith(const char* at, const char* end, const char* text)
     return end - at >= length && std::memcmp(at, text, static_cast<std::size_t>(length)) == 0;
 }
 
-/// Behind the next @p text, or the end.
+/// Behind the next \a text, or the end.
 const char* behind(const char* at, const char* end, const char* text)
 {
     const auto length = std::strlen(text);
@@ -32,7 +32,7 @@ const char* behind(const char* at, const char* end, const char* text)
     return end;
 }
 
-/// Behind the tag that begins at @p at; a '>' in quotes does not end it.
+/// Behind the tag that begins at \a at; a '>' in quotes does not end it.
 const char* behindTag(const char* at, const char* end)
 {
     char quote = 0;

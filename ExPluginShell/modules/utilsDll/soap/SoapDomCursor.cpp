@@ -12,7 +12,7 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-/// The next text or element among @p node and its later siblings; null when there is none.
+/// The next text or element among \a node and its later siblings; null when there is none.
 QDomNode relevant(QDomNode node)
 {
     while (!node.isNull() && !node.isElement() && !node.isText())

@@ -9,7 +9,7 @@ namespace TOLVAN_NAMESPACE
 class SoapDomCursor : public SoapXmlCursor
 {
 public:
-    /// Walks @p root, which is an element or a document; anything else is an error.
+    /// Walks \a root, which is an element or a document; anything else is an error.
     explicit SoapDomCursor(const QDomNode& root);
 
     Token next() override;

@@ -17,13 +17,13 @@ public:
     {
     }
 
-    /// Writes @p value by its class; one derived outside the library is asked for its element.
+    /// Writes \a value by its class; one derived outside the library is asked for its element.
     void write(const QtSoapType& value);
 
-    /// Writes the children of @p value.
+    /// Writes the children of \a value.
     void writeChildren(const QtSoapStruct& value);
 
-    /// The element of a value, made in @p document.
+    /// The element of a value, made in \a document.
     template <class Value>
     static QDomElement element(const Value& value, const QDomDocument& document)
     {

@@ -20,13 +20,13 @@ class SoapHttpExchange : public QObject
     Q_OBJECT
 
 public:
-    /// @param timeout milliseconds without progress, 0 for none
+    /// \param timeout milliseconds without progress, 0 for none
     SoapHttpExchange(QNetworkReply* reply, int timeout);
 
     /// The message that the finished reply carries, or a fault that says why it carries none.
     QtSoapMessage message();
 
-    /// The exchange that watches @p reply.
+    /// The exchange that watches \a reply.
     static SoapHttpExchange* of(QNetworkReply* reply);
 
 private Q_SLOTS:

@@ -39,7 +39,7 @@ QVariant toBool(const QString& text)
     return text;
 }
 
-/// Whether XML 1.0 has the character at @p at, which may be half of a surrogate pair.
+/// Whether XML 1.0 has the character at \a at, which may be half of a surrogate pair.
 bool isCarriable(const QString& text, int at)
 {
     const QChar c = text.at(at);

@@ -6,23 +6,23 @@
 namespace TOLVAN_NAMESPACE::SoapText
 {
 
-/// The variant that a value of @p type with the text @p text holds; the text itself where it is not of that
+/// The variant that a value of \a type with the text \a text holds; the text itself where it is not of that
 /// type.
 QVariant toVariant(QtSoapType::Type type, const QString& text);
 
-/// @p value as XML Schema writes it.
+/// \a value as XML Schema writes it.
 QString fromVariant(const QVariant& value);
 
-/// @p name as an XML name without colon, its bad characters as `_xHHHH_`; @p fallback for an empty one.
+/// \a name as an XML name without colon, its bad characters as `_xHHHH_`; \a fallback for an empty one.
 QString elementName(const QString& name, const QString& fallback);
 
-/// Whether @p name is an XML name without colon.
+/// Whether \a name is an XML name without colon.
 bool isElementName(const QString& name);
 
-/// Appends @p text to @p xml, escaped for the contents of an element and for an attribute in double quotes.
+/// Appends \a text to \a xml, escaped for the contents of an element and for an attribute in double quotes.
 void appendEscaped(QString& xml, const QString& text);
 
-/// @p text with every character that XML cannot carry replaced by U+FFFD.
+/// \a text with every character that XML cannot carry replaced by U+FFFD.
 QString carriable(const QString& text);
 
 /// Writes a warning about a call that was refused.

@@ -21,7 +21,7 @@ inline constexpr QLatin1String Xml = literal(XML_NAMESPACE);
 inline constexpr QLatin1String Schema = literal("http://www.w3.org/2001/XMLSchema");
 inline constexpr QLatin1String SchemaInstance = literal("http://www.w3.org/2001/XMLSchema-instance");
 
-/// Whether @p uri is one of the namespaces of `xsi:type`: those of 1999, 2000 and 2001.
+/// Whether \a uri is one of the namespaces of `xsi:type`: those of 1999, 2000 and 2001.
 template <class Text>
 bool isSchemaInstance(const Text& uri)
 {

@@ -22,7 +22,7 @@ public:
     /**
      * The value of the element on whose start tag the cursor stands; the cursor is on its end tag afterwards.
      *
-     * @param untyped type of a value that bears none itself
+     * \param untyped type of a value that bears none itself
      * @return null on an error
      */
     QtSmartPtr<QtSoapType> value(QtSoapType::Type untyped = QtSoapType::Other);
@@ -69,7 +69,7 @@ struct SoapArrayType {
 
     static SoapArrayType fromAttribute(const QString& text);
 
-    /// The numbers of "[1,2]"; empty when @p text is not of that form or a number is no position.
+    /// The numbers of "[1,2]"; empty when \a text is not of that form or a number is no position.
     static QVector<int> numbers(const QString& text);
 };
 

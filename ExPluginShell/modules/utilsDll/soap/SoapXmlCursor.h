@@ -63,7 +63,7 @@ protected:
     int m_elements = 0;
 };
 
-/// The part of @p qualifiedName behind the prefix.
+/// The part of \a qualifiedName behind the prefix.
 QString soapLocalPart(const QString& qualifiedName);
 
 } // namespace TOLVAN_NAMESPACE

@@ -21,7 +21,7 @@ class SoapXmlSink
 public:
     virtual ~SoapXmlSink() = default;
 
-    /// Begins an element; a @p uri without registered prefix becomes the default namespace.
+    /// Begins an element; a \a uri without registered prefix becomes the default namespace.
     virtual void open(const QString& name, const QString& uri) = 0;
     virtual void attribute(const SoapAttributeName& name, const QString& value) = 0;
     virtual void plainAttribute(QLatin1String name, const QString& value) = 0;
@@ -39,7 +39,7 @@ public:
 class SoapTextSink : public SoapXmlSink
 {
 public:
-    /// Appends to @p xml; with an @p indent above 0 each element begins a line.
+    /// Appends to \a xml; with an \a indent above 0 each element begins a line.
     SoapTextSink(QString& xml, int indent)
         : m_xml(xml)
         , m_indent(indent)
@@ -54,7 +54,7 @@ public:
     void tree(const QDomElement& element) override;
     QDomDocument document() override { return m_document; }
 
-    /// Declares @p prefix on the element just begun, for all it holds.
+    /// Declares \a prefix on the element just begun, for all it holds.
     void declare(QLatin1String prefix, QLatin1String uri);
 
 private:

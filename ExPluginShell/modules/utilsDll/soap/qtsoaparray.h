@@ -24,7 +24,7 @@ public:
     QtSoapArray();
 
     /**
-     * @brief An array called @p name of items of @p type.
+     * @brief An array called \a name of items of \a type.
      *
      * As many dimensions as sizes are given; -1 ends the list. Without any there is one dimension, which
      * grows.
@@ -35,14 +35,14 @@ public:
     /// A copy with items of its own.
     QtSoapArray(const QtSoapArray& copy);
 
-    /// Becomes a copy of @p copy, with items of its own.
+    /// Becomes a copy of \a copy, with items of its own.
     QtSoapArray& operator=(const QtSoapArray& copy);
     ~QtSoapArray() override;
 
     /// Removes items and dimensions: what stays is one dimension that grows, and the item type.
     void clear() override;
 
-    /// Reads the element @p node; false, and errorString() says why, when sizes or positions contradict each
+    /// Reads the element \a node; false, and errorString() says why, when sizes or positions contradict each
     /// other or it holds a text. What the array then holds is not defined.
     bool parse(QDomNode node) override;
 
@@ -74,14 +74,14 @@ public:
     QtSoapType& operator[](const QtSoapQName& name) override;
     const QtSoapType& operator[](const QtSoapQName& name) const override;
 
-    /// Adds @p item, which comes from `new`, behind the last one of a one-dimensional array and takes
+    /// Adds \a item, which comes from `new`, behind the last one of a one-dimensional array and takes
     /// ownership; refused, and deleted, on other ranks.
     void append(QtSoapType* item);
 
-    /// Puts @p item at an absolute position, in place of what is there, and takes ownership.
+    /// Puts \a item at an absolute position, in place of what is there, and takes ownership.
     void insert(int pos0, QtSoapType* item);
 
-    /// Puts @p item at two coordinates of a two-dimensional array, and so on up to five; takes ownership.
+    /// Puts \a item at two coordinates of a two-dimensional array, and so on up to five; takes ownership.
     void insert(int pos0, int pos1, QtSoapType* item);
     void insert(int pos0, int pos1, int pos2, QtSoapType* item); ///< @copydoc insert(int,int,QtSoapType*)
     void insert(int pos0, int pos1, int pos2, int pos3,
@@ -107,7 +107,7 @@ private:
     friend class SoapEncoder;
     friend class SoapValueReader;
 
-    /// Absolute position of @p coordinates; -1 when they are not of this rank or outside.
+    /// Absolute position of \a coordinates; -1 when they are not of this rank or outside.
     int absolute(const QVector<int>& coordinates) const;
     QVector<int> coordinates(int position) const;
     const QtSoapType& find(int position) const;

@@ -16,14 +16,14 @@ namespace TOLVAN_NAMESPACE
 class UTILSDLL_EXPORT QtSoapArrayIterator
 {
 public:
-    /// Starts on the first item of @p array.
+    /// Starts on the first item of \a array.
     QtSoapArrayIterator(QtSoapArray& array);
 
-    /// Stands where @p copy stands.
+    /// Stands where \a copy stands.
     QtSoapArrayIterator(const QtSoapArrayIterator& copy);
     ~QtSoapArrayIterator();
 
-    /// Goes where @p j stands.
+    /// Goes where \a j stands.
     QtSoapArrayIterator& operator=(const QtSoapArrayIterator& j);
 
     /// Absolute position of the item, whatever the rank; -1 past the end.

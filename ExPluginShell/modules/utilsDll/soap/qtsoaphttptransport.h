@@ -46,25 +46,25 @@ class UTILSDLL_EXPORT QtSoapHttpTransport : public QObject
     Q_PROPERTY(int timeout READ timeout WRITE setTimeout)
 
 public:
-    /// A transport without host, owned by @p parent.
+    /// A transport without host, owned by \a parent.
     QtSoapHttpTransport(QObject* parent = nullptr);
 
     /// Aborts what is under way; no signal follows.
     ~QtSoapHttpTransport() override;
 
-    /// Sends to @p host from now on, over HTTPS if @p useSecureHTTP; port 0 is 80, or 443 for HTTPS.
+    /// Sends to \a host from now on, over HTTPS if \a useSecureHTTP; port 0 is 80, or 443 for HTTPS.
     void setHost(const QString& host, bool useSecureHTTP = false, int port = 0);
 
-    /// Sends to @p host and @p port over HTTP. Kept for older callers.
+    /// Sends to \a host and \a port over HTTP. Kept for older callers.
     void setHost(const QString& host, int port);
 
     /// Sets the SOAPAction of this and later requests; quotes are added where the caller did not.
     void setAction(const QString& action);
 
     /**
-     * @brief Posts @p request to @p path on the host, and returns at once.
-     * @param request is not kept
-     * @param path begins with a slash; what follows a question mark is the query
+     * @brief Posts \a request to \a path on the host, and returns at once.
+     * \param request is not kept
+     * \param path begins with a slash; what follows a question mark is the query
      */
     void submitRequest(QtSoapMessage& request, const QString& path);
 

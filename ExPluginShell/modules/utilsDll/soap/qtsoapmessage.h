@@ -30,24 +30,24 @@ public:
     QtSoapMessage(const QtSoapMessage& copy);
     ~QtSoapMessage();
 
-    /// Replaces the contents by a copy of those of @p copy.
+    /// Replaces the contents by a copy of those of \a copy.
     QtSoapMessage& operator=(const QtSoapMessage& copy);
 
     /**
-     * @brief Replaces the message by the one in @p buffer, XML with or without declaration.
+     * @brief Replaces the message by the one in \a buffer, XML with or without declaration.
      * @return true on success. On failure false, errorString() says what is wrong, with line and column where
      * the XML is, and the message is a fault with that text: VersionMismatch for an envelope of another SOAP
      * version, else Client.
      */
     bool setContent(const QByteArray& buffer);
 
-    /// Replaces the message by the one in @p d, which was parsed with namespace processing; result as above.
+    /// Replaces the message by the one in \a d, which was parsed with namespace processing; result as above.
     bool setContent(QDomDocument& d);
 
-    /// Appends @p item to the body.
+    /// Appends \a item to the body.
     void addBodyItem(QtSoapType* item);
 
-    /// Appends @p item to the header.
+    /// Appends \a item to the header.
     void addHeaderItem(QtSoapType* item);
 
     /// The method element of a request or an answer: the first item of the body; invalid in a fault.
@@ -57,23 +57,23 @@ public:
     /// is none.
     const QtSoapType& returnValue() const;
 
-    /// Makes this a request for @p method; what the body held goes, the header stays.
+    /// Makes this a request for \a method; what the body held goes, the header stays.
     void setMethod(const QtSoapQName& method);
 
-    /// Makes this a request for the method @p name in the namespace @p uri.
+    /// Makes this a request for the method \a name in the namespace \a uri.
     void setMethod(const QString& name, const QString& uri = QString());
 
     /**
-     * @brief Appends @p arg to the arguments of the method.
+     * @brief Appends \a arg to the arguments of the method.
      *
      * setMethod() comes first; without it the argument becomes an item of the body, and a warning is written.
      */
     void addMethodArgument(QtSoapType* arg);
 
-    /// Appends a String argument @p name in the namespace @p uri.
+    /// Appends a String argument \a name in the namespace \a uri.
     void addMethodArgument(const QString& name, const QString& uri, const QString& value);
 
-    /// Appends a Boolean argument; @p dummy only selects the overload, pass 0.
+    /// Appends a Boolean argument; \a dummy only selects the overload, pass 0.
     void addMethodArgument(const QString& name, const QString& uri, bool value, int dummy);
 
     /// Appends an Int argument; three arguments with a `bool` select this one too.
@@ -106,7 +106,7 @@ public:
     /// Sets the text of the fault.
     void setFaultString(const QString& fstring);
 
-    /// Appends @p detail to the detail of the fault.
+    /// Appends \a detail to the detail of the fault.
     void addFaultDetail(QtSoapType* detail);
 
     /// Makes this an envelope with neither header nor body.
@@ -114,7 +114,7 @@ public:
 
     /**
      * @brief The message as XML, without declaration.
-     * @param indent number of blanks per level; with 0 all is on one line
+     * \param indent number of blanks per level; with 0 all is on one line
      *
      * Characters that XML cannot carry at all (U+0000 to U+001F but for tab and line ends, U+FFFE, U+FFFF,
      * half surrogate pairs) are written as U+FFFD. Send the text as UTF-8.
@@ -128,7 +128,7 @@ protected:
     /// What the message is, as far as its contents tell.
     enum MessageType { Fault, MethodRequest, MethodResponse, OtherType };
 
-    /// Whether @p candidate is a SOAP 1.1 message that setContent() would take; errorString() tells why not.
+    /// Whether \a candidate is a SOAP 1.1 message that setContent() would take; errorString() tells why not.
     bool isValidSoapMessage(const QDomDocument& candidate);
 
     /// The items of the body, which is made when there is none; it belongs to the message.

@@ -19,7 +19,7 @@ class UTILSDLL_EXPORT QtSoapNamespaces
 {
 public:
     /**
-     * @brief Writes names of the namespace @p uri with @p prefix from now on.
+     * @brief Writes names of the namespace \a uri with \a prefix from now on.
      *
      * The last registration holds: it ends an earlier prefix of that URI and an earlier URI of that prefix.
      * The five prefixes known from the start keep their meaning, and a prefix that XML does not allow is
@@ -27,7 +27,7 @@ public:
      */
     void registerNamespace(const QString& prefix, const QString& uri);
 
-    /// The prefix for @p uri; an empty string when none was registered.
+    /// The prefix for \a uri; an empty string when none was registered.
     QString prefixFor(const QString& uri);
 
     /// The registry of this process.

@@ -16,7 +16,7 @@ namespace TOLVAN_NAMESPACE
 class UTILSDLL_EXPORT QtSoapQName
 {
 public:
-    /// The name @p name in the namespace @p uri.
+    /// The name \a name in the namespace \a uri.
     QtSoapQName(const QString& name = QString(), const QString& uri = QString());
 
     /// A copy.
@@ -26,7 +26,7 @@ public:
     /// Takes over name and URI.
     QtSoapQName& operator=(const QtSoapQName&) = default;
 
-    /// Sets the name to @p s and empties the URI.
+    /// Sets the name to \a s and empties the URI.
     QtSoapQName& operator=(const QString& s);
 
     /// The local name.
@@ -41,14 +41,14 @@ private:
 };
 
 /**
- * @brief Whether @p n1 is what the key @p n2 asks for; case does not matter.
+ * @brief Whether \a n1 is what the key \a n2 asks for; case does not matter.
  *
  * The comparison is not symmetric: a key without URI matches the name in any namespace, a key with a URI is
  * compared as URI and name joined.
  */
 UTILSDLL_EXPORT bool operator==(const QtSoapQName& n1, const QtSoapQName& n2);
 
-/// The order that goes with `operator==`: by name alone when @p n2 has no URI, else by URI and name joined.
+/// The order that goes with `operator==`: by name alone when \a n2 has no URI, else by URI and name joined.
 UTILSDLL_EXPORT bool operator<(const QtSoapQName& n1, const QtSoapQName& n2);
 
 } // namespace TOLVAN_NAMESPACE

@@ -28,13 +28,13 @@ public:
     /// A nil value of type Other.
     QtSoapSimpleType();
 
-    /// A nil value of type Other called @p name.
+    /// A nil value of type Other called \a name.
     QtSoapSimpleType(const QtSoapQName& name);
 
-    /// An Int. A `bool` passed as @p n selects this overload too; a Boolean takes the next one.
+    /// An Int. A `bool` passed as \a n selects this overload too; a Boolean takes the next one.
     QtSoapSimpleType(const QtSoapQName& name, int n);
 
-    /// A Boolean; @p dummy only selects the overload, pass 0.
+    /// A Boolean; \a dummy only selects the overload, pass 0.
     QtSoapSimpleType(const QtSoapQName& name, bool n, int dummy);
 
     /// A String.
@@ -43,14 +43,14 @@ public:
     /// A copy of name, type and value.
     QtSoapSimpleType(const QtSoapSimpleType& copy);
 
-    /// Takes over name, type and value of @p copy.
+    /// Takes over name, type and value of \a copy.
     QtSoapSimpleType& operator=(const QtSoapSimpleType& copy);
     ~QtSoapSimpleType() override;
 
     /// Makes the value nil; name and type stay.
     void clear() override;
 
-    /// Reads the element @p node; false, and errorString() says why, for one that has child elements, or is
+    /// Reads the element \a node; false, and errorString() says why, for one that has child elements, or is
     /// an array or a struct by its type. The value is unchanged then.
     bool parse(QDomNode node) override;
 

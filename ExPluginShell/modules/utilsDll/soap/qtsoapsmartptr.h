@@ -21,7 +21,7 @@ template <class T>
 class QtSmartPtr
 {
 public:
-    /// Takes ownership of @p data, which must come from `new`; null makes an empty pointer.
+    /// Takes ownership of \a data, which must come from `new`; null makes an empty pointer.
     QtSmartPtr(T* data = nullptr)
         : d(data ? new Block(data) : nullptr)
     {

@@ -19,20 +19,20 @@ public:
     /// An empty struct without name.
     QtSoapStruct();
 
-    /// An empty struct called @p name.
+    /// An empty struct called \a name.
     QtSoapStruct(const QtSoapQName& name);
 
     /// A copy with children of its own.
     QtSoapStruct(const QtSoapStruct& copy);
 
-    /// Becomes a copy of @p copy, with children of its own.
+    /// Becomes a copy of \a copy, with children of its own.
     QtSoapStruct& operator=(const QtSoapStruct& copy);
     ~QtSoapStruct() override;
 
     /// Removes all children.
     void clear() override;
 
-    /// Reads the element @p node; false, and errorString() says why, for one that holds a text and no child
+    /// Reads the element \a node; false, and errorString() says why, for one that holds a text and no child
     /// elements. The struct is unchanged then.
     bool parse(QDomNode node) override;
 
@@ -42,7 +42,7 @@ public:
     /// Number of children.
     int count() const override;
 
-    /// The child called @p key, see `operator[](const QtSoapQName&)` of the base class.
+    /// The child called \a key, see `operator[](const QtSoapQName&)` of the base class.
     QtSoapType& at(const QtSoapQName& key);
 
     /// @copydoc at(const QtSoapQName&)
@@ -55,7 +55,7 @@ public:
     const QtSoapType& operator[](const QString& key) const override;
 
     /**
-     * @brief Adds @p item, which comes from `new`, and takes ownership of it.
+     * @brief Adds \a item, which comes from `new`, and takes ownership of it.
      *
      * The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
      */
@@ -73,7 +73,7 @@ private:
     friend class SoapEncoder;
     friend class SoapValueReader;
 
-    /// Index of the child for @p key, -1 when there is none.
+    /// Index of the child for \a key, -1 when there is none.
     int indexOf(const QtSoapQName& key) const;
     void append(QtSoapType* item);
 };

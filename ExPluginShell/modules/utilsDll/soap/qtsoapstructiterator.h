@@ -14,7 +14,7 @@ namespace TOLVAN_NAMESPACE
 class UTILSDLL_EXPORT QtSoapStructIterator
 {
 public:
-    /// Starts on the first child of @p s.
+    /// Starts on the first child of \a s.
     QtSoapStructIterator(QtSoapStruct& s);
 
     /// Stands where the other one stands.

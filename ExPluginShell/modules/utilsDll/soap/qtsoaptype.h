@@ -75,13 +75,13 @@ public:
     /// A value without name and type.
     QtSoapType();
 
-    /// A value called @p name of type @p t.
+    /// A value called \a name of type \a t.
     QtSoapType(const QtSoapQName& name, Type t = Other);
 
     /// A copy of name, type and attributes.
     QtSoapType(const QtSoapType& copy);
 
-    /// Takes over name, type and attributes of @p copy.
+    /// Takes over name, type and attributes of \a copy.
     QtSoapType& operator=(const QtSoapType& copy);
     virtual ~QtSoapType();
 
@@ -89,8 +89,8 @@ public:
     virtual void clear();
 
     /**
-     * @brief Replaces this value by what @p node holds.
-     * @param node an element of a document that was parsed with namespace processing
+     * @brief Replaces this value by what \a node holds.
+     * \param node an element of a document that was parsed with namespace processing
      * @return false, and errorString() says why, when the node is no value of this class; here always false.
      */
     virtual bool parse(QDomNode node);
@@ -105,14 +105,14 @@ public:
     /// The held value; an invalid variant here.
     virtual QVariant value() const;
 
-    /// The child number @p pos, counted from 0.
+    /// The child number \a pos, counted from 0.
     virtual QtSoapType& operator[](int pos);
 
-    /// The first child that matches @p key as `operator==` of QtSoapQName has it; in a struct, one of the same
+    /// The first child that matches \a key as `operator==` of QtSoapQName has it; in a struct, one of the same
     /// case comes first.
     virtual QtSoapType& operator[](const QtSoapQName& key);
 
-    /// The first child with the local name @p key, in any namespace.
+    /// The first child with the local name \a key, in any namespace.
     virtual QtSoapType& operator[](const QString& key);
 
     /// @copydoc operator[](int)
@@ -126,7 +126,7 @@ public:
 
     /**
      * @brief Makes an element for this value.
-     * @param document the document that makes the element
+     * \param document the document that makes the element
      * @return the element, not inserted anywhere; a null element here.
      */
     virtual QDomElement toDomElement(QDomDocument document) const;

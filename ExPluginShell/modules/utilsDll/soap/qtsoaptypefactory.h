@@ -15,7 +15,7 @@ public:
     QtSoapTypeConstructorBase();
     virtual ~QtSoapTypeConstructorBase();
 
-    /// A new value for the element @p node, owned by the caller; null, and errorString() says why, when it is
+    /// A new value for the element \a node, owned by the caller; null, and errorString() says why, when it is
     /// none.
     virtual QtSoapType* createObject(QDomNode node) = 0;
 
@@ -24,7 +24,7 @@ public:
 };
 
 /**
- * @brief Makes values of the class @p T, which has a default constructor, `parse()` and `errorString()`.
+ * @brief Makes values of the class \a T, which has a default constructor, `parse()` and `errorString()`.
  *
  * Keeps the error of the latest call: one object serves one thread at a time.
  */
@@ -69,14 +69,14 @@ public:
     static QtSoapTypeFactory& instance();
 
     /**
-     * @brief Has @p handler make the values whose type has the local name @p name.
-     * @param handler stays the caller's and must live as long as messages are read
+     * @brief Has \a handler make the values whose type has the local name \a name.
+     * \param handler stays the caller's and must live as long as messages are read
      * @return false when the name is empty or taken, by a built-in type or another handler, or the handler is
      * null.
      */
     bool registerHandler(const QString& name, QtSoapTypeConstructorBase* handler);
 
-    /// The value of the element @p node; an empty pointer, and errorString() says why, on failure.
+    /// The value of the element \a node; an empty pointer, and errorString() says why, on failure.
     QtSmartPtr<QtSoapType> soapType(QDomNode node) const;
 
     /// Why the latest soapType() of any thread failed; empty when it did not.
