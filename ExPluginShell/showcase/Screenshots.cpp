@@ -23,6 +23,25 @@ namespace
 
 constexpr QSize windowSize(1080, 720);
 
+/// While it lives, the screenless platform does not tell window by window that it knows no size hints.
+class QuietPlatform
+{
+public:
+    QuietPlatform() { usual = qInstallMessageHandler(&QuietPlatform::write); }
+    ~QuietPlatform() { qInstallMessageHandler(usual); }
+    Q_DISABLE_COPY(QuietPlatform)
+
+private:
+    static void write(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (!text.contains(QLatin1String("propagateSizeHints"))) {
+            usual(type, context, text);
+        }
+    }
+
+    inline static QtMessageHandler usual = nullptr;
+};
+
 bool save(const QPixmap& picture, const QDir& folder, const QString& name)
 {
     const QString path = folder.filePath(name + QStringLiteral(".png"));
@@ -103,6 +122,7 @@ bool writeWholePage(const QDir& folder, const QString& name)
 bool writeScreenshots(const QString& folder)
 {
     using TOLVAN_NAMESPACE::CLanguageManager;
+    const QuietPlatform quiet;
     const StoredLanguage storedLanguage;
     auto* const languages = CLanguageManager::instance();
     const QDir root(folder);
