@@ -133,7 +133,8 @@ void FilesPage::comparePaths()
                    ? tr("equal")
                    : tr("different");
     };
-    m_comparison->setText(verdict(CompareFullPath) + QStringLiteral("  ·  ") + verdict(CompareDirAndBaseName));
+    m_comparison->setText(verdict(CompareFullPath) + QStringLiteral("  ·  ") +
+                          verdict(CompareDirAndBaseName));
 }
 
 void FilesPage::chooseFolder()
