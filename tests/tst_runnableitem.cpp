@@ -160,8 +160,11 @@ void RunnableItemTest::stoppedFromAnotherThread()
     for (const int executions : {1, 3}) { // an item may be run by several threads at once
         QThreadPool pool;
         pool.setMaxThreadCount(executions);
+        std::atomic<int> finished{0}; // the toolkit's own recorder of signals is made for one thread
         Item item(untilStopped);
-        const Spies spies(item);
+        connect(
+            &item, &CQRunnableItem::finished, &item,
+            [&](bool ok, bool stopped) { finished += ok && stopped ? 1 : 0; }, Qt::DirectConnection);
         for (int i = 0; i < executions; ++i) {
             startOn(pool, item);
         }
@@ -172,8 +175,7 @@ void RunnableItemTest::stoppedFromAnotherThread()
         item.waitFinishNonBlocking(false);
         QCOMPARE(item.entriesCounter(), 0);
         QVERIFY(finishOn(pool));
-        QTRY_COMPARE(spies.finished.count(), executions);
-        QCOMPARE(spies.finished.last(), QVariantList({true, true}));
+        QCOMPARE(finished.load(), executions);
     }
 }
 
