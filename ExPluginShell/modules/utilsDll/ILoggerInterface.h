@@ -2,6 +2,9 @@
 
 #include <string>
 
+/// \file
+/// What libraries of the product log through.
+
 /// Level letters of log lines, in rising order of importance.
 namespace LogLevel
 {

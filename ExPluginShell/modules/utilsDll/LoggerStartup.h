@@ -5,6 +5,9 @@
 
 #include <QString>
 
+/// \file
+/// The start of the library's logging.
+
 namespace TOLVAN_NAMESPACE
 {
 

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+/// \file
+/// The program that the library runs inside.
+
 /// What the host plug-in wants to know of the program that it runs inside.
 ///
 /// Nothing here reports or throws: whatever fails gives the empty name or the unknown version. Both functions

@@ -4,6 +4,9 @@
 
 #include <QAtomicInt>
 
+/// \file
+/// Waits for a condition, with the processor or with the event loop.
+
 /// A condition that a wait waits for.
 class UTILSDLL_EXPORT ICustomWaitPredicate
 {

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+/// \file
+/// Names in XML, with their namespaces.
+
 namespace TOLVAN_NAMESPACE
 {
 
