@@ -315,7 +315,7 @@ void blockingAnswer(benchmark::State& state)
     end = true;
     other.join();
 }
-BENCHMARK(blockingAnswer)->Name("answer/waitBlocking")->UseManualTime();
+BENCHMARK(blockingAnswer)->Name("answer/waitBlocking")->UseManualTime()->Iterations(10000);
 
 /// Seconds of this thread: on a processor, and ready to run without getting one.
 struct ThreadTimes {
