@@ -13,7 +13,7 @@
 
 #include <optional>
 
-// The layout of the freedesktop.org trash specification, version 1.0: a folder with "files" and "info", where
+// The layout of the freedesktop.org trash, version 1.0: a folder with "files" and "info", where
 // "info" holds for each file a text with its old path and the time.
 
 namespace TOLVAN_NAMESPACE
