@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Texts.h"
 
 #include <utilsDll/FileManagement.h>
 
@@ -30,7 +31,6 @@ void FileNamesTest::validity_data()
     const auto row = [](const char* title, const QString& name, bool asName, bool asPath) {
         QTest::newRow(title) << name << asName << asPath;
     };
-    const auto text = [](const char* utf8) { return QString::fromUtf8(utf8); };
     row("empty", QString(), false, false);
     row("plain", text("photo.jpg"), true, true);
     row("blanks and dots at the end", text("a. ."), true, true);
