@@ -1,5 +1,5 @@
 #include "FileManagement.h"
-#include "FileSizes.h"
+#include "files/FileSizes.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 // The frame's own cost beside its peers: logging, settings, the suite file.
 
-#include "Logging.h"
+#include "frame/Logging.h"
 #include "Settings.h"
 #include "StorageLocation.h"
 #include "TemporarySettings.h"

@@ -5,4 +5,4 @@ set(UTILSDLL_BUILD_BRANCH "HEAD" CACHE STRING "Name of the source branch")
 set(UTILSDLL_BUILD_HASH "377e5e6a6" CACHE STRING "First nine hexadecimal digits of the source revision")
 configure_file(
     "${CMAKE_CURRENT_LIST_DIR}/BuildIdentification.h.in"
-    "${CMAKE_BINARY_DIR}/generated/BuildIdentification.h" @ONLY)
+    "${PROJECT_BINARY_DIR}/generated/BuildIdentification.h" @ONLY)

@@ -7,7 +7,8 @@ install(TARGETS UtilsDllTrelioFrame EXPORT UtilsDllTrelioFrameTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-foreach(header IN LISTS UTILSDLL_PUBLIC_HEADERS)
+get_property(public_headers GLOBAL PROPERTY TOLVAN_PUBLIC_HEADERS)
+foreach(header IN LISTS public_headers)
     get_filename_component(folder "${header}" DIRECTORY)
     install(FILES "ExPluginShell/modules/utilsDll/${header}"
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/utilsDll/${folder}")
@@ -16,14 +17,14 @@ install(EXPORT UtilsDllTrelioFrameTargets NAMESPACE Tolvan:: DESTINATION ${packa
 
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/UtilsDllTrelioFrameConfig.cmake.in"
-    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
+    "${PROJECT_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
     INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(
-    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
+    "${PROJECT_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 install(FILES
-    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
-    "${CMAKE_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
+    "${PROJECT_BINARY_DIR}/package/UtilsDllTrelioFrameConfig.cmake"
+    "${PROJECT_BINARY_DIR}/package/UtilsDllTrelioFrameConfigVersion.cmake"
     DESTINATION ${package_dir})
 if(TARGET LoggerDllTrelioFrame)
     # Looked for beside the library first, so it is installed there on every platform.

@@ -1,7 +1,7 @@
 #include "FileWork.h"
 
-#include "ArchiveExtraction.h"
-#include "ArchivePacking.h"
+#include "archive/ArchiveExtraction.h"
+#include "archive/ArchivePacking.h"
 
 #include <quazip/quazip.h>
 #include <quazip/quazipfileinfo.h>

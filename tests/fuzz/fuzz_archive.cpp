@@ -1,4 +1,4 @@
-#include "ArchiveExtraction.h"
+#include "archive/ArchiveExtraction.h"
 
 #include <QDir>
 #include <QFile>

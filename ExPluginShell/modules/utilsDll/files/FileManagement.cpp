@@ -1,0 +1,195 @@
+#include "FileManagement.h"
+
+#include "frame/Logging.h"
+#include "platform/FileMoves.h"
+#include "platform/FolderContent.h"
+#include "platform/ShellSelection.h"
+#include "platform/Trash.h"
+
+#include <QDebug>
+#include <QStorageInfo>
+
+#include <algorithm>
+
+namespace TOLVAN_NAMESPACE
+{
+
+namespace
+{
+
+constexpr int longestPart = 260;
+constexpr int tooLongPath = 32767;
+
+bool isForbiddenIn(QChar character, bool isPath)
+{
+    switch (character.unicode()) {
+    case '<':
+    case '>':
+    case '"':
+    case '|':
+    case '?':
+    case '*':
+        return true;
+    case ':':
+    case '/':
+    case '\\':
+        return !isPath;
+    default:
+        return false;
+    }
+}
+
+/// A comparison by hand: the pattern "CON|PRN|...|LPT9" matched as a whole and without regard to case, at a
+/// fraction of the cost of a pattern object, whose matching state threads could not share.
+bool isDeviceName(QStringView name)
+{
+    const auto is = [](QStringView text, QLatin1String device) {
+        return text.compare(device, Qt::CaseInsensitive) == 0;
+    };
+    if (name.size() == 3) {
+        return is(name, QLatin1String("CON")) || is(name, QLatin1String("PRN")) ||
+               is(name, QLatin1String("AUX")) || is(name, QLatin1String("NUL"));
+    }
+    if (name.size() != 4 || name.back() < QLatin1Char('1') || name.back() > QLatin1Char('9')) {
+        return false;
+    }
+    return is(name.left(3), QLatin1String("COM")) || is(name.left(3), QLatin1String("LPT"));
+}
+
+bool hasTooLongPart(QStringView path)
+{
+    const QChar separator = QDir::separator();
+    auto begin = path.begin();
+    while (begin != path.end()) {
+        const auto end = std::find(begin, path.end(), separator);
+        if (end - begin > longestPart) {
+            return true;
+        }
+        begin = end == path.end() ? end : end + 1;
+    }
+    return false;
+}
+
+QStringView lastPart(QStringView path)
+{
+    const auto isSeparator = [](QChar c) { return c == QLatin1Char('/') || c == QLatin1Char('\\'); };
+    auto begin = path.end();
+    while (begin != path.begin() && !isSeparator(*(begin - 1))) {
+        --begin;
+    }
+    return path.mid(begin - path.begin());
+}
+
+QString comparedText(const QFileInfo& file, FileCompareCondition condition)
+{
+    switch (condition) {
+    case CompareFullPath:
+        return QDir::cleanPath(file.filePath());
+    case CompareDirAndBaseName:
+        return QDir::cleanPath(file.path()) + file.completeBaseName();
+    case CompareFileName:
+        return file.fileName();
+    case CompareBaseName:
+        return file.completeBaseName();
+    }
+    return {};
+}
+
+QString nativeCleanPath(const QString& path)
+{
+    return QDir::toNativeSeparators(QDir::cleanPath(path));
+}
+
+/// \return what became of the entry handled last; false when there was none
+bool removeEntries(Platform::FolderContent folder)
+{
+    bool removed = false;
+    for (const Platform::FolderEntry& entry : folder.entries()) {
+        removed = entry.isFolder ? removeEntries(folder.folder(entry)) : folder.removeFile(entry);
+        if (!removed) {
+            break;
+        }
+    }
+    return removed;
+}
+
+} // namespace
+
+bool validateFileName(const QString& name, bool isPath)
+{
+    const QString path = nativeCleanPath(name);
+    if (path.isEmpty() || path.size() >= tooLongPath || hasTooLongPart(path)) {
+        return false;
+    }
+    if (std::any_of(path.begin(), path.end(), [isPath](QChar c) { return isForbiddenIn(c, isPath); }) ||
+        path.contains(QLatin1String(".."))) {
+        return false;
+    }
+    return !isDeviceName(isPath ? lastPart(path) : QStringView(path));
+}
+
+QString normalizedFilePath(const QString& path)
+{
+    return QDir::toNativeSeparators(path).toLower();
+}
+
+bool isEqualFileOrDirNames(const QFileInfo& a, const QFileInfo& b, FileCompareCondition condition)
+{
+    return QString::compare(comparedText(a, condition), comparedText(b, condition), Qt::CaseInsensitive) == 0;
+}
+
+bool renameFile(const QString& from, const QString& to)
+{
+    return Platform::moveWithoutReplacing(nativeCleanPath(from), nativeCleanPath(to));
+}
+
+ErrorCodes moveFileToTrash(const QString& path)
+{
+    if (!QFileInfo::exists(path)) {
+        return FileOperationFailed;
+    }
+    if (!Platform::moveToRecycleBin(path)) {
+        UTILSDLL_LOG(LogLevel::Error, "TOLVAN_NAMESPACE::moveFileToTrash")
+            << "the recycle bin does not take " << path;
+        return FileOperationFailed;
+    }
+    return FileOperationSucceeded;
+}
+
+bool removeDirectoryContent(const QDir& dir)
+{
+    return removeEntries(Platform::FolderContent(dir));
+}
+
+qint64 availableDiskSpace(const QString& path)
+{
+    return QStorageInfo(path).bytesAvailable();
+}
+
+void selectFilesInShell(const QString& folder, const QStringList& files)
+{
+    const char* const function = "TOLVAN_NAMESPACE::selectFilesInShell";
+    if (folder.isEmpty()) {
+        return;
+    }
+    if (!QFileInfo::exists(folder)) {
+        Logging::reportAssertion(function, "FileManagement", __LINE__);
+        return;
+    }
+    QStringList existing;
+    for (const QString& file : files) {
+        if (file.isEmpty()) {
+            continue;
+        }
+        if (QFileInfo::exists(file)) {
+            existing += file;
+        } else {
+            qDebug() << "selectFilesInShell: there is no file" << file;
+        }
+    }
+    if (!Platform::selectInFileBrowser(folder, existing)) {
+        Logging::reportAssertion(function, "FileManagement", __LINE__);
+    }
+}
+
+} // namespace TOLVAN_NAMESPACE

@@ -1,0 +1,282 @@
+#include "FileTree.h"
+#include "FolderTest.h"
+#include "TestMain.h"
+#include "ZipWriter.h"
+
+#include "archive/ArchiveExtraction.h"
+#include "archive/ArchiveNames.h"
+
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+using namespace TOLVAN_NAMESPACE;
+
+Q_DECLARE_METATYPE(ZipEntry)
+
+using Tree = QMap<QString, QByteArray>;
+
+/// Archives that want to write elsewhere, or are broken. Whatever they are, nothing outside the folder
+/// changes and the good entries arrive.
+class HostileArchivesTest : public FolderTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { QCOMPARE(outside(), m_outside); } // after each archive, whatever it was
+    void safeNames_data();
+    void safeNames();
+    void badEntryAmongGoodOnes_data();
+    void badEntryAmongGoodOnes();
+    void linksLeadNowhere_data();
+    void linksLeadNowhere();
+    void linkThatWasThereBefore();
+    void overlongFields();
+    void truncatedAnywhere();
+    void wrongCounts();
+    void bomb();
+
+private:
+    bool unpack(const QByteArray& zip) const
+    {
+        const QString archive = FileTree::write(path("test.zip"), zip);
+        return DecompressFiles(archive.toStdWString(), path("box/out").toStdWString());
+    }
+    Tree inside() const { return FileTree::of(path("box/out")); }
+    /// What lies outside the folder that is unpacked into.
+    Tree outside() const
+    {
+        Tree tree = FileTree::of(folder());
+        for (const QString& name : tree.keys()) {
+            if (name.startsWith(QLatin1String("box/out/")) || name == QLatin1String("test.zip")) {
+                tree.remove(name);
+            }
+        }
+        return tree;
+    }
+
+    Tree m_outside;
+};
+
+void HostileArchivesTest::init()
+{
+    FolderTest::init();
+    FileTree::write(path("victim"), "untouched");
+    FileTree::write(path("box/victim"), "untouched");
+    QVERIFY(QDir().mkpath(path("box/out")));
+    m_outside = outside();
+}
+
+void HostileArchivesTest::safeNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("onUnix"); // the parts, separated by bars
+    QTest::addColumn<QString>("onWindows");
+    const auto row = [](const char* name, const char* onUnix, const char* onWindows) {
+        QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(onUnix)
+                            << QString::fromUtf8(onWindows);
+    };
+    row("a/b", "a|b", "a|b");
+    row("./a//b/.", "a|b", "a|b");
+    row("..a/b..", "..a|b..", "");
+    row("a/../b", "", "");
+    row("a\\..\\b", "", "");
+    row("a\\b", "a\\b", "a|b");
+    row("a:stream", "", "");
+    row("ab:stream", "ab:stream", "");
+    row("nul", "nul", "");
+    row("a/CON.txt", "a|CON.txt", "");
+    row("com1.tar.gz", "com1.tar.gz", "");
+    row("com10", "com10", "com10");
+    row("NUL .txt", "NUL .txt", "");
+    row("a.", "a.", "");
+    row("a /b", "a |b", "");
+    row("what?", "what?", "");
+    row("line\nfeed", "line\nfeed", "");
+}
+
+void HostileArchivesTest::safeNames()
+{
+    QFETCH(QString, name);
+    QTEST(safeParts(name, NameRules::Unix).join(QLatin1Char('|')), "onUnix");
+    QTEST(safeParts(name, NameRules::Windows).join(QLatin1Char('|')), "onWindows");
+    QVERIFY(safeParts(QStringLiteral("a") + QChar(0) + QStringLiteral("b"), NameRules::Unix).isEmpty());
+}
+
+void HostileArchivesTest::badEntryAmongGoodOnes_data()
+{
+    QTest::addColumn<ZipEntry>("entry");
+    const QByteArray content(5000, 'x');
+    const auto named = [&](const QByteArray& name) { QTest::newRow(name) << ZipEntry{name, content}; };
+    for (const char* name :
+         {"../victim", "../../victim", "a/../../victim", "..", "a/..", "/victim", "//a/victim", "..\\victim",
+          "\\victim", "C:\\victim", "C:victim", "c:/victim", "../new/folder/"}) {
+        named(name);
+    }
+    named(QByteArray("..\0/victim", 10));
+    named(QByteArray("nul\0l", 5));
+    named(QByteArray());
+    named(QByteArray(300, 'n'));
+    if (nativeNameRules() == NameRules::Windows) {
+        for (const char* name : {"CON", "nul.txt", "a/COM1", "a:b", "ab:c", "what?", "dot.", "blank "}) {
+            named(name);
+        }
+    }
+    const auto row = [&](const char* title, auto change) {
+        ZipEntry entry{"bad", content};
+        change(entry);
+        QTest::newRow(title) << entry;
+    };
+    row("nested too deep", [](ZipEntry& entry) { entry.name = QByteArray("d/").repeated(32000) + "f"; });
+    row("wrong checksum", [](ZipEntry& entry) { entry.checksum = 1; });
+    row("wrong checksum, stored", [](ZipEntry& entry) { entry.checksum = 1, entry.method = 0; });
+    row("local header says another size", [](ZipEntry& entry) { entry.localSize = 4; });
+    row("declared larger than it is", [](ZipEntry& entry) { entry.declaredSize = 6000; });
+    row("declared smaller than it is", [](ZipEntry& entry) { entry.declaredSize = 4000; });
+    row("no content at all", [](ZipEntry& entry) { entry.packed = ""; });
+    row("content cut off", [](ZipEntry& entry) { entry.packed = deflated(entry.content).chopped(4); });
+    row("content is no deflated data", [](ZipEntry& entry) { entry.packed = "\xFF\xFF\xFF\xFF"; });
+    row("stored content cut off", [](ZipEntry& entry) { entry.packed = "short", entry.method = 0; });
+    row("bzip2", [](ZipEntry& entry) { entry.method = 12; });
+    row("unknown method", [](ZipEntry& entry) { entry.method = 99; });
+    row("encrypted", [](ZipEntry& entry) { entry.flags = 1; });
+    row("larger than any disk", [](ZipEntry& entry) { entry.declaredSize = 0xFFFFFFFE; });
+    row("a file where a folder is needed", [](ZipEntry& entry) { entry.name = "first/below"; });
+    row("a folder where the file should be", [](ZipEntry& entry) { entry.name = "folder"; });
+}
+
+void HostileArchivesTest::badEntryAmongGoodOnes()
+{
+    QFETCH(ZipEntry, entry);
+    const QVector<ZipEntry> entries = {
+        {"first", "first"}, {"folder/", "", 0, 040755}, entry, {"last", "last"}};
+    QVERIFY(!unpack(zipOf(entries)));
+    Tree tree = inside();
+    tree.remove(QStringLiteral("a/")); // made on the way to a bad name
+    QCOMPARE(tree, (Tree{{QStringLiteral("first"), "first"},
+                         {QStringLiteral("folder/"), "folder"},
+                         {QStringLiteral("last"), "last"}}));
+}
+
+void HostileArchivesTest::linksLeadNowhere_data()
+{
+    QTest::addColumn<QVector<ZipEntry>>("entries");
+    const auto row = [](const char* title, QVector<ZipEntry> entries) { QTest::newRow(title) << entries; };
+    const quint32 link = 0120777;
+    row("link to a file outside", {{"l", "../victim", 0, link}, {"l", "overwritten"}});
+    row("link to an absolute path", {{"l", "/tmp", 0, link}, {"l/escaped", "x"}});
+    row("entry below a link just made", {{"l", "..", 0, link}, {"l/escaped", "x"}});
+    row("folder below a link just made", {{"l", "..", 0, link}, {"l/escaped/", "", 0, 040755}});
+    row("link through a link", {{"a", "b/../..", 0, link}, {"b", ".", 0, link}, {"a/escaped", "x"}});
+    row("link whose folder is a link",
+        {{"d/e/f", "x"}, {"l", "d/e", 0, link}, {"l/up", "../../..", 0, link}, {"l/up/escaped", "x"}});
+    row("link one folder too high", {{"a/b/l", "../../../victim", 0, link}});
+    row("link that goes down and up", {{"a/l", "b/..", 0, link}}); // "b" may become a link later
+    row("link to itself", {{"l", "l", 0, link}, {"l/escaped", "x"}});
+    row("very long target", {{"l", QByteArray(70000, 'x'), 8, link}});
+    row("empty target", {{"l", "", 0, link}});
+    row("damaged link", {{"l", "victim", 0, link, 0, {}, {}, {}, -1, -1, 1}});
+}
+
+void HostileArchivesTest::linksLeadNowhere()
+{
+    QFETCH(QVector<ZipEntry>, entries);
+    entries += ZipEntry{"last", "last"};
+    QVERIFY(!unpack(zipOf(entries)));
+    QCOMPARE(FileTree::read(path("box/out/last")), QByteArray("last"));
+    QVERIFY(!QFile::exists(QStringLiteral("/tmp/escaped")));
+}
+
+void HostileArchivesTest::linkThatWasThereBefore()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Wine makes no links to folders");
+#endif
+    QVERIFY(QFile::link(path("box"), path("box/out/folder")));
+    QVERIFY(QFile::link(path("victim"), path("box/out/file")));
+    QVERIFY(QFile::link(path("new"), path("box/out/dangling")));
+    QVERIFY(!unpack(zipOf({{"folder/victim", "x"},
+                           {"folder/new/", "", 0, 040755},
+                           {"file", "x"},
+                           {"dangling", "x"},
+                           {"good", "good"}})));
+    QCOMPARE(FileTree::read(path("box/out/good")), QByteArray("good"));
+}
+
+/// A name is too long for any file, comments and extra fields may be as long as the format lets them.
+void HostileArchivesTest::overlongFields()
+{
+    ZipEntry commented{"commented", "content"};
+    commented.comment = QByteArray(65535, 'c');
+    ZipEntry extended{"extended", "content"};
+    extended.extra = QByteArray("\x34\x12\xFB\xFF", 4) + QByteArray(65531, 'e');
+    ZipEntry broken{"broken extra", "content"};
+    broken.extra = QByteArray("\x01\x00\xFF\xFF", 4) + QByteArray(100, 'e');
+    QVERIFY(!unpack(zipOf({commented, extended, broken, {QByteArray(65535, 'n'), "x"}, {"last", "last"}},
+                          QByteArray(65000, 'z'))));
+    QCOMPARE(inside(), (Tree{{QStringLiteral("commented"), "content"},
+                             {QStringLiteral("extended"), "content"},
+                             {QStringLiteral("broken extra"), "content"},
+                             {QStringLiteral("last"), "last"}}));
+}
+
+/// Cut at every byte, so at every kind of record. Only the last fields of the last record may be missing:
+/// their upper bytes are zeros, and so are bytes behind the end for the library.
+void HostileArchivesTest::truncatedAnywhere()
+{
+    const QByteArray zip = zipOf({{"a", QByteArray(300, 'a')}, {"b/c", "stored", 0}}, "comment");
+    const int lastRecord = zip.lastIndexOf("PK\5\6");
+    QVERIFY(unpack(zip));
+    const Tree complete = inside();
+    for (int length = 0; length < zip.size(); ++length) {
+        QVERIFY(QDir(path("box/out")).removeRecursively());
+        const bool result = unpack(zip.left(length));
+        QVERIFY2(!result || length > lastRecord + 16, qPrintable(QString::number(length)));
+        QVERIFY(!result || inside() == complete);
+    }
+}
+
+void HostileArchivesTest::wrongCounts()
+{
+    const QByteArray zip = zipOf({{"a", "a"}, {"b", "b"}});
+    for (const char count : {'\x01', '\x03', '\x00'}) {
+        QByteArray changed = zip;
+        changed[zip.size() - 14] = count; // entries on this disk, entries
+        changed[zip.size() - 12] = count;
+        QVERIFY(!unpack(changed) || count == 1);
+        QCOMPARE(inside().size(), count == 1 ? 1 : 2);
+    }
+}
+
+/// Ten gigabytes of zeros in ten megabytes. What the directory declares is written as far as the disk has
+/// room (here: the process's own limit); what does not fit is taken back. Memory stays that of the buffers.
+void HostileArchivesTest::bomb()
+{
+#ifdef Q_OS_LINUX
+    constexpr rlim_t room = 64 * 1024 * 1024;
+    rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit limit = {room, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rusage usage = {};
+    FileTree::write(path("test.zip"), zipOf({zerosEntry("zeros", Q_INT64_C(10) << 30), {"last", "last"}}));
+    QVERIFY(QFileInfo(path("test.zip")).size() < 12 << 20);
+    getrusage(RUSAGE_SELF, &usage);
+    const long peak = usage.ru_maxrss;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const bool complete = DecompressFiles(path("test.zip").toStdWString(), path("box/out").toStdWString());
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    QVERIFY(!complete);
+    QCOMPARE(inside(), (Tree{{QStringLiteral("last"), "last"}}));
+    getrusage(RUSAGE_SELF, &usage);
+    QVERIFY2(usage.ru_maxrss - peak < 16 * 1024, qPrintable(QString::number(usage.ru_maxrss - peak)));
+#else
+    QSKIP("the size of a file can't be limited here");
+#endif
+}
+
+TOLVAN_CORE_TEST_MAIN(HostileArchivesTest)
+#include "tst_archives_hostile.moc"

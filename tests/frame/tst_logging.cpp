@@ -1,0 +1,84 @@
+#include "InstalledLogger.h"
+#include "TestMain.h"
+
+#include "frame/Logging.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace Log = TOLVAN_NAMESPACE::Logging;
+
+/// The bridge itself: first without a logger, which a process can't go back to, then with one.
+class LoggingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutLoggerNothingIsEvaluated()
+    {
+        QVERIFY(!Log::logger());
+        int evaluated = 0;
+        UTILSDLL_LOG(LogLevel::Error, "f") << ++evaluated;
+        QCOMPARE(evaluated, 0);
+    }
+
+    void assertionTexts()
+    {
+        const auto report = [] {
+            QTest::ignoreMessage(QtDebugMsg, "ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60");
+            Log::reportAssertion("TOLVAN_NAMESPACE::f", "SharedUtils", 60);
+            QTest::ignoreMessage(
+                QtDebugMsg, "ASSERT_X in ExPluginShell\\modules\\utilsDll\\GuiUtils line 90: bad screen");
+            Log::reportAssertionX("f", "GuiUtils", 90, "bad screen");
+        };
+        report(); // to the debug stream alone
+        installedLogger().take();
+        report();
+        const QString path = QStringLiteral("ExPluginShell\\modules\\utilsDll\\");
+        QCOMPARE(installedLogger().take(),
+                 QStringList({QStringLiteral("E TOLVAN_NAMESPACE::f: ASSERT in %1SharedUtils:60").arg(path),
+                              QStringLiteral("E f: ASSERT_X in %1GuiUtils line 90:bad screen").arg(path)}));
+    }
+
+    void lineFormat()
+    {
+        auto& logger = installedLogger();
+        logger.take();
+        const QString longText(5000, QLatin1Char('x'));
+        UTILSDLL_LOG(LogLevel::Information, "A::f")
+            << "n=" << 42 << ", " << -1 << QStringLiteral("ä日") << std::string("%s{}") << QByteArray("!");
+        UTILSDLL_LOG(LogLevel::Debug, "g") << longText;
+        UTILSDLL_LOG(LogLevel::Warning, "h");
+        UTILSDLL_LOG(LogLevel::Error, "k")
+            << static_cast<const char*>(nullptr) << true << std::numeric_limits<long long>::min();
+        QCOMPARE(logger.take(),
+                 QStringList({QStringLiteral("I A::f: n=42, -1ä日%s{}!"), QStringLiteral("D g: ") + longText,
+                              QStringLiteral("W h: "), QStringLiteral("E k: 1-9223372036854775808")}));
+    }
+
+    void loggerIsNeverReplaced()
+    {
+        auto& first = installedLogger();
+        RecordingLogger second;
+        Log::setLogger(&second);
+        Log::setLogger(nullptr);
+        QCOMPARE(TOLVAN_NAMESPACE::initLoggerForUtilsDll(&second, QStringLiteral("x")),
+                 static_cast<ILoggerInterface*>(&first));
+        first.take();
+        UTILSDLL_LOG(LogLevel::Debug, "f") << "still the first";
+        QCOMPARE(first.take().size(), 1);
+        QCOMPARE(second.take().size(), 0);
+    }
+
+    void throwingLoggerIsContained()
+    {
+        struct ThrowingLogger : RecordingLogger {
+            void log(char, const char*) override { throw std::runtime_error("disk full"); }
+        } logger;
+        Log::Line(logger, LogLevel::Error, "f") << "text";
+        QVERIFY(logger.take().isEmpty()); // still running
+    }
+};
+
+TOLVAN_CORE_TEST_MAIN(LoggingTest)
+#include "tst_logging.moc"
