@@ -5,7 +5,7 @@ source tools/setup.sh
 install_packages docs
 
 # Functions outside of classes are in the reference, and missed when undocumented, only where the header itself is.
-headers=$(grep -rlE --include='*.h' '^UTILSDLL_EXPORT ' ExPluginShell/modules/utilsDll)
+headers=$(grep -lE "^UTILSDLL_EXPORT " ExPluginShell/modules/utilsDll/{,controls/,soap/}*.h)
 # shellcheck disable=SC2086 # one word per header
 if undescribed=$(grep -L '[\\]file' $headers) && [ -n "$undescribed" ]; then
     printf 'reference: exports functions, but has no \\file: %s\n' $undescribed >&2
