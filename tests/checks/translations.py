@@ -5,7 +5,7 @@ translation is left without its text.
 usage: translations.py LUPDATE TRANSLATIONS-FOLDER SOURCE-FOLDER
 
 To bring the files up to date after a text has changed, run
-    lupdate -locations none -no-ui-lines SOURCE-FOLDER -ts TRANSLATIONS-FOLDER/*.ts
+    lupdate -locations none -no-ui-lines -I SOURCE-FOLDER SOURCE-FOLDER -ts TRANSLATIONS-FOLDER/*.ts
 and translate what is unfinished.
 """
 
@@ -53,7 +53,7 @@ def main():
     problems = []
     with tempfile.TemporaryDirectory() as folder:
         copies = [shutil.copy(translations / f"tolvan_{language}.ts", folder) for language in LANGUAGES]
-        subprocess.run([lupdate, "-silent", "-locations", "none", "-no-ui-lines", *sources(library), "-ts", *copies],
+        subprocess.run([lupdate, "-silent", "-locations", "none", "-no-ui-lines", "-I", str(library), *sources(library), "-ts", *copies],
                        check=True)
         for copy in map(Path, copies):
             if sum(1 for _ in messages(copy)) == 0:

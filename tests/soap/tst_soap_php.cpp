@@ -69,7 +69,7 @@ void SoapPhpTest::initTestCase()
     }
     m_php.setProcessChannelMode(QProcess::MergedChannels);
     m_php.start(php, {QStringLiteral("-S"), QStringLiteral("127.0.0.1:%1").arg(m_port),
-                      QFINDTESTDATA("peers/soap_service.php")});
+                      QFINDTESTDATA("../peers/soap_service.php")});
     QVERIFY(m_php.waitForStarted());
     const auto answers = [this] {
         QTcpSocket socket;
