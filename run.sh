@@ -17,6 +17,6 @@ fi
 
 source tools/setup.sh
 install_packages build
-build release -DUTILSDLL_BUILD_TESTS=OFF # whose programs ask for more packages
+build showcase
 echo "== Starting the showcase"
-exec ./build/release/bin/trelio-showcase "$@"
+exec ./build/showcase/bin/trelio-showcase "$@"

@@ -9,12 +9,14 @@ Usage: ./test.sh [CTEST OPTION...]
 Installs the Debian packages that are missing, builds the library in release mode and runs the tests, e.g.
   ./test.sh                 all tests
   ./test.sh -R settings     those whose names match
+The environment variable PRESET names another preset of CMakePresets.json than "release".
 TEXT
     exit 0
 fi
 
 source tools/setup.sh
 install_packages build test
-build release -DUTILSDLL_BUILD_TESTS=ON
+preset=${PRESET:-release}
+build "$preset"
 echo "== Running the tests"
-ctest --preset release -LE slow "$@"
+ctest --preset "$preset" "$@"

@@ -3,5 +3,5 @@
 set -euo pipefail
 source tools/setup.sh
 install_packages build test
-build release -DUTILSDLL_BUILD_TESTS=ON
-ctest --preset release -L slow
+build strict-gcc
+ctest --preset slow

@@ -5,11 +5,9 @@ source tools/setup.sh
 
 status=0
 tools/win64/find-sdk.sh --check || status=$?
-if [ "$status" -eq 3 ]; then
-    exit 0 # said so in one line
-fi
+[ "$status" -ne 3 ] || exit 77 # no archive; find-sdk.sh has said so
 [ "$status" -eq 0 ] || exit "$status"
 
 install_packages build test windows
 build win64
-ctest --preset win64 -LE slow -j "$(nproc)"
+ctest --preset win64 -j "$(nproc)"
