@@ -1,20 +1,20 @@
 #!/usr/bin/env bash
-# Builds Qt, QtSvg and QuaZip for 64-bit Windows from Debian's source packages and packs them as one archive.
+# Builds Qt, QtSvg, QuaZip and libdeflate for 64-bit Windows from Debian's source packages and packs them as one archive.
 set -euo pipefail
 
 usage() {
     cat <<'TEXT'
 Usage: build-sdk.sh [--work FOLDER] [--output ARCHIVE] [--jobs N] [--until STEP]
 
-Cross-compiles Qt 5 (base and SVG) and QuaZip for 64-bit Windows and packs them as win64-sdk.tar.xz.
+Cross-compiles Qt 5 (base and SVG), QuaZip and libdeflate for 64-bit Windows and packs them as win64-sdk.tar.xz.
 Takes about 40 minutes and 6 GB of disk on two cores. A stopped build goes on where it stopped.
 
   --work FOLDER     sources and build files (default: ~/.cache/utilsdll-win64/build)
   --output ARCHIVE  the archive to write (default: ~/.cache/utilsdll-win64/win64-sdk.tar.xz)
   --jobs N          parallel compilations (default: number of processors)
-  --until STEP      stop after one of: sources, configure, qtbase, qtsvg, quazip, pack
+  --until STEP      stop after one of: sources, configure, qtbase, qtsvg, quazip, libdeflate, pack
 
-Environment: DEBIAN_MIRROR (default http://deb.debian.org/debian), DEBIAN_SUITE (default bookworm).
+The source packages come from the mirrors and suites of the machine's own package configuration.
 Packages needed: see the group "sdk" of tools/install-deps.sh.
 TEXT
 }
@@ -54,8 +54,6 @@ while [ $# -gt 0 ]; do
 done
 
 host=x86_64-w64-mingw32
-mirror="${DEBIAN_MIRROR:-http://deb.debian.org/debian}"
-suite="${DEBIAN_SUITE:-bookworm}"
 mkdir -p "$work" "$(dirname "$output")"
 work="$(cd "$work" && pwd)"
 output="$(cd "$(dirname "$output")" && pwd)/$(basename "$output")"
@@ -76,11 +74,20 @@ wine_headers() {
     echo /usr/include/wine/wine/windows
 }
 
-# A package list of its own: the system's stays untouched and no rights are needed.
+# The source entries that belong to the machine's binary entries: few machines are configured for source packages.
+list_sources() {
+    # shellcheck disable=SC2016 # apt-get replaces the names
+    apt-get indextargets --format \
+        'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' | sort -u
+}
+
+# Has a package list of its own: the system's list stays untouched, and no rights are needed.
 private_apt() {
     local state="$work/apt"
     mkdir -p "$state/lists/partial" "$state/cache/archives/partial"
-    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $suite main" >"$state/sources.list"
+    list_sources >"$state/sources.list"
+    [ -s "$state/sources.list" ] || die "the package configuration names no source; run apt-get update first"
     apt-get -qq -o "Dir::Etc::SourceList=$state/sources.list" -o Dir::Etc::SourceParts=/dev/null \
         -o "Dir::State::Lists=$state/lists" -o "Dir::Cache=$state/cache" \
         -o APT::Sandbox::User=root -o Acquire::Retries=3 "$@"
@@ -90,13 +97,14 @@ fetch_sources() {
     local package
     mkdir -p "$work/sources"
     cd "$work/sources"
-    private_apt update || die "the package lists of $mirror cannot be read"
-    for package in qtbase-opensource-src qtsvg-opensource-src libquazip1-qt5; do
+    private_apt update || die "the lists of source packages cannot be read"
+    for package in qtbase-opensource-src qtsvg-opensource-src libquazip1-qt5 libdeflate; do
         private_apt --download-only source "$package" || die "the source package $package cannot be fetched"
     done
     unpack qtbase-opensource-src qtbase
     unpack qtsvg-opensource-src qtsvg
     unpack libquazip1-qt5 quazip
+    unpack libdeflate libdeflate
     use_lower_case_import_libraries
     name_quazip_for_the_product
 }
@@ -108,7 +116,7 @@ unpack() {
     dpkg-source --no-check --no-copy -x "${description[0]}" "$work/$2" >/dev/null
 }
 
-# The cross compiler's import libraries are named in lower case and Linux tells the cases apart.
+# The cross compiler's import libraries are named in lower case and Linux distinguishes upper from lower case.
 use_lower_case_import_libraries() {
     local project="$work/qtbase/src/network/ssl/ssl.pri"
     sed -i -e 's/-lSecur32/-lsecur32/g' -e 's/-lCrypt32/-lcrypt32/g' "$project"
@@ -195,6 +203,13 @@ CMAKE
     logged "$work/quazip.log" cmake --install "$work/build-quazip"
 }
 
+build_libdeflate() {
+    cd "$work/libdeflate"
+    logged "$work/libdeflate.log" make -j "$jobs" CC="$host-gcc" AR="$host-ar" libdeflatestatic.lib
+    cp libdeflatestatic.lib "$sdk/lib/libdeflate.a"
+    cp libdeflate.h "$sdk/include/"
+}
+
 # What another machine needs beside the libraries: compiler run time, zlib, licences; nothing that knows this machine.
 complete() {
     local library
@@ -205,6 +220,7 @@ complete() {
     mkdir -p "$sdk/LICENSES"
     cp "$work/qtbase/LICENSE.LGPL3" "$sdk/LICENSES/Qt-LGPL3.txt"
     cp "$work/quazip/COPYING" "$sdk/LICENSES/QuaZip-COPYING.txt"
+    cp "$work/libdeflate/COPYING" "$sdk/LICENSES/libdeflate-COPYING.txt"
     find "$sdk/bin" "$sdk/plugins" -name '*.dll' -exec "$host-strip" --strip-unneeded {} +
     find "$sdk/bin" -type f ! -name '*.dll' ! -name moc ! -name rcc ! -name uic ! -name qmake -delete
     strip "$sdk/bin/moc" "$sdk/bin/rcc" "$sdk/bin/uic" "$sdk/bin/qmake"
@@ -222,7 +238,8 @@ pack() {
         bin/Qt5PrintSupport.dll bin/quazipTrelioFrame.dll bin/zlib1.dll bin/moc bin/rcc bin/uic bin/qmake \
         plugins/platforms/qwindows.dll plugins/platforms/qoffscreen.dll plugins/platforms/qminimal.dll \
         plugins/imageformats/qsvg.dll plugins/iconengines/qsvgicon.dll plugins/styles/qwindowsvistastyle.dll \
-        lib/cmake/Qt5Core/Qt5CoreConfig.cmake lib/libquazipTrelioFrame.dll.a; do
+        lib/cmake/Qt5Core/Qt5CoreConfig.cmake lib/libquazipTrelioFrame.dll.a \
+        lib/libdeflate.a include/libdeflate.h; do
         [ -f "$sdk/$file" ] || die "the build left no $file"
     done
     tar -C "$work" --sort=name --owner=0 --group=0 --numeric-owner -cJf "$output.part" win64-sdk
@@ -247,7 +264,7 @@ step() {
 }
 
 case "$last_step" in
-sources | configure | qtbase | qtsvg | quazip | pack) ;;
+sources | configure | qtbase | qtsvg | quazip | libdeflate | pack) ;;
 *) die "unknown step '$last_step' (see --help)" ;;
 esac
 check_tools
@@ -256,4 +273,5 @@ step configure "configuring Qt" configure_qtbase
 step qtbase "building Qt (the long part)" build_qtbase
 step qtsvg "building QtSvg" build_qtsvg
 step quazip "building QuaZip" build_quazip
+step libdeflate "building libdeflate" build_libdeflate
 step pack "packing" pack

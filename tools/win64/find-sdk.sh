@@ -11,7 +11,7 @@ Prints the absolute path of the folder with the Windows build of Qt, QuaZip and 
   2. ../shared/win64-sdk.tar.xz beside the source tree,
   3. ~/.cache/utilsdll-win64/win64-sdk.tar.xz, where tools/win64/build-sdk.sh leaves it.
 An archive is unpacked into the cache once; it is unpacked again only when the archive changes.
-With --check nothing is unpacked or printed; only the exit code tells.
+With --check nothing is unpacked or printed; the exit code is the answer.
 Exit codes: 0 found, 1 the archive or folder is no good, 3 nowhere to be found.
 TEXT
     exit 0
