@@ -19,7 +19,7 @@ if(UTILSDLL_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=${UTILSDLL_SANITIZE})
 endif()
 
-# tolvan_precompile(TARGET [HEADERS <header>...] [FROM other]): precompiles the toolkit's headers for TARGET, or takes those
+# tolvan_precompile(TARGET [HEADERS <header>...] [FROM other]): precompiles Qt's headers for TARGET, or takes those
 # of another target with the same compiler settings. Sources still include what they use: the strict presets build
 # without this.
 function(tolvan_precompile target)
