@@ -1,5 +1,5 @@
-// The look: putting the style sheet together beside setting the same text, and what the style costs over the
-// stock style.
+// The look: assembling the style sheet compared with setting the same text, and the product's style compared
+// with the stock style.
 
 #include <ApplicationStyle.h>
 #include <customtolvanappstyle.h>
@@ -85,7 +85,7 @@ void applySameText(benchmark::State& state)
 }
 BENCHMARK(applySameText)->Unit(benchmark::kMillisecond);
 
-/// The price of the sheet itself, beside one that has the font rule alone.
+/// Cost of the font rule alone.
 void applyFontRuleAlone(benchmark::State& state)
 {
     const Window window;

@@ -118,7 +118,7 @@ void drawTiledPixmap(benchmark::State& state)
 }
 BENCHMARK(drawTiledPixmap)->ArgName("degrees")->Arg(0)->Arg(3)->Arg(40)->Unit(benchmark::kMicrosecond);
 
-/// What the mouse asks for: 20 lines across a 4K window.
+/// Twenty lines across a 4K window, as a drag with the mouse repaints them.
 void drawTwentyLines(benchmark::State& state)
 {
     QImage image(3840, 2160, QImage::Format_ARGB32_Premultiplied);
@@ -137,7 +137,7 @@ BENCHMARK(drawTwentyLines)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 const QString question = QStringLiteral("The picture was changed. Do you want to save the changes?");
 
-/// Answers as soon as the box is on the screen.
+/// Closes the box as soon as it has been painted.
 void closeWhenShown()
 {
     QTimer::singleShot(0, [] {

@@ -180,7 +180,7 @@ void ControlsTest::iconFillsTheWidget()
     QCOMPARE(render(viewer), expected);
 }
 
-/// One pixel of the icon is one of the device, whether or not icons look at the ratio themselves.
+/// One pixel of the icon is one of the device, with and without AA_UseHighDpiPixmaps.
 void ControlsTest::iconIsSharp()
 {
     CIconViewer viewer;

@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// The About dialogs: what they tell, the names that the style sheets address, and how they close.
+/// The About dialogs: their texts, the names that the style sheets address, and how they close.
 class AboutDialogsTest : public QObject
 {
     Q_OBJECT

@@ -35,14 +35,14 @@ public:
     using CBaseDialog::setHeaderHeight;
 };
 
-/// Where a dialog of the content's size stands in the middle of \a screen.
+/// Returns the position of a dialog of the content's size in the middle of \a screen.
 QPoint middleOf(const QScreen& screen)
 {
     const QSize free = screen.size() - contentSize;
     return screen.geometry().topLeft() + QPoint(free.width() / 2, free.height() / 2);
 }
 
-/// Where the user sees the dialog.
+/// Returns the position at which the user sees the dialog.
 QPoint seenAt(const QWidget& dialog)
 {
     return ScreenProbe::canSee()
@@ -56,8 +56,7 @@ void showAndWait(QWidget& window)
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 }
 
-/// Shows \a dialog at \a place. An explicit move makes the toolkit sure of the place, which it may not be
-/// after a window manager took a window over.
+/// Shows \a dialog at \a place. Under a window manager Qt knows the position only after an explicit move.
 void showAt(QWidget& dialog, const QPoint& place)
 {
     showAndWait(dialog);

@@ -16,7 +16,7 @@ namespace
 const char* const unit = "ASSERT in ExPluginShell\\modules\\utilsDll\\customtolvanappstyle:";
 const char* const prefix = "TOLVAN_NAMESPACE::CustomTolvanAppStyle::";
 
-/// Tells how many connections a button has.
+/// Counts the connections of a button.
 struct Button : QPushButton {
     explicit Button(const char* name) { setObjectName(QString::fromLatin1(name)); }
     int connections() const
@@ -154,7 +154,7 @@ void ButtonShiftTest::wrongCalls()
     Button nameless("");
     m_style->disableButtonShift(&nameless, true);
     expectAssertion("disableButtonShift", 75);
-    nameless.setObjectName(QStringLiteral("named at last")); // it was registered all the same
+    nameless.setObjectName(QStringLiteral("named at last")); // it was registered nevertheless
     QVERIFY(!isShifted(nameless));
 
     Button owner("shared");

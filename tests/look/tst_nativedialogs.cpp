@@ -94,7 +94,7 @@ private:
     static QModelIndex rowOf(const QFileDialog& dialog, const QString& name, QAbstractItemView*& view);
 };
 
-/// The answers for scripted runs are set for all that follows: every dialog is shown all the same.
+/// Sets the answers for scripted runs: every dialog has to be shown nevertheless.
 void NativeDialogsTest::initTestCase()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -37,7 +37,7 @@ QString contentOf(const QString& sheet)
 
 QStringList messages;
 
-/// Keeps what is said but for what platforms say about themselves.
+/// Keeps every message except two remarks of the platform plug-ins.
 void keepMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
     for (const char* const own :
@@ -107,7 +107,7 @@ void StyleSheetsTest::parsesAndAppliesWithoutWarning()
     } else {
         qApp->setStyleSheet(sheet);
     }
-    // An unknown property is told only when a widget takes it on.
+    // Qt reports an unknown property only when a widget is polished.
     for (const WidgetClass& entry : widgetClasses) {
         const std::unique_ptr<QWidget> widget(entry.make());
         widget->ensurePolished();
@@ -133,7 +133,7 @@ void StyleSheetsTest::everyImageIsThere()
     }
 }
 
-/// Its own or that of a class between it and QWidget.
+/// A rule of its own, or of a class between it and QWidget.
 void StyleSheetsTest::everyClassHasARule()
 {
     for (const WidgetClass& entry : widgetClasses) {
@@ -218,12 +218,12 @@ void StyleSheetsTest::fontFamilies()
     QCOMPARE(families(slider).constFirst(), QStringLiteral("Lucida Sans Unicode"));
     QDialog other;
     CAboutDlg about;
-    QLabel elsewhere(&other);
-    elsewhere.setObjectName(QStringLiteral("label_1"));
+    QLabel ofOther(&other);
+    ofOther.setObjectName(QStringLiteral("label_1"));
     auto* const label = about.findChild<QLabel*>(QStringLiteral("label_1"));
     QVERIFY(label);
     QCOMPARE(families(*label).constFirst(), QStringLiteral("OpenSansLight"));
-    QCOMPARE(families(elsewhere).constFirst(), QStringLiteral("Lucida Sans Unicode"));
+    QCOMPARE(families(ofOther).constFirst(), QStringLiteral("Lucida Sans Unicode"));
     QVERIFY(families(*label).size() > 5);
 }
 

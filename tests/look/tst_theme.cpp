@@ -40,7 +40,7 @@ QColor mostFrequent(const QImage& image)
     return QColor(most.key());
 }
 
-/// A button that is drawn in a state of the caller's choice, whatever the mouse and the keyboard do.
+/// A button that is always drawn in a given state.
 template <class Button, class Option>
 struct Stated : Button {
     explicit Stated(QStyle::State wanted)

@@ -6,12 +6,12 @@
 
 #include <functional>
 
-/// The message boxes as their callers know them.
+/// The seven functions of the message box with what they show and return.
 namespace BoxKinds
 {
 
 constexpr int usualHeight = 170;
-constexpr int nothing = -1; // what a box returns that returns nothing
+constexpr int nothing = -1; // stands for a function without a result
 
 struct Button {
     const char* name;
@@ -31,7 +31,7 @@ struct Kind {
 };
 
 template <class Function>
-auto telling(Function function)
+auto notifying(Function function)
 {
     return [function](QWidget* parent, const QString& text) {
         function(parent, text, usualHeight);
@@ -66,9 +66,9 @@ inline const QVector<Kind>& kinds()
     const QVector<Button> quit{{"dontQuitButton", "Don't quit", 0x400000},
                                {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
     static const QVector<Kind> all{
-        {"information", telling(&CMessageBox::information), info, ok, 0, nothing},
-        {"warning", telling(&CMessageBox::warning), alert, close, 0, nothing},
-        {"critical", telling(&CMessageBox::critical), alert, close, 0, nothing},
+        {"information", notifying(&CMessageBox::information), info, ok, 0, nothing},
+        {"warning", notifying(&CMessageBox::warning), alert, close, 0, nothing},
+        {"critical", notifying(&CMessageBox::critical), alert, close, 0, nothing},
         {"yes or no", asking(&CMessageBox::yesNoMessage), question, yesNo, 0, 0x10000},
         {"save, discard, cancel", asking(&CMessageBox::saveDiscardCancelMessage), question, save, 1,
          0x400000},

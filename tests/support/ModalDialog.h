@@ -5,8 +5,9 @@
 #include <QTimer>
 #include <QWidget>
 
-/// Calls \a open, which shows a modal dialog and waits for its end, and lets \a act deal with the dialog;
-/// what \a act leaves open is closed, so that no test hangs. \return whether there was such a dialog
+/// Calls \a open, which shows a modal dialog and waits for its end, and calls \a act with the dialog. A dialog
+/// that \a act leaves open is closed.
+/// \return whether a dialog of this class was shown
 template <class Dialog, class Open, class Act>
 bool whileOpen(Open open, Act act)
 {

@@ -7,14 +7,14 @@
 #include <X11/keysym.h>
 #include <X11/Xlib.h>
 
-/// Mouse and keyboard of an X server, as a user's hands move them. Each call returns when the server has it.
-/// To be included last: the headers of the X server bring macros with common names along.
+/// Mouse and keyboard of an X server. Each call returns when the server has processed it. Include it last: the
+/// headers of the X server define macros with common names.
 class RealInput
 {
 public:
     ~RealInput() { XCloseDisplay(m_display); }
 
-    /// Whether the server lets programs play the user.
+    /// Returns whether the server accepts simulated input.
     bool isThere() const
     {
         int unused = 0;

@@ -6,18 +6,18 @@ class QColor;
 class QScreen;
 class QWidget;
 
-/// What the user sees. A window tells where its toolkit believes it is; the screen tells where it is.
+/// Looks at the pixels of the screen: a QWidget reports where Qt believes its window to be.
 namespace ScreenProbe
 {
 
-/// The smallest rectangle around all pixels of \a color on \a screen, in screen coordinates; null when there
-/// is none. A screenless platform shows nothing: there it is null for everything.
+/// Returns the smallest rectangle around all pixels of \a color on \a screen, in screen coordinates; null if
+/// there is none, and always on the platform "offscreen".
 QRect areaOf(const QColor& color, QScreen& screen);
 
-/// Whether the platform shows windows, so that areaOf() can see them.
+/// Returns whether the platform shows windows, so that areaOf() can find them.
 bool canSee();
 
-/// Gives \a widget a ground in \a color that the probe finds.
+/// Fills the background of \a widget with \a color.
 void paint(QWidget& widget, const QColor& color);
 
 } // namespace ScreenProbe

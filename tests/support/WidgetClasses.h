@@ -2,7 +2,7 @@
 
 #include <QtWidgets>
 
-/// One class of the toolkit, and how to make an empty widget of it.
+/// One class of Qt, and how to make an empty widget of it.
 struct WidgetClass {
     const char* name;
     QWidget* (*make)();
@@ -14,7 +14,7 @@ WidgetClass widgetClass()
     return {Widget::staticMetaObject.className(), [] { return static_cast<QWidget*>(new Widget); }};
 }
 
-/// Every class of the toolkit that shows something of its own.
+/// Every widget class of Qt that shows something of its own.
 inline const WidgetClass widgetClasses[] = {
     widgetClass<QCalendarWidget>(), widgetClass<QCheckBox>(),        widgetClass<QColorDialog>(),
     widgetClass<QColumnView>(),     widgetClass<QComboBox>(),        widgetClass<QCommandLinkButton>(),
@@ -38,8 +38,8 @@ inline const WidgetClass widgetClasses[] = {
     widgetClass<QUndoView>(),       widgetClass<QWizard>(),
 };
 
-/// Makes sure that the application's font is one that the system has. Wine's default is the name of a family without
-/// a single font in it, and the toolkit's font dialog crashes over that.
+/// Makes sure that the application's font exists. The default under Wine is a family without fonts, with which Qt's
+/// font dialog crashes.
 inline void chooseExistingFont()
 {
     const QFontDatabase fonts;

@@ -8,8 +8,9 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// Base of the product's own dialogs: without a frame and translucent, so that the style sheet draws
-/// everything, movable by its body, and centred on the screen of its parent when it is shown first.
+/// Base of the product's own dialogs. The dialog has no window frame and is translucent, so that the style
+/// sheet draws everything. The user moves it by its body. The first show centres it on the screen of its
+/// parent.
 ///
 /// \code
 /// class ExportDialog : public TOLVAN_NAMESPACE::CBaseDialog
@@ -19,52 +20,53 @@ namespace TOLVAN_NAMESPACE
 /// };
 /// \endcode
 ///
-/// Main thread only, like every widget. A derived class that overrides a handler below calls the one here.
+/// A derived class that overrides an event handler below calls the one of this class. Main thread only.
 ///
-/// The methods that can be invoked by name are for an automation service outside this library, which calls
-/// them through the meta-object system.
+/// An automation service outside this library calls the invokable methods through the meta-object system.
 class UTILSDLL_EXPORT CBaseDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The dialog never has minimise, maximise and help buttons, even if \a flags ask for them.
+    /// \param parent owns the dialog and determines the screen on which it appears; may be null
+    /// \param flags  window flags; buttons for minimise, maximise and help are removed from them
     explicit CBaseDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~CBaseDialog() override;
 
-    /// Does nothing: a hook for the automation service.
+    /// Does nothing. A hook for the automation service.
     Q_INVOKABLE void sendNotification();
 
 private:
     Q_INVOKABLE void moveToScreenCenter();
 
 public:
-    /// The object name, for the automation service.
+    /// Returns the object name, for the automation service.
     Q_INVOKABLE QString getObjectName();
 
 protected:
-    /// Starts a drag with the left button, within the header or, where there is none, anywhere.
+    /// Starts a drag on a press of the left button within the header, see setHeaderHeight().
     void mousePressEvent(QMouseEvent* event) override;
-    /// Ends a drag, whichever button is released.
+    /// Ends a drag when any button is released.
     void mouseReleaseEvent(QMouseEvent* event) override;
-    /// Moves the dialog with the mouse during a drag.
+    /// Moves the dialog during a drag.
     void mouseMoveEvent(QMouseEvent* event) override;
-    /// Fits the size to the content and centres the dialog, the first time only. Later show events reach no
-    /// base class, so a dialog that is hidden and shown again stays where the user left it.
+    /// On the first show event, adjusts the size to the content and centres the dialog. Later show events are
+    /// not passed on to QDialog, so a dialog that is hidden and shown again keeps its position.
     void showEvent(QShowEvent* event) override;
 
-    /// Whether the automation service may use this dialog: true unless a derived class says no.
+    /// Returns whether the automation service may use this dialog: true unless a derived class returns false.
     virtual bool canUseInAATSignalService() const;
 
-    /// Restricts dragging to the top \a height pixels, the line y = \a height included; 0 stands for the
-    /// whole dialog.
+    /// Sets the height of the header, the part at the top in which a press starts a drag.
+    /// \param height in pixels; the line y = \a height belongs to the header. 0, the initial value, makes the
+    ///               whole dialog the header
     void setHeaderHeight(int height);
 
 private:
     void fitAndCenter();
 
     bool m_firstShow = true;
-    QPoint m_dragOffset; // of the cursor from the position of the dialog
+    QPoint m_dragOffset; // from the dialog's position to the cursor
     bool m_dragging = false;
     int m_headerHeight = 0;
 };

@@ -10,8 +10,8 @@ class QHBoxLayout;
 class QIcon;
 class QPushButton;
 
-/// The product's own modal message box: 520 pixels wide, an icon at the left, a word-wrapped text and a row
-/// of buttons. Its look comes from ":/qss/message_box.qss", which addresses the widgets by their names.
+/// The product's own modal message box: 520 pixels wide, with an icon at the left, a word-wrapped text and a
+/// row of buttons. The style sheet ":/qss/message_box.qss" addresses the widgets by their names.
 ///
 /// \code
 /// const auto answer = CMessageBox::saveDiscardCancelMessage(window, tr("Save the changes?"), 200);
@@ -21,24 +21,23 @@ class QPushButton;
 /// \endcode
 ///
 /// \par Blocking
-/// Every static function shows a box, runs an event loop of its own until the user answers, and returns the
-/// answer. Everything else of the program goes on meanwhile, other windows take no input, and what owns the
-/// caller may be gone when the call returns.
+/// Every static function shows a box, runs its own event loop until the user answers, and returns the answer.
+/// Timers, sockets and other events are processed meanwhile; other windows take no input. Any object may have
+/// been deleted when the call returns, the caller's owner included.
 ///
 /// \par Parent
-/// The box stands in the middle of the screen of \a parent, which may be null. When the parent dies while the
-/// box is open, the box goes with it, and the answer is the one that stands for "no choice".
+/// The box appears in the middle of the screen of \a parent, which may be null. If the parent is destroyed
+/// while the box is open, the box is destroyed too, and the function returns the answer for "no choice".
 ///
 /// \par Keys and closing
-/// Enter takes the default button. Escape and the window's close button give the answer that stands for
-/// "no choice".
+/// Enter clicks the default button. Escape and the window's close button give the answer for "no choice".
 ///
 /// \par Text
-/// Shown as QLabel does by itself: what looks like rich text is shown as such. \a height is that of the box in
-/// pixels, and one too small for the text cuts it off.
+/// Text that Qt::mightBeRichText() recognises is shown as rich text. \a height is the height of the box in
+/// pixels.
 ///
 /// \par Failures
-/// None are reported. A missing icon leaves its place empty.
+/// None are reported. If the icon is missing, its place stays empty.
 ///
 /// \par Threads
 /// Main thread only.
@@ -49,25 +48,25 @@ class UTILSDLL_EXPORT CMessageBox : public TOLVAN_NAMESPACE::CBaseDialog
 public:
     ~CMessageBox() override;
 
-    /// Tells something: the button "OK".
+    /// Shows a message with the button "OK".
     static void information(QWidget* parent, const QString& text, int height);
-    /// Warns: the button "Close".
+    /// Shows a warning with the button "Close".
     static void warning(QWidget* parent, const QString& text, int height);
-    /// Tells of an error: the button "Close".
+    /// Reports an error, with the button "Close".
     static void critical(QWidget* parent, const QString& text, int height);
     /// Asks a question: "Yes" (default) and "No".
-    /// \return QMessageBox::Yes, or QMessageBox::No also without a choice
+    /// \return QMessageBox::Yes or QMessageBox::No; No without a choice
     static QMessageBox::StandardButton yesNoMessage(QWidget* parent, const QString& text, int height);
     /// Asks what to do with changes: "Don't save", "Save" (default) and "Cancel".
-    /// \return QMessageBox::Save, Discard, or Cancel also without a choice
+    /// \return QMessageBox::Save, Discard or Cancel; Cancel without a choice
     static QMessageBox::StandardButton saveDiscardCancelMessage(QWidget* parent, const QString& text,
                                                                 int height);
     /// Asks whether to rotate: "Rotate" (default) and "Cancel".
-    /// \return true only when "Rotate" was chosen
+    /// \return whether "Rotate" was chosen
     static bool rotateQuestion(QWidget* parent, const QString& text, int height);
-    /// Asks whether to quit while work is under way: "Don't quit" and "Quit without saving" (default). The
-    /// box is always 165 pixels high.
-    /// \return QMessageBox::Discard to quit, or QMessageBox::Cancel also without a choice
+    /// Asks whether to quit while work is running: "Don't quit" and "Quit without saving" (default). The box is
+    /// always 165 pixels high.
+    /// \return QMessageBox::Discard to quit, otherwise QMessageBox::Cancel; Cancel without a choice
     static QMessageBox::StandardButton backgroundProcessingCancelMessage(QWidget* parent,
                                                                          const QString& text);
 
@@ -75,8 +74,8 @@ private Q_SLOTS:
     void onButtonClicked();
 
 public:
-    // Scripts record answers through the meta-object. The boxes above are shown all the same and never read
-    // what was recorded.
+    // Scripts record answers through the meta-object. The functions above do not read the recorded answers:
+    // they always show a box.
 
     /// Records an answer to rotateQuestion().
     Q_INVOKABLE void setRotateQuestion(bool predefinedValue);
@@ -84,8 +83,9 @@ public:
     Q_INVOKABLE void setYesNoMessage(bool predefinedButtonPressed);
     /// Does nothing.
     Q_INVOKABLE void setYesNoMessageWithCheckBox(bool predefinedButtonPressed, bool predefinedCheckBox);
-    /// Records an answer to saveDiscardCancelMessage(): the value of QMessageBox::Save, Discard or Cancel.
-    /// Any other is reported in the log and not recorded.
+    /// Records an answer to saveDiscardCancelMessage().
+    /// \param predefinedButton the value of QMessageBox::Save, Discard or Cancel; for any other value an
+    ///                         assertion failure is logged and nothing is recorded
     Q_INVOKABLE void setSaveDiscardCancelMessage(int predefinedButton);
 
 private:

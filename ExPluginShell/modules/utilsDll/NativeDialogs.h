@@ -14,8 +14,8 @@ namespace TOLVAN_NAMESPACE
 
 /// The one place through which the product asks the user for files and folders.
 ///
-/// Four operations are the toolkit's standard file dialogs; getFileBrowserDirectory() is the product's own
-/// folder picker, which shows images while the user looks for their folder.
+/// Four functions show Qt's standard file dialogs. getFileBrowserDirectory() is the product's own folder
+/// picker, which shows the images of each folder while the user browses.
 ///
 /// \code
 /// auto& dialogs = Singleton<TOLVAN_NAMESPACE::CNativeDialogs>::instance();
@@ -24,65 +24,65 @@ namespace TOLVAN_NAMESPACE
 /// \endcode
 ///
 /// \par Blocking
-/// Each dialog is modal and turns an event loop of its own until it is closed. Everything that events can
-/// reach may have changed when the call returns, the parent included.
+/// Each dialog is modal and runs its own event loop until it is closed. Any object may have been deleted when
+/// the call returns, the parent included.
 /// \par Threads
-/// GUI thread only; needs a QApplication.
+/// Main thread only; needs a QApplication.
 /// \par One object
-/// All modules of the process share the one instance, which lives in this library.
+/// All modules of the process share one instance, which this library holds.
 class UTILSDLL_EXPORT CNativeDialogs : public QObject
 {
     Q_OBJECT
 
 public:
     /// Asks for one existing file.
-    /// \param parent         the window that is blocked meanwhile; may be null
+    /// \param parent         the window that takes no input meanwhile; may be null
     /// \param caption        title of the window
-    /// \param dir            folder to begin with, or a file in it that is preselected
-    /// \param filter         name filters as the toolkit writes them, separated by ";;"
+    /// \param dir            the folder shown first, or a file in it that is preselected
+    /// \param filter         name filters as QFileDialog takes them, separated by ";;"
     /// \param selectedFilter receives the filter that was in use; may be null
     /// \param options        ignored: the dialog gets no options
-    /// \return the file with forward slashes, empty when the dialog was cancelled
+    /// \return the file with forward slashes; empty if the dialog was cancelled
     QString getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
                             const QString& filter, QString* selectedFilter, QFileDialog::Options options);
     /// Asks for existing files, like getOpenFileName().
-    /// \return the files, none when it was cancelled
+    /// \return the files with forward slashes; empty if the dialog was cancelled
     QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QString& dir,
                                  const QString& filter, QString* selectedFilter,
                                  QFileDialog::Options options);
-    /// Asks for a file to write, like getOpenFileName(); the user confirms an existing one.
+    /// Asks for a file to write, like getOpenFileName(). The dialog asks before it returns an existing file.
     QString getSaveFileName(QWidget* parent, const QString& caption, const QString& dir,
                             const QString& filter, QString* selectedFilter, QFileDialog::Options options);
-    /// Asks for an existing folder in a dialog that lists folders only, whatever \a options says.
-    /// \return the folder with forward slashes, empty when the dialog was cancelled
+    /// Asks for an existing folder in a dialog that lists only folders. \a options is ignored.
+    /// \return the folder with forward slashes; empty if the dialog was cancelled
     QString getExistingDirectory(QWidget* parent, const QString& caption, const QString& dir,
                                  QFileDialog::Options options);
 
     /// Asks for a folder and shows the images in it.
     ///
-    /// The picker lists folders and the files of the type "Image Files". Choosing a file, by a double click
-    /// or Enter, never closes it; "Select Folder" returns the folder that is open at that moment, not one
-    /// that is only marked.
+    /// The picker lists folders and the files of the type "Image Files". A double click or Enter on a file
+    /// never closes it. "Select Folder" returns the folder that is open at that moment, not one that is only
+    /// selected.
     ///
     /// \par Systems
-    /// The system's file-open dialog on Windows; elsewhere the toolkit's own dialog with the same behaviour.
-    /// On Windows "Select Folder" answers to the mouse and the space bar, elsewhere to the keyboard as any
-    /// button does. The first call on Windows initialises COM on the calling thread, for good.
+    /// On Windows this is the system's file-open dialog, on Unix a QFileDialog with the same behaviour. On
+    /// Windows "Select Folder" reacts to the mouse and the space bar, on Unix to every key of a button. The
+    /// first call on Windows initialises COM on the calling thread until the process ends.
     /// \par One at a time
-    /// While a picker is open, a second call returns at once, with nothing.
+    /// While a picker is open, a second call returns an empty text at once.
     ///
-    /// \param parent  the window that is blocked meanwhile; may be null
+    /// \param parent  the window that takes no input meanwhile; may be null
     /// \param caption title of the window; empty for the system's own
-    /// \param dir     folder to begin with; empty for the system's choice
+    /// \param dir     the folder shown first; empty for the system's choice
     /// \param filter  file patterns separated by blanks, for example "*.jpg *.tif"
     /// \param options ignored
-    /// \return the folder with the system's own separators; empty when the picker was cancelled or closed, or
-    ///         when it can't be shown (a \a dir that is not there, a failing step of the system)
+    /// \return the folder with the system's own separators; empty if the picker was cancelled or closed, or
+    ///         could not be shown (\a dir does not exist, or a call of the system failed)
     QString getFileBrowserDirectory(QWidget* parent, const QString& caption, const QString& dir,
                                     const QString& filter, QFileDialog::Options options);
 
     /// \name Predefined answers
-    /// Kept for scripted runs. No operation of this class reads them: the dialogs are shown all the same.
+    /// Kept for scripted runs. No function of this class reads them: the dialogs are always shown.
     /// @{
     void setOpenFileName(const QString& name);           ///< Stores an answer.
     void setSaveFileName(const QString& name);           ///< Stores an answer.
@@ -103,5 +103,5 @@ private:
 
 } // namespace TOLVAN_NAMESPACE
 
-/// The instance is made in this library, once for all modules.
+/// Instantiated once, in this library, for all modules.
 extern template class UTILSDLL_EXPORT Singleton<TOLVAN_NAMESPACE::CNativeDialogs>;

@@ -9,11 +9,10 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-/// The icon in \a size device pixels, or smaller where it has no larger bitmap; one of its pixels is one of
-/// the device.
+/// Returns the icon in \a size device pixels, or smaller if it has no larger bitmap.
 QPixmap devicePixmap(const QIcon& icon, const QSize& size, QIcon::Mode mode)
 {
-    // With this attribute an icon enlarges what it is asked for by the ratio of the application.
+    // With this attribute QIcon multiplies the requested size by the application's ratio.
     const bool enlarges = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
     const qreal enlargement = enlarges ? qGuiApp->devicePixelRatio() : 1.0;
     QPixmap pixmap = icon.pixmap((QSizeF(size) / enlargement).toSize(), mode);

@@ -11,9 +11,9 @@ namespace TOLVAN_NAMESPACE
 
 /// Shows an icon as large as the widget allows, centred and in proportion, sharp at any device pixel ratio.
 ///
-/// Drawings fill the widget; of an icon made of bitmaps the nearest one is taken and never enlarged. A
-/// disabled widget shows the icon's disabled mode. Nothing else is painted: a background of the style sheet
-/// shows when Qt::WA_StyledBackground is set, as with any widget.
+/// Drawings fill the widget. Of an icon made of bitmaps the nearest one is shown, and never enlarged. A
+/// disabled widget shows the icon's disabled mode. Nothing else is painted; a background from the style sheet
+/// needs Qt::WA_StyledBackground, as for any QWidget.
 ///
 /// \code
 /// auto* viewer = new TOLVAN_NAMESPACE::CIconViewer(dialog);
@@ -27,22 +27,22 @@ class UTILSDLL_EXPORT CIconViewer : public QWidget
     Q_OBJECT
 
 public:
-    /// An empty viewer with the size hint 0 × 0.
+    /// Makes a viewer without an icon and with the size hint 0 × 0.
     explicit CIconViewer(QWidget* parent = nullptr);
     ~CIconViewer() override;
 
     /// Shows \a icon; a null icon shows nothing.
     void setIcon(const QIcon& icon);
-    /// The icon shown.
+    /// Returns the icon that is shown.
     QIcon icon() const;
 
-    /// Sets what sizeHint() tells the layout, in logical pixels.
+    /// Sets the value of sizeHint(), in logical pixels.
     void setSizeHint(const QSize& size);
-    /// What setSizeHint() set.
+    /// Returns the size set with setSizeHint().
     QSize sizeHint() const override;
 
 protected:
-    /// Paints the icon within the rectangle of the widget.
+    /// Paints the icon.
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -40,7 +40,7 @@ QString libraryTable()
         .arg(rows);
 }
 
-/// Style sheets don't reach the colour of links, so it stands here: the bright accent of the palette.
+/// Style sheets can't set the colour of links, so it is given here: the bright accent of the palette.
 QString link(const char* address, const QString& text)
 {
     return QStringLiteral("<a style=\"color: #7FD9E8; text-decoration: none\" href=\"%1\">%2</a>")
@@ -55,7 +55,7 @@ QString licenceLinks()
            separator + link("https://www.qt.io/", QStringLiteral("Qt"));
 }
 
-/// What an About dialog tells, from top to bottom.
+/// The texts of an About dialog, from top to bottom.
 struct Content {
     QString name;
     QString version;
@@ -121,7 +121,7 @@ void build(QDialog& dialog, const QString& objectName, const Content& content, c
     dialog.setObjectName(objectName);
     auto* const frame = new QHBoxLayout(&dialog);
     frame->setContentsMargins(0, 0, 0, 0);
-    frame->setSizeConstraint(QLayout::SetFixedSize); // wrapped texts are never cut, on small screens neither
+    frame->setSizeConstraint(QLayout::SetFixedSize); // wrapped texts are not cut, also on small screens
     auto* const background = new QWidget;
     background->setObjectName(QStringLiteral("wBackgroundWidget"));
     background->setFixedWidth(dialogWidth);

@@ -10,8 +10,8 @@
 #include <QStyle>
 #include <QWidget>
 
-// The toolkit keeps file names of fonts and images for as long as the process lives, longer than this library
-// may stay loaded. So no literal of this library is handed to it: fromLatin1() makes a copy on the heap.
+// Qt keeps the file names of fonts and images until the process ends, and this library may be unloaded before.
+// So no literal of this library is passed to Qt: fromLatin1() makes a copy on the heap.
 
 namespace TOLVAN_NAMESPACE
 {
@@ -27,7 +27,7 @@ const char* const fontFiles[] = {
 
 const int logoSizes[] = {16, 32, 48, 96, 128, 256, 512, 1024};
 
-/// A folder among the resources can be opened like a file, but there is nothing to read in it.
+/// QFile opens a folder of the resources as if it were an empty file.
 bool openForReading(QFile& file)
 {
     return !QFileInfo(file).isDir() && file.open(QIODevice::ReadOnly);

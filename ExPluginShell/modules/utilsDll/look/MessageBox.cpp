@@ -28,7 +28,7 @@ constexpr const char* alertIcon = "://icons/messagebox/alert_dark_icon.svg";
 constexpr const char* questionIcon = "://icons/messagebox/question_mark_dark_icon.svg";
 constexpr const char* saveQuestionIcon = ":/icons/messagebox/question_mark_dark_icon.svg";
 
-/// The icon of this path; a drawing is read and rendered once for all boxes.
+/// Returns the icon of this path. A drawing is read and rendered once for all boxes.
 QIcon iconOf(const char* path)
 {
     static QHash<QByteArray, QIcon> icons;
@@ -43,7 +43,7 @@ QIcon iconOf(const char* path)
 
 QScopedPointer<CMessageBox> CMessageBox::m_scriptingInstance;
 
-/// The widgets of the box that every box has. The style sheet knows their names.
+/// The widgets that every box has. The style sheet addresses them by name.
 struct CMessageBox::Form {
     explicit Form(CMessageBox& box);
 
@@ -114,7 +114,7 @@ void CMessageBox::Form::makeIcon(QWidget* background)
     gridLayout->addWidget(iconWidget, 0, 0);
 }
 
-/// One showing of a box. The box lives on the heap because its parent may delete it while it is open.
+/// Shows one box. The box is on the heap because its parent may delete it while it is open.
 class CMessageBox::Session
 {
 public:
@@ -130,7 +130,8 @@ public:
 
     CMessageBox& box() { return *m_box; }
 
-    /// Shows the box until the user answers. \return the button, which may be gone; null when there was none
+    /// Shows the box until the user answers.
+    /// \return the clicked button, which may have been deleted; null if there was none
     const QPushButton* run(int height)
     {
         m_box->setFixedSize(boxWidth, height);

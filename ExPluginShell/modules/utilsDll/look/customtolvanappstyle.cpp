@@ -41,7 +41,7 @@ const QPixmap& mirroredExtensionButton()
     return pixmap;
 }
 
-/// A rectangle of this size without the pixel at each corner.
+/// Returns a rectangle of this size without the pixel at each corner.
 QRegion withoutCorners(const QSize& size)
 {
     const int width = size.width();
@@ -73,7 +73,7 @@ bool CustomTolvanAppStyle::pimpl::disableButtonShift(const QWidget* button)
     return true;
 }
 
-/// Returns whether the table changed. Takes an object: what is being destroyed is no widget any more.
+/// Returns whether the table changed. Takes a QObject because a button being destroyed is no QWidget any more.
 bool CustomTolvanAppStyle::pimpl::enableButtonShift(const QObject* button)
 {
     const auto entry = nonShiftedButtons.constFind(button->objectName());

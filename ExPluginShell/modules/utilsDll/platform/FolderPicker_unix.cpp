@@ -6,17 +6,15 @@
 #include <QFileInfo>
 #include <QPushButton>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
 {
 
-bool pickerIsOpen = false; // GUI thread only
+bool pickerIsOpen = false; // main thread only
 
-/// The toolkit's own file dialog with its accept button replaced: files are to be seen, not chosen.
+/// Qt's file dialog with its accept button replaced, because files are shown but not chosen.
 class FolderPickerDialog : public QFileDialog
 {
     Q_OBJECT
@@ -33,15 +31,15 @@ public:
         replaceAcceptButton();
     }
 
-    /// The folder that was open when the button was pressed.
+    /// Returns the folder that was open when the button was clicked.
     QString folder() const { return m_folder; }
 
-    /// Double click and Enter end here: a folder is entered, a file is left alone.
+    /// Called by a double click and by Enter. Opens a chosen folder and ignores a file.
     void accept() override
     {
         const QStringList chosen = selectedFiles();
         if (chosen.size() == 1 && QFileInfo(chosen.constFirst()).isDir()) {
-            QFileDialog::accept(); // in this file mode: opens the folder and stays
+            QFileDialog::accept(); // in this file mode it opens the folder and keeps the dialog open
         }
     }
 
@@ -59,9 +57,9 @@ private:
         if (!box) {
             return;
         }
-        delete box->button(QDialogButtonBox::Open); // the dialog itself would show and hide it
+        delete box->button(QDialogButtonBox::Open); // the dialog would show and hide it itself
         if (QPushButton* const cancel = box->button(QDialogButtonBox::Cancel)) {
-            cancel->setAutoDefault(false); // it would take the place of the default button
+            cancel->setAutoDefault(false); // it would become the default button
             cancel->setDefault(false);
         }
         auto* const select = new QPushButton(QStringLiteral("Select Folder"), this);
@@ -88,7 +86,6 @@ QString pickFolder(QWidget* parent, const QString& caption, const QString& dir, 
     return chosen ? dialog.folder() : QString();
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform
 
 #include "FolderPicker_unix.moc"

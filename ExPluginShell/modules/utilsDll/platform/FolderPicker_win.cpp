@@ -8,9 +8,7 @@
 #include <objbase.h>
 #include <shobjidl.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -18,7 +16,7 @@ namespace
 
 constexpr int okButton = 1;
 
-/// What the open picker knows; the window procedure and the events handler have no other way to share it.
+/// State of the open picker, shared by the window procedure and the events handler.
 struct PickerState {
     wchar_t* folder = nullptr; ///< owned by the system's allocator
     bool folderChosen = false;
@@ -77,7 +75,7 @@ void rememberFolder(IFileDialog* dialog)
     CoTaskMemFree(picker.folder);
     picker.folder = nullptr;
     if (FAILED(item->GetDisplayName(SIGDN_FILESYSPATH, &picker.folder))) {
-        picker.folder = nullptr; // a place of the shell that is no folder of a file system
+        picker.folder = nullptr; // a folder of the shell that is not in a file system
     }
 }
 
@@ -159,7 +157,7 @@ private:
 
 #pragma GCC diagnostic pop
 
-/// COM stays initialised until the process ends: the shell's own objects may outlive the picker.
+/// COM stays initialised until the process ends, because objects of the shell may outlive the picker.
 bool comIsReady()
 {
     static const bool ready =
@@ -232,5 +230,4 @@ QString pickFolder(QWidget* parent, const QString& caption, const QString& dir, 
     return chosen;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,14 +2,10 @@
 
 #include <QtCore/qglobal.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
-/// Enables or disables the user's way to close a native window through its frame. A handle that is no window
-/// is ignored.
+/// Enables or disables the close command in the frame of a native window. An invalid handle is ignored.
 void setCloseCommandEnabled(quint64 window, bool enable);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -4,14 +4,12 @@
 #include <QWidget>
 #include <QWindow>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 void setCloseCommandEnabled(quint64 window, bool enable)
 {
-    if (window == 0) { // what widgets without a native window tell
+    if (window == 0) { // the handle of widgets without a native window
         return;
     }
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -20,11 +18,10 @@ void setCloseCommandEnabled(quint64 window, bool enable)
         }
         Qt::WindowFlags flags = widget->windowFlags();
         flags.setFlag(Qt::WindowCloseButtonHint, enable);
-        // setWindowFlags() would hide the widget and make a new native window.
+        // setWindowFlags() would hide the widget and create a new native window.
         widget->overrideWindowFlags(flags);
         widget->windowHandle()->setFlags(flags);
     }
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 void setCloseCommandEnabled(quint64 window, bool enable)
@@ -13,5 +11,4 @@ void setCloseCommandEnabled(quint64 window, bool enable)
     EnableMenuItem(menu, SC_CLOSE, static_cast<UINT>(MF_BYCOMMAND | (enable ? MF_ENABLED : MF_GRAYED)));
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform
