@@ -1,6 +1,6 @@
-// What a program pays for loading the library and letting it go, beside Qt's widgets alone. Linux. Every
-// single measurement is made in a process of its own that has loaded nothing yet: in one process only the
-// first load would bring the toolkit in. Processor time of that process, so that a busy machine counts less.
+// The cost of loading and unloading the library, beside Qt Widgets alone, on Linux. Each measurement runs in a
+// process that has loaded nothing yet: in one process only the first load would also load Qt. The figure is the
+// processor time of that process, so that a busy machine changes it less.
 
 #include <benchmark/benchmark.h>
 

@@ -2,7 +2,7 @@
 #
 # A bundle is described by .qrc files. Its entries are gathered ("staged") in a folder of the build tree that is laid out
 # like the bundle, the resource compiler packs them into one binary file, and the assembler takes that file up as it is:
-# no compiler ever sees the payload as source text, which would cost it gigabytes of memory.
+# no compiler ever sees the payload as source text, which would take gigabytes of memory.
 #
 # Everything here runs on the building machine, so a cross build works in the same way.
 

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# What run.sh, test.sh and the lanes of .ci/run share. Sourced from the top folder of the tree.
+# Functions for run.sh, test.sh and the lanes of .ci/run. Sourced from the top folder of the tree.
 
-# install_packages GROUP...: makes sure that the packages of these groups are there.
+# install_packages GROUP...: installs the missing packages of these groups.
 install_packages() {
     if ! command -v apt-get >/dev/null; then
         echo "setup: this is not a Debian system; install the packages that tools/install-deps.sh names for: $*" >&2
@@ -11,8 +11,8 @@ install_packages() {
     tools/install-deps.sh "$@"
 }
 
-# build PRESET [CMAKE OPTION...]: configures and builds one preset, or of it only the targets named in TARGETS; what the
-# compiler says goes to the terminal only when something is wrong.
+# build PRESET [CMAKE OPTION...]: configures and builds one preset, or only the targets in TARGETS. The output of the
+# compiler is printed only after a failure.
 build() {
     local preset=$1 log
     local -a targets=()

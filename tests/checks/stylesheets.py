@@ -83,7 +83,7 @@ def problems(folder):
         all_rules = list(rules(sheet))
         for selector, declarations in all_rules:
             if selector.states and any(property.startswith("qproperty-") for property in declarations):
-                yield f"{name}: {selector.text}: the toolkit sets no property from a rule with a state"
+                yield f"{name}: {selector.text}: Qt sets no property from a rule with a state"
             colour = effective(all_rules, selector, "color") or effective(all_rules, Selector(selector.widget), "color")
             if not colour or not {"color", "background-color"} & declarations.keys():
                 continue

@@ -4,8 +4,8 @@
 
 #include <QtTest>
 
-/// Runs \a call and compares: it reports this failed assertion of the library to the log and to the debug
-/// stream, and nothing else. Without a \a message the assertion has none.
+/// Verifies that \a call reports exactly this failed assertion of the library, to the log and to the debug
+/// stream. Pass a null \a message for an assertion without one.
 template <class Call>
 void verifyReport(const char* function, const char* unit, int line, const char* message, Call call)
 {

@@ -20,11 +20,11 @@ public:
         QByteArray headers; ///< the lines behind it, as sent
         QByteArray body;
 
-        /// Value of a header, whatever its case; null when it is missing.
+        /// Value of a header, in any case of its letters; null if it is missing.
         QByteArray header(const QByteArray& name) const;
     };
 
-    /// How requests are answered; the first three parts make a good answer.
+    /// The answer to every request; the first three members make a valid one.
     struct Answer {
         QByteArray status = "200 OK";
         QByteArray contentType = "text/xml; charset=utf-8";
@@ -38,7 +38,7 @@ public:
 
     HttpLoopback();
 
-    /// Speaks TLS from now on.
+    /// Uses TLS for all later connections.
     void secure(const QSslCertificate& certificate, const QSslKey& key);
 
     Answer answer;
@@ -56,7 +56,7 @@ private:
     QSslKey m_key;
 };
 
-/// A server in a thread of its own that answers one request with blanks, for as long as they are taken.
+/// A server in its own thread that answers one request with blanks until the client closes the connection.
 class EndlessServer : public QThread
 {
 public:

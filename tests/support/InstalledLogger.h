@@ -4,7 +4,7 @@
 
 #include <utilsDll/LoggerStartup.h>
 
-/// In the header, so that it reaches the library in the way the test program links it.
+/// Inline, so that it uses the library that the test program links.
 inline RecordingLogger& installedLogger()
 {
     static RecordingLogger logger;

@@ -8,7 +8,7 @@ IsolatedProfile::IsolatedProfile()
 {
 #ifndef Q_OS_WIN
     const QDir root(m_root.path());
-    // A test that turns into an ordinary user goes on in here.
+    // A test that becomes an ordinary user still needs this folder.
     QFile::setPermissions(m_root.path(),
                           QFile::permissions(m_root.path()) | QFile::ExeGroup | QFile::ExeOther);
     const QByteArray rest = ":" + qgetenv("XDG_DATA_DIRS") + ":/usr/local/share:/usr/share";
@@ -18,7 +18,7 @@ IsolatedProfile::IsolatedProfile()
         qputenv(variable, root.filePath(QString::fromLatin1(name)).toLocal8Bit() + suffix);
     };
     if (qEnvironmentVariableIsEmpty("LC_ALL") && qEnvironmentVariableIsEmpty("LANG")) {
-        qputenv("LC_ALL", "C.UTF-8"); // file names are UTF-8 also where nobody has chosen a language
+        qputenv("LC_ALL", "C.UTF-8"); // file names are UTF-8 also without a locale
     }
     redirect("HOME", "home");
     redirect("XDG_DATA_HOME", "data");

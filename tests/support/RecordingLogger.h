@@ -6,14 +6,14 @@
 #include <QString>
 #include <QStringList>
 
-/// A logger that keeps its lines, each as "level line". Thread-safe.
+/// A logger that stores its lines, each as "level line". Thread-safe.
 class RecordingLogger : public ILoggerInterface
 {
 public:
     void init(const std::string& folder, const std::string& name, char level) override;
     void log(char level, const char* text) override;
 
-    /// All lines since the last take(), which are then forgotten.
+    /// Returns the lines since the last call.
     QStringList take();
     /// Arguments of the calls of init(), each as "folder|name|level code".
     QStringList inits() const;

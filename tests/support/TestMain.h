@@ -9,7 +9,8 @@
 namespace TestMain
 {
 
-/// Prepares the process before the application object exists: a screenless platform unless one was chosen.
+/// Prepares the process before the application object exists: selects the offscreen platform unless the environment
+/// names one.
 void prepare();
 
 template <class Application, class Test>

@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QString>
 
-/// Short forms for tests that are full of texts.
+/// Short forms for tests with many texts.
 
 /// A text of the product, from UTF-8.
 inline QString text(const char* utf8)
@@ -12,7 +12,7 @@ inline QString text(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-/// What a file holds, with the line ends "\n"; "(unreadable)" when it can't be read.
+/// Content of a file, with the line ends "\n"; "(unreadable)" when it can't be read.
 inline QByteArray contentOf(const QString& path)
 {
     QFile file(path);

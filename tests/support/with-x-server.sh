@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # with-x-server.sh [--two-screens] COMMAND [ARGUMENT...]: runs a command on an X server of its own with a window
-# manager (Xvfb on a display that was free, openbox), as a Qt program of platform "xcb". Ends both servers, and
-# nobody else's, when the command ends; the exit code is the command's.
+# manager (Xvfb on a free display, openbox), with Qt's platform "xcb". Ends both servers, and no others, when the
+# command ends. The exit code is the command's.
 set -euo pipefail
 
 start_limit=30 # seconds that a server may take to come up

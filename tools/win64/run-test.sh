@@ -75,12 +75,12 @@ mkdir -p "$build/wine"
 prefixes="$(cd "$build/wine" && pwd)"
 template="$prefixes/template"
 
-# Menus, Mono and Gecko have no business in a test; nothing of the user's home is linked into the prefix.
+# No menus, no Mono and no Gecko; nothing of the user's home is linked into the prefix.
 export WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=d"
 unset DISPLAY WAYLAND_DISPLAY XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME
 
-# Ends everything that runs in a prefix. The server is asked first; Wine's own services outlive a server that is killed,
-# and would stay in memory one set a run.
+# Ends everything that runs in a prefix. The server is asked first; Wine's own services outlive a server that is killed:
+# without the second step each run would leave one set of them in memory.
 stop_wine() {
     local process
     WINEPREFIX="$1" timeout 10 "$wineserver" -k9 >/dev/null 2>&1 || [ $? -le 2 ]
@@ -105,7 +105,7 @@ make_template() {
     mv "$part" "$template"
 }
 
-# Wine links the user's folders into the home of the moment; the runs get real folders instead.
+# Wine links the user's folders into the current home; the runs get real folders instead.
 unlink_home() {
     local link
     while IFS= read -r -d '' link; do
@@ -117,7 +117,7 @@ unlink_home() {
 make_run_prefix() {
     local entry
     run="$(mktemp -d "$prefixes/run-XXXXXX")"
-    # Without the folder for data Wine has no recycle bin and deletes for good.
+    # Without the data folder Wine has no recycle bin and deletes permanently.
     mkdir -p "$run/home/.local/share" "$run/drive_c"
     cp -a "$template"/*.reg "$template/.update-timestamp" "$template/dosdevices" "$run/"
     for entry in "$template/drive_c"/*; do
@@ -161,7 +161,7 @@ exec 9>&-
 make_run_prefix
 trap clean_up EXIT
 
-# What a program needs on its command line is read from its import table.
+# The import table of the program decides which arguments it gets.
 imports="$(x86_64-w64-mingw32-objdump -p "$program")" || die "'$program' is no Windows program"
 arguments=("$@")
 screen=()
@@ -177,7 +177,7 @@ if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
 fi
 
 export HOME="$run/home" WINEPREFIX="$run"
-# Wine brings no fonts for the screenless platform: the ones that the library carries are installed on the system.
+# Wine has no fonts for the offscreen platform; the fonts of the library's bundle are installed on this system.
 fonts=/usr/share/fonts/truetype/roboto/unhinted/RobotoTTF
 [ ! -d "$fonts" ] || export TOLVAN_TEST_FONTS="Z:${fonts}"
 WINEPATH="$(library_path)"

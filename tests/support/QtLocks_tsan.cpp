@@ -1,6 +1,5 @@
-// Shows the toolkit's read-write lock to the thread sanitizer, which sees only code that was built with it:
-// the calls of the program and of the library come through here on their way to the toolkit. Only in builds
-// with that sanitizer.
+// Shows Qt's read-write lock to the thread sanitizer, which sees only code that was built with it: the calls of
+// the program and of the library pass through here on their way to Qt. Only in builds with that sanitizer.
 
 #include <QReadWriteLock>
 #include <QVector>
@@ -13,7 +12,7 @@ extern "C" void __tsan_release(void* address);
 namespace
 {
 
-/// What the lock orders: a writer behind all earlier holders, a reader behind the earlier writers only.
+/// The two orders of the lock: a writer comes after all earlier holders, a reader after earlier writers only.
 void* writers(QReadWriteLock* lock)
 {
     return lock;
@@ -25,7 +24,7 @@ void* readers(QReadWriteLock* lock)
 
 thread_local QVector<const QReadWriteLock*> heldForWrite;
 
-void callToolkit(const char* symbol, QReadWriteLock* lock)
+void callQt(const char* symbol, QReadWriteLock* lock)
 {
     using Operation = void (*)(QReadWriteLock*);
     reinterpret_cast<Operation>(dlsym(RTLD_NEXT, symbol))(lock);
@@ -35,13 +34,13 @@ void callToolkit(const char* symbol, QReadWriteLock* lock)
 
 void QReadWriteLock::lockForRead()
 {
-    callToolkit("_ZN14QReadWriteLock11lockForReadEv", this);
+    callQt("_ZN14QReadWriteLock11lockForReadEv", this);
     __tsan_acquire(writers(this));
 }
 
 void QReadWriteLock::lockForWrite()
 {
-    callToolkit("_ZN14QReadWriteLock12lockForWriteEv", this);
+    callQt("_ZN14QReadWriteLock12lockForWriteEv", this);
     heldForWrite.append(this);
     __tsan_acquire(writers(this));
     __tsan_acquire(readers(this));
@@ -50,5 +49,5 @@ void QReadWriteLock::lockForWrite()
 void QReadWriteLock::unlock()
 {
     __tsan_release(heldForWrite.removeOne(this) ? writers(this) : readers(this));
-    callToolkit("_ZN14QReadWriteLock6unlockEv", this);
+    callQt("_ZN14QReadWriteLock6unlockEv", this);
 }
