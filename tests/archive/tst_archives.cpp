@@ -258,8 +258,8 @@ void ArchivesTest::emptyAndMissingArchives()
         QVERIFY(!unpack(zip));
         QVERIFY(unpacked().isEmpty());
     }
-    DecompressFiles(path("no archive"), path("made/all the same"));
-    QVERIFY(QFileInfo(path("made/all the same")).isDir());
+    DecompressFiles(path("no archive"), path("made/folder"));
+    QVERIFY(QFileInfo(path("made/folder")).isDir());
 }
 
 void ArchivesTest::existingFilesAreReplacedWhole()
@@ -276,8 +276,8 @@ void ArchivesTest::existingFilesAreReplacedWhole()
                                {QStringLiteral("last"), "last"}}));
 }
 
-/// The owner can always use what was unpacked. A folder of somebody else's can't be changed, but written
-/// into.
+/// The owner can always use what was unpacked. A folder of another user may be written into, but its
+/// permissions can't be changed.
 void ArchivesTest::permissions()
 {
     QVERIFY(unpack(zipOf({{"locked/", "", 0, 040000 | 0555}, {"locked/a", "a", 8, 0100000 | 0222}})));

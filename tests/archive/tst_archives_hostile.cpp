@@ -17,15 +17,15 @@ Q_DECLARE_METATYPE(ZipEntry)
 
 using Tree = QMap<QString, QByteArray>;
 
-/// Archives that want to write elsewhere, or are broken. Whatever they are, nothing outside the folder
-/// changes and the good entries arrive.
+/// Damaged archives and archives whose entries lead out of the folder. Nothing outside the folder changes, and
+/// the good entries are unpacked.
 class HostileArchivesTest : public FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup() { QCOMPARE(outside(), m_outside); } // after each archive, whatever it was
+    void cleanup() { QCOMPARE(outside(), m_outside); } // after each archive
     void safeNames_data();
     void safeNames();
     void badEntryAmongGoodOnes_data();

@@ -13,7 +13,7 @@ using namespace TOLVAN_NAMESPACE;
 namespace
 {
 
-/// How many files lie in the recycle bin, as the shell counts them; -1 when it does not answer.
+/// The shell's count of files in the recycle bin; -1 on failure.
 qint64 filesInBin()
 {
     SHQUERYRBINFO info = {};
@@ -23,7 +23,7 @@ qint64 filesInBin()
 
 } // namespace
 
-/// The shell's own store: what went there is counted there.
+/// The recycle bin of the shell.
 class RecycleBinTest : public FolderTest
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ void RecycleBinTest::missingFile()
     QCOMPARE(filesInBin(), before);
 }
 
-/// The system refuses a file that somebody has open for himself.
+/// The system refuses a file that is open without sharing.
 void RecycleBinTest::openFile()
 {
     const QString file = QDir::toNativeSeparators(FileTree::write(path("held")));

@@ -41,7 +41,7 @@ private:
     QStringList m_uris;
 };
 
-/// Stands for whatever program opens folders.
+/// Stands for the program that opens folders.
 class FolderOpener : public QObject
 {
     Q_OBJECT
@@ -68,7 +68,7 @@ private Q_SLOTS:
 
 private:
     void startBus();
-    void nobodyShowsFiles();
+    void folderIsOpened();
     static QDBusConnection fileManager(const QString& name, FileManagerStub& stub);
 
     FolderOpener m_opener;
@@ -108,8 +108,8 @@ void RevealTest::startBus()
     }
 }
 
-/// The folder is opened, and without much waiting.
-void RevealTest::nobodyShowsFiles()
+/// Without a file manager the folder is opened, within a second.
+void RevealTest::folderIsOpened()
 {
     const QString file = FileTree::write(path("a"));
     qint64 quickest = std::numeric_limits<qint64>::max(); // a busy machine may delay any single one
@@ -128,7 +128,7 @@ void RevealTest::withoutABus()
 {
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("XDG_RUNTIME_DIR", folder().toLocal8Bit());
-    nobodyShowsFiles();
+    folderIsOpened();
     m_opener.opened.clear();
     selectFilesInShell(folder(), {}); // nothing to show: nothing opens
     QVERIFY(m_opener.opened.isEmpty());
@@ -137,7 +137,7 @@ void RevealTest::withoutABus()
 void RevealTest::busWithoutFileManager()
 {
     startBus();
-    nobodyShowsFiles();
+    folderIsOpened();
 }
 
 void RevealTest::exactAddresses()
@@ -171,7 +171,7 @@ void RevealTest::exactAddresses()
     QVERIFY(m_thread.wait(10000));
 }
 
-/// One that is still starting has got the request: nothing else is opened, and nobody waits for it.
+/// A file manager that is still starting has received the request: nothing else opens, and nothing waits.
 void RevealTest::slowFileManager()
 {
     startBus();
@@ -192,7 +192,7 @@ void RevealTest::busThatDied()
     startBus();
     m_bus.terminate();
     QVERIFY(m_bus.waitForFinished(10000));
-    nobodyShowsFiles();
+    folderIsOpened();
 }
 
 TOLVAN_GUI_TEST_MAIN(RevealTest)

@@ -108,7 +108,7 @@ void TrashTest::veryLongName()
     }
 }
 
-/// The proof of the layout: two programs of others that know nothing of this one.
+/// Two foreign programs read the layout.
 void TrashTest::othersListAndRestore()
 {
     const QString awkward = QString::fromUtf8("a%20 b#\xC3\xA4\xE6\x97\xA5.txt");
@@ -185,7 +185,7 @@ void TrashTest::readOnlyFolder()
     permit(path("locked"), 0x7777);
 }
 
-/// Whoever has no place for data of his own gets no trash at the top of the file system either.
+/// Without a data folder of the user the trash of the file system is not used either.
 void TrashTest::unusableHome()
 {
     const QByteArray data = qgetenv("XDG_DATA_HOME");

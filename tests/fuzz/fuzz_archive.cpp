@@ -19,7 +19,7 @@ QStringList entriesOf(const QString& folder)
 
 } // namespace
 
-/// Whatever the bytes are: nothing is written beside the folder that is unpacked into.
+/// Nothing may be written outside the folder that is unpacked into.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const QTemporaryDir scratch(QStringLiteral("/dev/shm/fuzz_archive-XXXXXX"));

@@ -1,5 +1,6 @@
 // Loads the library as a module of the process that never calls it, and looks at what it brings.
 
+#include "FileTree.h"
 #include "TestMain.h"
 
 #include <QCryptographicHash>
@@ -36,29 +37,13 @@ const QStringList roots{QStringLiteral("calibration"), QStringLiteral("fonts"),
                         QStringLiteral("icons"),       QStringLiteral("other"),
                         QStringLiteral("qss"),         QStringLiteral("translations")};
 
-QStringList filesBelow(const QString& folder)
-{
-    QStringList files;
-    for (QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        files.append(it.next());
-    }
-    files.sort();
-    return files;
-}
-
 QStringList ownFiles()
 {
     QStringList files;
     for (const QString& root : roots) {
-        files += filesBelow(QStringLiteral(":/") + root);
+        files += FileTree::filesBelow(QStringLiteral(":/") + root);
     }
     return files;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QVector<QDomElement> elementsBelow(const QDomElement& parent)
@@ -138,7 +123,7 @@ void BundlesTest::namesAndSizes()
     for (const QString& path : ownFiles()) {
         QVERIFY2(QFileInfo(path).size() > 0, qPrintable(path));
     }
-    for (const QString& path : filesBelow(QStringLiteral(":/icons"))) {
+    for (const QString& path : FileTree::filesBelow(QStringLiteral(":/icons"))) {
         QVERIFY2(path.endsWith(QStringLiteral(".svg")) || path.endsWith(QStringLiteral(".png")),
                  qPrintable(path));
         QCOMPARE(path.startsWith(QStringLiteral(":/icons/cursors/")),
@@ -149,7 +134,7 @@ void BundlesTest::namesAndSizes()
 void BundlesTest::storedForm()
 {
     // The four bundles lie in the library as the resource compiler wrote them, header included.
-    const QByteArray library = contentOf(m_library.fileName());
+    const QByteArray library = FileTree::read(m_library.fileName());
     const QByteArray magic("qres\0\0\0", 7);
     QCOMPARE(library.count(magic + '\1'), 4);
     QCOMPARE(library.count(magic + '\2') + library.count(magic + '\3'), 0);
@@ -179,7 +164,7 @@ void BundlesTest::svgIcons()
 
 void BundlesTest::countries()
 {
-    const QByteArray text = contentOf(QStringLiteral(":/translations/countries.en.txt"));
+    const QByteArray text = FileTree::read(QStringLiteral(":/translations/countries.en.txt"));
     QCOMPARE(text.count('\n'), 244);
     QCOMPARE(text.count("\r\n"), 244);
     QVERIFY(text.endsWith("\r\n"));
@@ -202,7 +187,7 @@ void BundlesTest::countries()
 void BundlesTest::correctionRules()
 {
     // What the schema cannot say; it is held against the file by a check of its own.
-    const QByteArray text = contentOf(QStringLiteral(":/other/CorrectionsStateMachine.xml"));
+    const QByteArray text = FileTree::read(QStringLiteral(":/other/CorrectionsStateMachine.xml"));
     QDomDocument document;
     QVERIFY(document.setContent(text, true));
     QCOMPARE(document.documentElement().elementsByTagName(QStringLiteral("action")).size(), 50);
@@ -246,8 +231,8 @@ void BundlesTest::calibrationData()
     QVERIFY(hash.addData(&database));
     QCOMPARE(hash.result().toHex(),
              QByteArray("4e713712896d4bcea2a4d0a780abdf3a859b5a8607819ed5d6d785b60020edfa"));
-    const QByteArray one = contentOf(QStringLiteral(":/calibration/caf/C36841a_000.caf"));
-    const QByteArray two = contentOf(QStringLiteral(":/calibration/caf/C35830b_002.caf"));
+    const QByteArray one = FileTree::read(QStringLiteral(":/calibration/caf/C36841a_000.caf"));
+    const QByteArray two = FileTree::read(QStringLiteral(":/calibration/caf/C35830b_002.caf"));
     QCOMPARE(QCryptographicHash::hash(one, QCryptographicHash::Sha256).toHex(),
              QByteArray("327b38dc9019d1e88ecc5590b5221781fec3e4c4a9208b7eecb331ce2364e794"));
     QCOMPARE(one.size(), two.size());

@@ -1,7 +1,7 @@
+#include "FileTree.h"
 #include "TestMain.h"
 
 #include <QColor>
-#include <QDirIterator>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,17 +20,6 @@ namespace
 const QStringList stateSuffixes{QStringLiteral("_hover"), QStringLiteral("_pressed"),
                                 QStringLiteral("_checked"), QStringLiteral("_disabled"),
                                 QStringLiteral("_focus")};
-
-QStringList filesBelow(const QString& folder)
-{
-    QStringList names;
-    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        names << QDir(folder).relativeFilePath(files.next());
-    }
-    names.sort();
-    return names;
-}
 
 /// The image of a drawing; its own size unless another is given.
 QImage rendered(const QString& file, QSize size = {})
@@ -147,7 +136,7 @@ QByteArray IconsTest::generate(const QStringList& arguments) const
 void IconsTest::initTestCase()
 {
     QVERIFY(!generate({QStringLiteral("--out"), file({})}).isEmpty());
-    m_names = filesBelow(file({}));
+    m_names = FileTree::filesBelow(file({})).replaceInStrings(file({}), QString());
     QCOMPARE(m_names.size(), 349);
     QFile palette(QStringLiteral(ICON_PALETTE));
     QVERIFY(palette.open(QIODevice::ReadOnly));

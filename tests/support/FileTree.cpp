@@ -26,6 +26,17 @@ QByteArray read(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QStringList filesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator walk(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        files += walk.next();
+    }
+    files.sort();
+    return files;
+}
+
 QMap<QString, QByteArray> of(const QString& folder)
 {
     QMap<QString, QByteArray> tree;

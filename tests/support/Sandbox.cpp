@@ -28,16 +28,17 @@ bool underWine()
 
 namespace
 {
-constexpr unsigned nobody = 65534;
+constexpr unsigned unprivileged = 65534;
 } // namespace
 
 OrdinaryUser::OrdinaryUser()
 {
     if (getuid() == 0) {
         const auto all = QFile::Permissions(0x7777);
-        QFile::setPermissions(QFileInfo(QDir::tempPath()).path(), all); // the profile lets others in
+        QFile::setPermissions(QFileInfo(QDir::tempPath()).path(), all); // the profile
         QFile::setPermissions(QDir::tempPath(), all);
-        m_changed = setresgid(nobody, nobody, 0) == 0 && setresuid(nobody, nobody, 0) == 0;
+        m_changed =
+            setresgid(unprivileged, unprivileged, 0) == 0 && setresuid(unprivileged, unprivileged, 0) == 0;
     }
 }
 
@@ -52,8 +53,8 @@ SecondVolume::SecondVolume()
     : m_path(QDir::temp().filePath(QStringLiteral("volume")))
 {
     QDir().mkpath(m_path);
-    // Asked for while the answer is right, and remembered: the program was loaded from a file of the mounts
-    // that are left here, whose path then begins at the machine's root, also for a process in a chroot.
+    // Qt caches the path. After the mounts are separated the system reports another one for a process in a
+    // chroot.
     QCoreApplication::applicationFilePath();
     if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("tmpfs", QFile::encodeName(m_path).constData(), "tmpfs", 0, "mode=777") != 0) {

@@ -4,11 +4,11 @@
 #include <QString>
 #include <QStringList>
 
-/// Whether this is a Windows program that runs under Wine.
+/// Whether this Windows program runs under Wine.
 bool underWine();
 
-/// Turns a root process into an ordinary user ("nobody") while it lives, so that permissions mean something.
-/// Does nothing for a process that is no root, nor on Windows. The test's profile is opened to everybody.
+/// Makes a root process an unprivileged user for its lifetime, so that permissions take effect. Has no effect
+/// in other processes and on Windows. Every user may then access the test's profile.
 class OrdinaryUser
 {
 public:
@@ -21,8 +21,8 @@ private:
     bool m_changed = false;
 };
 
-/// A file system of the process's own, in memory, which nobody else sees. Made before any thread is started,
-/// after the application object.
+/// A file system in memory that only this process sees. Must be created before any thread is started and after
+/// the application object.
 class SecondVolume
 {
 public:
@@ -32,7 +32,7 @@ public:
     SecondVolume& operator=(const SecondVolume&) = delete;
 
     QString path() const { return m_path; }
-    /// Why there is none; empty when there is.
+    /// Why it could not be mounted; empty on success.
     QString problem() const { return m_problem; }
 
 private:
@@ -40,12 +40,12 @@ private:
     QString m_problem;
 };
 
-/// What a program answered.
+/// How a program ended.
 struct Outcome {
-    int code = -1; ///< -1 when it could not be started or did not end in time
+    int code = -1; ///< exit code; -1 if it could not be started or did not end in time
     QByteArray output;
 };
 
-/// Runs a program to its end; what it writes to standard error is part of the output.
+/// Runs a program to its end. The output includes standard error.
 Outcome runProgram(const QString& program, const QStringList& arguments, const QString& folder = {},
                    const QByteArray& input = {});

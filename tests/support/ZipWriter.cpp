@@ -22,7 +22,7 @@ void writeCommon(QDataStream& out, const ZipEntry& entry, quint32 checksum, quin
 
 QByteArray deflated(const QByteArray& content)
 {
-    return qCompress(content, 6).mid(6).chopped(4); // without the toolkit's length and zlib's frame
+    return qCompress(content, 6).mid(6).chopped(4); // without Qt's length and zlib's frame
 }
 
 QByteArray zipOf(const QVector<ZipEntry>& entries, const QByteArray& comment)

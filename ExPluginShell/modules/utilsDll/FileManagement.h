@@ -9,7 +9,7 @@
 #include <QStringList>
 
 /// \file
-/// File chores of the product: names that the user types, moving, removing, showing files, sizes as text.
+/// File functions of the product: checking names, moving, deleting and showing files, sizes as text.
 ///
 /// No function throws. Every function may be called from any thread, except selectFilesInShell() and
 /// sizeToString(), which belong to the GUI thread.
@@ -20,7 +20,7 @@ namespace TOLVAN_NAMESPACE
 /// Result of moveFileToTrash().
 enum ErrorCodes {
     FileOperationSucceeded = 0, ///< the file is in the recycle bin
-    FileOperationFailed = 2,    ///< the file is where it was, or was not there
+    FileOperationFailed = 2,    ///< the file was not moved, or does not exist
 };
 
 /// Which parts of two paths isEqualFileOrDirNames() compares. Any other value makes everything equal.
@@ -31,7 +31,7 @@ enum FileCompareCondition {
     CompareBaseName = 3,       ///< the name without its last suffix
 };
 
-/// Whether a file name, or a path, that the user typed may be used. Nothing on disk is looked at.
+/// Checks a file name or a path that the user typed. The disk is not accessed.
 ///
 /// The text is cleaned and given the system's separators first. It is refused when
 /// - it is empty or has 32767 characters or more, or a part between separators has more than 260;
@@ -45,7 +45,7 @@ enum FileCompareCondition {
 /// change the direction of writing pass.
 /// \param name   what the user typed; length is counted in UTF-16 units
 /// \param isPath true when \a name may hold folders and a drive
-/// \return true when it may be used; the reason for a refusal is not told
+/// \return true if it may be used; the reason for a refusal is not reported
 UTILSDLL_EXPORT bool validateFileName(const QString& name, bool isPath);
 
 /// A key for comparing paths without regard to case: native separators, lower case. The path is not cleaned.
@@ -56,57 +56,57 @@ UTILSDLL_EXPORT QString normalizedFilePath(const QString& path);
 UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QFileInfo& a, const QFileInfo& b,
                                            FileCompareCondition condition);
 
-/// Renames or moves a file or a folder. An existing target is never replaced, also when another process makes
+/// Renames or moves a file or a folder. An existing target is never replaced, even if another process creates
 /// it at the same moment.
 ///
 /// \par Systems
-/// On Windows a file may move to another drive, a folder not; renaming to the same name succeeds there.
-/// Elsewhere both move across file systems: the content is copied beside the target, with its times and
-/// permissions, and the target appears whole; then the source is removed. A source that can't be removed
-/// makes the call fail; a file's copy is then withdrawn, a folder's copy stays.
+/// On Windows a file can be moved to another drive, a folder cannot; renaming to the same name succeeds.
+/// On Unix both can be moved across file systems: the content is copied beside the target, with its times and
+/// permissions, and the target appears complete; then the source is removed. If the source can't be removed,
+/// the call fails: the copy of a file is removed again, the copy of a folder stays.
 ///
 /// \par Blocking
-/// Until the move is complete, which across file systems takes as long as copying.
+/// Returns when the move is complete. Across file systems that takes as long as copying.
 ///
 /// \param from path of an existing file or folder
 /// \param to   path that is not in use; its folder has to exist
-/// \return whether the file has its new name now
+/// \return whether the file was moved
 UTILSDLL_EXPORT bool renameFile(const QString& from, const QString& to);
 
 /// Moves a file or a folder to the recycle bin, without asking.
 ///
 /// \par Systems
-/// On Windows the path goes to the shell as it is: give a full path with backslashes, since the shell deletes
-/// what it is told in a relative path for good. Elsewhere the file goes to the desktop's trash (the user's
-/// own, or that of the file system that holds it) and any program that knows the freedesktop layout restores
-/// it; where the file system offers no trash it is copied into the user's own.
-/// \return FileOperationSucceeded, or FileOperationFailed when there is no such file or, which is logged, the
-///         system refuses
+/// On Windows the path is passed to the shell unchanged. Use a full path with backslashes: the shell deletes a
+/// file named by a relative path permanently. On Unix the file goes to the desktop's trash: that of the user,
+/// or that of the file system which holds the file. Every program that supports the freedesktop.org layout can
+/// restore it. If the file system offers no trash, the file is copied into the user's own.
+/// \return FileOperationSucceeded, or FileOperationFailed if there is no such file or the system refuses. A
+///         refusal is logged.
 UTILSDLL_EXPORT ErrorCodes moveFileToTrash(const QString& path);
 
-/// Deletes everything in a folder; the folder itself stays, and so does every folder below it, emptied.
+/// Deletes all files in a folder and below it. The folders stay.
 ///
 /// Hidden and system entries are deleted as well. A link is deleted, never followed. Folders are handled
-/// before files, and the first entry that can't be deleted ends the work; so does, elsewhere than on Windows,
-/// a folder nested deeper than the files that the process may have open. Name filters of \a dir keep the
-/// other files in it.
+/// before files. The work ends at the first entry that can't be deleted. On Unix it also ends at a folder that
+/// is nested deeper than the number of files which the process may have open. If \a dir has name filters, only
+/// the files that match them are deleted from it.
 ///
-/// \warning The result tells little: it is that of the entry handled last. A folder without entries answers
-/// false, and so does any tree with an empty folder in it, since emptying that one answers false and ends the
-/// work. Treat false as "not everything was removed, perhaps", and nothing more.
+/// \warning The result is that of the entry handled last. A folder without entries returns false, and so does
+/// any tree that contains an empty folder, because emptying that folder returns false and ends the work. Treat
+/// false only as a sign that some files may be left.
 UTILSDLL_EXPORT bool removeDirectoryContent(const QDir& dir);
 
-/// Bytes that the user may still write on the volume that holds \a path; -1 when there is no such volume.
+/// Bytes that the user may still write on the volume that holds \a path; -1 if there is no such volume.
 UTILSDLL_EXPORT qint64 availableDiskSpace(const QString& path);
 
 /// Opens the system's file browser on \a folder with \a files selected. GUI thread.
 ///
-/// Files that don't exist are reported on the Qt debug stream and left out; when none is left nothing opens.
-/// A folder that does not exist is logged as a failed assertion; an empty \a folder does nothing.
+/// Files that don't exist are reported on the Qt debug stream and left out; if none remains, nothing opens.
+/// A folder that does not exist is logged as a failed assertion; an empty \a folder is ignored.
 ///
 /// \par Systems
-/// Elsewhere than on Windows the desktop's file manager is asked over D-Bus, and waited for no longer than a
-/// second; without one the folder is opened by whatever program opens folders.
+/// On Unix the desktop's file manager is asked over D-Bus; the call waits at most a second for its reply.
+/// Without such a file manager the folder is opened with the desktop's default program.
 /// \param folder the folder to show
 /// \param files  full paths of files in it
 UTILSDLL_EXPORT void selectFilesInShell(const QString& folder, const QStringList& files);
@@ -118,9 +118,9 @@ UTILSDLL_EXPORT QString fileSizeToString(qint64 bytes);
 /// The size of an image for display, "width x height" and the unit, in the user's language. GUI thread.
 ///
 /// The product's setting "imageSizeUnits" chooses the unit: 0 pixels, 1 inches (two decimals), 2 centimetres
-/// (one decimal), 3 millimetres. Lengths follow from the physical dots per inch of the primary screen, across
-/// and down. Without a screen, in a program that has no QGuiApplication, or when the screen does not tell its
-/// size, 96 dots per inch are taken. Another unit number is logged as a failed assertion and read as pixels.
+/// (one decimal), 3 millimetres. Lengths are calculated with the physical horizontal and vertical dots per inch
+/// of the primary screen. 96 dots per inch are assumed without a screen, without a QGuiApplication, and if the
+/// screen reports no size. Another unit number is logged as a failed assertion and treated as pixels.
 /// \param size in pixels
 UTILSDLL_EXPORT QString sizeToString(const QSize& size);
 

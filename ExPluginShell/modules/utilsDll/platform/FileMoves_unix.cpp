@@ -26,7 +26,7 @@ fs::path systemPath(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// Takes back what a failed step has left, without touching the reason of the failure.
+/// Removes what a failed step has left and keeps errno.
 bool withdraw(const fs::path& path)
 {
     const int reason = errno;
@@ -35,7 +35,7 @@ bool withdraw(const fs::path& path)
     return false;
 }
 
-/// An empty folder or file, which only one process can make.
+/// Creates an empty folder or file exclusively.
 bool claim(const fs::path& name, bool asFolder)
 {
     if (asFolder) {
@@ -45,8 +45,8 @@ bool claim(const fs::path& name, bool asFolder)
     return file >= 0 && close(file) == 0;
 }
 
-/// For file systems that don't know the exclusive rename: a file gets the target as a second name, if it may
-/// have two; otherwise the target is claimed first.
+/// For file systems without the exclusive rename: the target becomes a second name of the file, or is claimed
+/// first where hard links are not supported.
 bool renameByClaim(const fs::path& from, const fs::path& to)
 {
     struct stat status = {};
@@ -60,7 +60,7 @@ bool renameByClaim(const fs::path& from, const fs::path& to)
     return claim(to, isFolder) && (rename(from.c_str(), to.c_str()) == 0 || withdraw(to));
 }
 
-/// On failure errno tells why.
+/// On failure errno has the reason.
 bool renameInPlace(const fs::path& from, const fs::path& to)
 {
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
@@ -103,7 +103,7 @@ void copyTree(const fs::path& from, const fs::path& to)
     fs::last_write_time(to, fs::last_write_time(from));
 }
 
-/// Folders in which nothing may be changed could not be taken back.
+/// The content of a read-only folder could not be removed.
 void makeRemovable(const fs::path& folder)
 {
     std::error_code ignored;

@@ -13,12 +13,12 @@ namespace Platform
 
 /// A file, a link or a folder in a folder.
 struct FolderEntry {
-    std::filesystem::path::string_type name; ///< as the system has it, also where it is no text
-    bool isFolder;                           ///< a link to a folder is none
+    std::filesystem::path::string_type name; ///< the system's own form; need not be valid text
+    bool isFolder;                           ///< false for a link to a folder
 };
 
-/// What is in a folder, to be removed one by one. No link is followed on the way, also when another process
-/// puts one in the place of a folder meanwhile (where the system lets that be seen).
+/// The entries of a folder, which are removed one by one. On Unix no link is followed, even if another process
+/// replaces a folder with one meanwhile.
 class FolderContent
 {
 public:
@@ -28,13 +28,13 @@ public:
     FolderContent(FolderContent&& other) noexcept;
     FolderContent& operator=(FolderContent&&) = delete;
 
-    /// All entries, hidden and system ones included: folders first, each kind in the order of the names. None
-    /// when the folder is not there or can't be read.
+    /// All entries, including hidden and system ones: folders first, both sorted by name. Empty if the folder
+    /// is missing or can't be read.
     std::vector<FolderEntry> entries();
-    /// One of the folders among the entries; its own content knows no name filters.
+    /// One of the folders among the entries. Name filters do not apply to its content.
     FolderContent folder(const FolderEntry& entry) const;
     /// Deletes a file or a link.
-    /// \return whether it is gone
+    /// \return whether it was deleted
     bool removeFile(const FolderEntry& entry) const;
 
 private:

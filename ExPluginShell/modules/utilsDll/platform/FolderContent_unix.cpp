@@ -18,8 +18,8 @@ namespace TOLVAN_NAMESPACE
 namespace Platform
 {
 
-/// Everything is named from the open folder: the system walks no path for each file, and nobody can put
-/// another folder in its place.
+/// Every call uses the open folder: the system resolves no path for each file, and no other process can
+/// exchange the folder.
 class FolderContent::Data
 {
 public:

@@ -7,10 +7,10 @@ namespace TOLVAN_NAMESPACE
 namespace Platform
 {
 
-/// Opens the system's file browser on \a folder with \a files (existing ones, with their full paths)
-/// selected; does nothing when no file is left to show. Elsewhere than on Windows the file manager is asked
-/// over D-Bus and waited for no longer than a second; without one the folder is opened.
-/// \return false when the system's shell does not know the folder
+/// Opens the system's file browser on \a folder with \a files selected. They are full paths of existing files;
+/// without any, nothing opens. On Unix the file manager is asked over D-Bus and waited for at most a second;
+/// without one the folder is opened.
+/// \return false if the Windows shell does not find the folder
 bool selectInFileBrowser(const QString& folder, const QStringList& files);
 
 } // namespace Platform

@@ -17,14 +17,14 @@ namespace
 
 constexpr int longestWait = 900; // milliseconds
 
-/// Without an address the bus library would try to start a bus of its own, which takes its time.
+/// Without an address the bus library would try to start a bus, which takes long.
 bool sessionBusIsKnown()
 {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
            QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
-/// Every byte that is not plain in an address is encoded, so that "#", "%" and "?" name the file.
+/// Every reserved byte is encoded, including "#", "%" and "?".
 QString uriOf(const QString& file)
 {
     const QByteArray path = QFile::encodeName(QFileInfo(file).absoluteFilePath());
@@ -47,7 +47,7 @@ bool fileManagerShows(const QStringList& uris)
                 QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
             call << uris << QString();
             const QDBusMessage reply = bus.call(call, QDBus::Block, longestWait);
-            // A file manager that is still starting has got the request all the same.
+            // A file manager that is still starting has received the request.
             shown = reply.type() == QDBusMessage::ReplyMessage ||
                     reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply") ||
                     reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.Timeout");

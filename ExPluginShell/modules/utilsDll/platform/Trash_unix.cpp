@@ -40,8 +40,8 @@ std::optional<struct stat> statusOf(const QString& path)
     return status;
 }
 
-/// A folder of the user's own that nobody else can read; made when it is missing. A link is not accepted: the
-/// file would leave the file system, or reach another user.
+/// Creates a folder that only the user can read, if it is missing. A link is not accepted: the file would
+/// leave the file system, or reach another user.
 bool ensurePrivateFolder(const QString& path)
 {
     const auto before = statusOf(path);
@@ -122,14 +122,14 @@ QByteArray nameInTrash(const QByteArray& fileName, int attempt)
     return shortened(base, room - suffix.size()) + number + suffix;
 }
 
-/// Percent-encoded, so that line feeds, percent signs and bytes that are no text come back as they were.
+/// The path is percent-encoded: line feeds, percent signs and bytes that are no text are restored exactly.
 QByteArray infoText(const QString& path)
 {
     return "[Trash Info]\nPath=" + QFile::encodeName(path).toPercentEncoding("/") + "\nDeletionDate=" +
            QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")).toLatin1() + '\n';
 }
 
-/// Makes the info file, which only one process can do: it claims the name in "files" as well.
+/// Creates the info file exclusively; that reserves the name in "files" as well.
 bool claimName(const QString& infoFile, const QByteArray& text, bool& taken)
 {
     const QByteArray path = QFile::encodeName(infoFile);
