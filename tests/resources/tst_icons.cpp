@@ -99,7 +99,7 @@ double difference(const QImage& first, const QImage& second, const QColor& groun
 
 } // namespace
 
-/// The icon family as it is generated: complete, readable by the toolkit, distinct and legible.
+/// The icon family as it is generated: complete, readable by Qt, distinct and legible.
 class IconsTest : public QObject
 {
     Q_OBJECT

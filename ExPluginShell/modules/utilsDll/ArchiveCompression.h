@@ -8,10 +8,9 @@
 /// \file
 /// Zip archives: a list of files packed into one archive, and an archive unpacked into a folder.
 ///
-/// Both functions block until all is done, need memory for fixed buffers only, whatever the size of the
-/// files, never throw, and may be called from any thread. What they write is read by other programs and the
-/// reverse: names are UTF-8 (marked as such where they are not plain ASCII), large files and many entries use
-/// ZIP64.
+/// Both functions return when the work is done, need the same memory for files of any size, never throw, and
+/// may be called from any thread. Archives are exchanged with other programs: names are written as UTF-8, large
+/// files and many entries with ZIP64.
 
 namespace TOLVAN_NAMESPACE
 {
@@ -20,12 +19,12 @@ namespace TOLVAN_NAMESPACE
 ///
 /// Each file becomes one entry with the file's own name, without its folder. Of two files of the same name in
 /// different folders both are stored, under that one name, and the result is true; unpacking leaves the one
-/// that comes last in the list. A link, to a file or a folder, is stored as a link, not as what it points to
-/// (elsewhere than on Windows).
+/// that comes last in the list. On Unix a link to a file or a folder is stored as a link.
 ///
-/// The archive is written beside its target and put in its place at the end: on failure there is no archive,
-/// and one that was there before is untouched. Only where the folder refuses new files is an existing archive
-/// overwritten directly; a failure then leaves it empty. Missing folders above \a archive are created.
+/// The archive is written to a temporary file beside its target, which then replaces the target: on failure
+/// there is no new archive, and an existing one stays as it was. Only if the folder refuses new files, an
+/// existing archive is overwritten directly; a failure then leaves it empty. Missing folders above \a archive
+/// are created.
 /// \param files   paths of existing files; an empty list gives an empty archive
 /// \param archive path of the archive
 /// \return false when a file is missing, is a folder or can't be read, or when the archive can't be written

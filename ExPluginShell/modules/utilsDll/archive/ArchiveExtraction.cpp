@@ -32,7 +32,7 @@ constexpr quint16 encryptedFlag = 0x0001;
 constexpr quint16 utf8Flag = 0x0800;
 constexpr int countOverflow = 0xFFFF; // an archive without ZIP64 can't say how many more there are
 
-/// Not every file system knows permissions; a file without them is extracted all the same.
+/// Not every file system knows permissions; a file without them is extracted as well.
 void setPermissions(QFileDevice& file, QFile::Permissions permissions)
 {
     if (permissions) {

@@ -10,7 +10,7 @@ namespace TOLVAN_NAMESPACE
 
 /// Unpacking an archive entry by entry. Internal; compiled into tests and the showcase.
 
-/// Told how many bytes have been read or written so far; returns false to end the work.
+/// Receives the number of bytes read or written so far; returns false to end the work.
 using ArchiveProgress = std::function<bool(qint64 bytes)>;
 
 /// Unpacks every entry of a zip archive below a folder, with the rules that DecompressFiles() documents. A

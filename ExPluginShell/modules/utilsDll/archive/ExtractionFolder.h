@@ -24,8 +24,8 @@ public:
     const QString& currentPath() const { return m_current; }
     /// Parts of that folder below the root once its links are resolved.
     QStringList currentRealParts() const;
-    /// Gives that folder permissions of an archive; its owner can always use it. None leave it as it is, and
-    /// so does a folder that belongs to somebody else.
+    /// Gives that folder permissions of an archive; its owner can always use it. Has no effect without
+    /// permissions, and for a folder of another user.
     void setPermissions(QFile::Permissions permissions) const;
 
 private:

@@ -2,9 +2,7 @@
 
 #include <QString>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// Moves or renames a file or a folder. An existing target is never replaced, even if another process creates
@@ -14,5 +12,4 @@ namespace Platform
 /// \return whether the move took place
 bool moveWithoutReplacing(const QString& from, const QString& to);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -13,9 +13,7 @@
 
 namespace fs = std::filesystem;
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -160,5 +158,4 @@ bool moveWithoutReplacing(const QString& from, const QString& to)
     return errno == EXDEV && moveByCopying(from, to);
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 bool moveWithoutReplacing(const QString& from, const QString& to)
@@ -13,5 +11,4 @@ bool moveWithoutReplacing(const QString& from, const QString& to)
                      reinterpret_cast<const wchar_t*>(to.utf16())) != FALSE;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -6,9 +6,7 @@
 
 class QDir;
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// A file, a link or a folder in a folder.
@@ -44,5 +42,4 @@ private:
     std::unique_ptr<Data> m_data;
 };
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

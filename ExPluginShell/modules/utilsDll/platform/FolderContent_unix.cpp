@@ -13,9 +13,7 @@
 #include <cstring>
 #include <tuple>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// Every call uses the open folder: the system resolves no path for each file, and no other process can
@@ -105,5 +103,4 @@ bool FolderContent::removeFile(const FolderEntry& entry) const
     return unlinkat(dirfd(m_data->stream), entry.name.c_str(), 0) == 0;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -4,9 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 class FolderContent::Data
@@ -58,5 +56,4 @@ bool FolderContent::removeFile(const FolderEntry& entry) const
     return QFile::remove(path) || ((info.isSymLink() || info.isJunction()) && QDir().rmdir(path));
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <QStringList>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// Opens the system's file browser on \a folder with \a files selected. They are full paths of existing files;
@@ -13,5 +11,4 @@ namespace Platform
 /// \return false if the Windows shell does not find the folder
 bool selectInFileBrowser(const QString& folder, const QStringList& files);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -7,9 +7,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -71,5 +69,4 @@ bool selectInFileBrowser(const QString& folder, const QStringList& files)
     return true;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -9,9 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -50,5 +48,4 @@ bool selectInFileBrowser(const QString& folder, const QStringList& files)
     return true;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

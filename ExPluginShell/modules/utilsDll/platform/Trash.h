@@ -2,9 +2,7 @@
 
 #include <QString>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// Moves a file or a folder to a place from which the system's own programs can restore it, without asking.
@@ -13,5 +11,4 @@ namespace Platform
 /// \return whether the file was moved
 bool moveToRecycleBin(const QString& path);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

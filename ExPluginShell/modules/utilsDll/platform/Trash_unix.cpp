@@ -16,9 +16,7 @@
 // The layout of the freedesktop.org trash, version 1.0: a folder with "files" and "info", where
 // "info" holds for each file a text with its old path and the time.
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -194,5 +192,4 @@ bool moveToRecycleBin(const QString& path)
     return moveInto(*home, folder, file.fileName());
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -6,9 +6,7 @@
 
 #include <string>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 bool moveToRecycleBin(const QString& path)
@@ -23,5 +21,4 @@ bool moveToRecycleBin(const QString& path)
     return SHFileOperationW(&operation) == 0;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform
