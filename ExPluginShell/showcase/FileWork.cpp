@@ -11,14 +11,6 @@
 #include <QDirIterator>
 #include <QFile>
 
-#ifdef Q_OS_WIN
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
-#include <cstdio>
-
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -87,15 +79,6 @@ QString FileWork::firstDifference(const QString& a, const QString& b)
         }
     }
     return {};
-}
-
-bool FileWork::isTerminal()
-{
-#ifdef Q_OS_WIN
-    return _isatty(_fileno(stdout)) != 0;
-#else
-    return isatty(fileno(stdout)) != 0;
-#endif
 }
 
 void FileWork::run()

@@ -26,8 +26,6 @@ public:
     static QString sampleFolder();
     /// The first file below \a a whose content is not the same below \a b; empty when the trees are equal.
     static QString firstDifference(const QString& a, const QString& b);
-    /// Whether standard output is a terminal.
-    static bool isTerminal();
 
 Q_SIGNALS:
     void progress(int percent);

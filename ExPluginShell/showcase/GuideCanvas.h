@@ -6,7 +6,7 @@
 #include <QWidget>
 
 /// A photo that takes guide lines, as the correction tools do: press and drag draws a line, an end can be
-/// dragged elsewhere, the cursor tells what a press would do.
+/// dragged to another place, the cursor shows what a press would do.
 ///
 /// Keyboard: Insert adds a line, Page Up and Page Down choose one, the arrow keys move its end, with Shift
 /// its beginning, Delete removes it.

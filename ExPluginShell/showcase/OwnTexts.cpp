@@ -9,7 +9,7 @@ using TOLVAN_NAMESPACE::CLanguageManager;
 OwnTexts::OwnTexts(QObject* parent)
     : QObject(parent)
 {
-    connect(CLanguageManager::instance(), SIGNAL(languageChanged()), this, SLOT(follow()));
+    connect(CLanguageManager::instance(), &CLanguageManager::languageChanged, this, &OwnTexts::follow);
     follow();
 }
 

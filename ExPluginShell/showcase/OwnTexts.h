@@ -4,7 +4,7 @@
 #include <QTranslator>
 
 /// Keeps the showcase's own texts in the language of the library's language manager. The library carries only
-/// its own texts and the toolkit's, so each host brings a catalogue of its own and follows the manager.
+/// its own texts and Qt's, so each host brings a catalogue of its own and follows the manager.
 class OwnTexts : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ public:
     void heading(const QString& title);
     /// A fact that has no verdict.
     void row(const QString& name, const QString& value);
-    /// A step and its result; \a ok tells whether it did what it should.
+    /// A step and its result; \a ok: whether it did what it should
     void check(const QString& name, const QString& value, bool ok);
     /// Writes the closing line.
     /// \return whether every step did what it should

@@ -23,7 +23,7 @@ namespace
 
 constexpr QSize windowSize(1080, 720);
 
-/// While it lives, the screenless platform does not tell window by window that it knows no size hints.
+/// Suppresses the offscreen platform's warning about size hints.
 class QuietPlatform
 {
 public:

@@ -111,8 +111,8 @@ QWidget* ShowcaseWindow::makeLanguageChoice()
     layout->setSpacing(6);
     layout->addWidget(m_languageLabel);
     layout->addWidget(m_languages);
-    connect(m_languages, SIGNAL(activated(int)), languages, SLOT(changeLanguage(int)));
-    connect(languages, SIGNAL(languageChanged()), this, SLOT(showLanguage()));
+    connect(m_languages, qOverload<int>(&QComboBox::activated), languages, &CLanguageManager::changeLanguage);
+    connect(languages, &CLanguageManager::languageChanged, this, &ShowcaseWindow::showLanguage);
     showLanguage();
     return area;
 }

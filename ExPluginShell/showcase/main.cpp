@@ -51,8 +51,8 @@ bool hasNoDisplay()
     return QGuiApplication::platformName() == QLatin1String("offscreen");
 }
 
-/// Language and look, as every host of the product does once at start-up.
-void dress()
+/// Language and appearance, as every host of the product sets them once at start-up.
+void applyAppearance()
 {
     using namespace TOLVAN_NAMESPACE;
     if (hasNoDisplay()) { // its letters are larger than those of any desktop
@@ -71,7 +71,7 @@ void dress()
 int runWindow(const QString& screenshots)
 {
     startLog();
-    dress();
+    applyAppearance();
     if (!screenshots.isEmpty() || hasNoDisplay()) {
         const QString folder = QDir::temp().filePath(QStringLiteral("trelio-showcase"));
         return writeScreenshots(screenshots.isEmpty() ? folder : screenshots) ? 0 : 1;

@@ -26,7 +26,7 @@ constexpr int debounceDelay = 150; // milliseconds, as the others
 constexpr int tickInterval = 200;
 constexpr int waitDuration = 2000;
 
-/// Works in small steps and tells each.
+/// Works in small steps and announces each.
 class StepItem : public CQRunnableItem
 {
     Q_OBJECT
@@ -64,8 +64,8 @@ AsyncPage::AsyncPage(QWidget* parent)
     , m_start(new QPushButton)
     , m_stop(new QPushButton)
     , m_items(new QLabel)
-    , m_wait(makeNote(QT_TR_NOOP("While the page waits, clicks are swallowed and the progress bar goes on.")))
-    , m_clicks(makeNote(QT_TR_NOOP("No clicks yet.")))
+    , m_wait(makeNote(QT_TR_NOOP("While the page waits, clicks are held back and delivered after the wait.")))
+    , m_clicks(makeNote(QT_TR_NOOP("Clicks: 0")))
 {
     m_pool.setMaxThreadCount(2);
     m_items->setWordWrap(true);
@@ -111,8 +111,8 @@ QWidget* AsyncPage::makeDelayedCalls()
     auto* const periodic = new QPushButton;
     setText(periodic, QT_TR_NOOP("Periodic call"));
     periodic->setCheckable(true);
-    connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved()));
-    connect(periodic, SIGNAL(toggled(bool)), this, SLOT(togglePeriodic(bool)));
+    connect(m_slider, &QSlider::valueChanged, this, &AsyncPage::onSliderMoved);
+    connect(periodic, &QPushButton::toggled, this, &AsyncPage::togglePeriodic);
     auto* const row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(periodic);
@@ -131,8 +131,8 @@ QWidget* AsyncPage::makeItems()
     m_progress->setRange(0, itemCount * stepsPerItem);
     m_progress->setValue(0);
     m_stop->setEnabled(false);
-    connect(m_start, SIGNAL(clicked()), this, SLOT(startItems()));
-    connect(m_stop, SIGNAL(clicked()), this, SLOT(stopItems()));
+    connect(m_start, &QPushButton::clicked, this, &AsyncPage::startItems);
+    connect(m_stop, &QPushButton::clicked, this, &AsyncPage::stopItems);
     auto* const row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(m_start);
@@ -154,9 +154,9 @@ QWidget* AsyncPage::makeWaits()
     setText(complete, QT_TR_NOOP("Wait for a worker"));
     auto* const click = new QPushButton;
     setText(click, QT_TR_NOOP("Click me meanwhile"));
-    connect(wait, SIGNAL(clicked()), this, SLOT(waitWithoutInput()));
-    connect(complete, SIGNAL(clicked()), this, SLOT(waitForWorker()));
-    connect(click, SIGNAL(clicked()), this, SLOT(onClicked()));
+    connect(wait, &QPushButton::clicked, this, &AsyncPage::waitWithoutInput);
+    connect(complete, &QPushButton::clicked, this, &AsyncPage::waitForWorker);
+    connect(click, &QPushButton::clicked, this, &AsyncPage::onClicked);
     auto* const row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(wait);
@@ -180,7 +180,7 @@ void AsyncPage::onSliderMoved()
 void AsyncPage::render()
 {
     ++m_renders;
-    say(m_burst, [this] { return tr("%1 requests became %2 calls.").arg(m_requests).arg(m_renders); });
+    say(m_burst, [this] { return tr("Requests: %1, calls: %2").arg(m_requests).arg(m_renders); });
 }
 
 void AsyncPage::togglePeriodic(bool on)
@@ -190,14 +190,14 @@ void AsyncPage::togglePeriodic(bool on)
         say(m_ticks, [] { return tr("Every %1 ms.").arg(tickInterval); });
     } else {
         CDelayedCall::discard(this, "tick");
-        say(m_ticks, [this] { return tr("Discarded after %1 calls.").arg(m_tickCount); });
+        say(m_ticks, [this] { return tr("Stopped. Calls: %1").arg(m_tickCount); });
     }
 }
 
 void AsyncPage::tick()
 {
     ++m_tickCount;
-    say(m_ticks, [this] { return tr("%1 calls.").arg(m_tickCount); });
+    say(m_ticks, [this] { return tr("Calls: %1").arg(m_tickCount); });
 }
 
 void AsyncPage::startItems()
@@ -209,8 +209,8 @@ void AsyncPage::startItems()
     for (int i = 0; i < itemCount; ++i) {
         auto item = std::make_unique<StepItem>();
         item->setAutoDelete(false); // the page stops it
-        connect(item.get(), SIGNAL(step()), this, SLOT(onStep()));
-        connect(item.get(), SIGNAL(finished(bool, bool)), this, SLOT(onItemFinished(bool, bool)));
+        connect(item.get(), &StepItem::step, this, &AsyncPage::onStep);
+        connect(item.get(), &StepItem::finished, this, &AsyncPage::onItemFinished);
         m_running.push_back(std::move(item));
     }
     for (const auto& item : m_running) {
@@ -253,17 +253,18 @@ void AsyncPage::waitWithoutInput()
 {
     CExcludeUserInpuEventLoop loop;
     const int before = m_clickCount;
-    say(m_wait, [] { return tr("Waiting for %1 ms: nothing can be clicked.").arg(waitDuration); });
+    say(m_wait, [] { return tr("Waiting for %1 ms. Clicks are held back.").arg(waitDuration); });
     loop.exec(waitDuration);
     const int clicks = m_clickCount - before;
-    say(m_wait, [clicks] { return tr("Over; %1 clicks got through.").arg(clicks); });
+    say(m_wait,
+        [clicks] { return tr("The wait is over. Clicks held back and delivered now: %1").arg(clicks); });
 }
 
 void AsyncPage::waitForWorker()
 {
     const std::unique_ptr<QThread> worker(QThread::create([] { QThread::msleep(waitDuration); }));
     TOLVAN_NAMESPACE::COperationCompletionWaiter waiter(worker.get(), SIGNAL(finished()));
-    say(m_wait, [] { return tr("Waiting for a worker: everything can be clicked."); });
+    say(m_wait, [] { return tr("Waiting for a worker. Clicks are delivered at once."); });
     const QPointer<AsyncPage> self(this); // the user may close the page meanwhile
     worker->start();
     waiter.startWaiting();
@@ -276,7 +277,7 @@ void AsyncPage::waitForWorker()
 void AsyncPage::onClicked()
 {
     ++m_clickCount;
-    say(m_clicks, [this] { return tr("%1 clicks.").arg(m_clickCount); });
+    say(m_clicks, [this] { return tr("Clicks: %1").arg(m_clickCount); });
 }
 
 #include "AsyncPage.moc"

@@ -60,5 +60,5 @@ private:
     int m_finished = 0;
     int m_stopped = 0;
     std::vector<std::unique_ptr<CQRunnableItem>> m_running;
-    QThreadPool m_pool; ///< of its own: the global one also serves the toolkit's painting
+    QThreadPool m_pool; ///< of its own: the global pool also serves Qt's painting
 };

@@ -40,7 +40,7 @@ void FilesPage::addNames()
     m_name = new QLineEdit(QStringLiteral("Holiday.jpg"), this);
     m_verdict = new QLabel(this);
     m_sizes = new QLabel(this);
-    connect(m_name, SIGNAL(textChanged(QString)), this, SLOT(checkName()));
+    connect(m_name, &QLineEdit::textChanged, this, &FilesPage::checkName);
     addRow(form, QT_TR_NOOP("File name"), m_name);
     addRow(form, QT_TR_NOOP("As a name and as a path"), m_verdict);
     auto* paths = new QWidget(this);
@@ -50,7 +50,7 @@ void FilesPage::addNames()
     m_secondPath = new QLineEdit(QStringLiteral("Photos/Sea.png"), paths);
     for (QLineEdit* const path : {m_firstPath, m_secondPath}) {
         row->addWidget(path);
-        connect(path, SIGNAL(textChanged(QString)), this, SLOT(comparePaths()));
+        connect(path, &QLineEdit::textChanged, this, &FilesPage::comparePaths);
     }
     m_comparison = new QLabel(this);
     addRow(form, QT_TR_NOOP("Two paths"), paths);
@@ -155,8 +155,8 @@ void FilesPage::start(bool pack)
     m_packing = pack;
     m_work = pack ? std::make_unique<FileWork>(FileWork::Pack, m_folder->text(), archivePath())
                   : std::make_unique<FileWork>(FileWork::Unpack, archivePath(), unpackedPath());
-    connect(m_work.get(), SIGNAL(progress(int)), m_bar, SLOT(setValue(int)));
-    connect(m_work.get(), SIGNAL(finished()), this, SLOT(workEnded()));
+    connect(m_work.get(), &FileWork::progress, m_bar, &QProgressBar::setValue);
+    connect(m_work.get(), &FileWork::finished, this, &FilesPage::workEnded);
     m_cancel->setEnabled(true);
     say(m_result, [] { return QString(); });
     m_bar->setValue(0);
@@ -176,13 +176,13 @@ void FilesPage::workEnded()
     m_bar->setValue(100);
     if (m_packing) {
         const QString size = fileSizeToString(QFileInfo(archivePath()).size());
-        say(m_result, [=] { return tr("%1 files packed into %2.").arg(files).arg(size); });
+        say(m_result, [=] { return tr("Files packed: %1, archive: %2").arg(files).arg(size); });
         return;
     }
     const QString difference = FileWork::firstDifference(m_folder->text(), unpackedPath());
     say(m_result, [=] {
-        return difference.isEmpty() ? tr("%1 files unpacked; both trees are equal.").arg(files)
-                                    : tr("The trees differ: %1").arg(difference);
+        return difference.isEmpty() ? tr("Files unpacked: %1. Both folders are equal.").arg(files)
+                                    : tr("The folders differ: %1").arg(difference);
     });
     QDir(unpackedPath()).removeRecursively();
 }

@@ -4,7 +4,7 @@
 #include <QStylePainter>
 
 /// A button (push, tool or check button, QRadioButton) that is drawn in a state of the caller's choice, such
-/// as QStyle::State_MouseOver, whatever the mouse and the keyboard do.
+/// as QStyle::State_MouseOver, independent of mouse and keyboard.
 template <class Button, class Option, QStyle::ControlElement element>
 class ForcedState : public Button
 {

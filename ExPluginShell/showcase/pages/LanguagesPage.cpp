@@ -63,7 +63,7 @@ void LanguagesPage::addSamples()
     auto* const form = addForm();
     addRow(form, QT_TR_NOOP("A date"), m_date);
     addRow(form, QT_TR_NOOP("A number"), m_number);
-    addRow(form, QT_TR_NOOP("A button of the toolkit"), m_button);
+    addRow(form, QT_TR_NOOP("A button of Qt"), m_button);
 }
 
 void LanguagesPage::languageChanged()

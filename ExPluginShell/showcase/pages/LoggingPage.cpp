@@ -28,7 +28,7 @@ LoggingPage::LoggingPage(QWidget* parent)
     auto* folder = new QLabel(CStorageLocation::loggerFilesPath(), this);
     folder->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     addRow(form, QT_TR_NOOP("Log folder"), folder);
-    addRow(form, QT_TR_NOOP("Least important level"), new QLabel(getLogLevel(), this));
+    addRow(form, QT_TR_NOOP("Minimum level"), new QLabel(getLogLevel(), this));
     addSender();
     addLog();
 }

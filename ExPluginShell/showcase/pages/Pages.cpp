@@ -26,7 +26,7 @@ QVector<Page> pages()
         {"files", QT_TRANSLATE_NOOP("Pages", "Files"),
          QT_TRANSLATE_NOOP("Pages", "Names, sizes, archives, the recycle bin and the file browser."),
          &makeFilesPage},
-        {"style", QT_TRANSLATE_NOOP("Pages", "Look"),
+        {"style", QT_TRANSLATE_NOOP("Pages", "Appearance"),
          QT_TRANSLATE_NOOP("Pages", "Every standard widget under the product's style and style sheets."),
          &makeStylePage},
         {"message-boxes", QT_TRANSLATE_NOOP("Pages", "Message boxes"),

@@ -51,7 +51,7 @@ void SettingsPage::addSwitches()
     connect(level, &QComboBox::textActivated, this, [](const QString& letter) { setLogLevel(letter); });
     auto* const form = addForm();
     addRow(form, QT_TR_NOOP("Values are kept in"), m_store);
-    addRow(form, QT_TR_NOOP("Least important log level"), level);
+    addRow(form, QT_TR_NOOP("Minimum log level"), level);
     const struct {
         const char* text;
         bool (*get)();

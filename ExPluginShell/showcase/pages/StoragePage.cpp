@@ -66,7 +66,7 @@ StoragePage::StoragePage(QWidget* parent)
     m_table->setWordWrap(false);
     m_table->setTextElideMode(Qt::ElideMiddle);
     column()->addWidget(m_table, 1);
-    addButtons({makeButton(QT_TR_NOOP("Look again"), [this] { fill(); })});
+    addButtons({makeButton(QT_TR_NOOP("Refresh"), [this] { fill(); })});
     languageChanged();
 }
 
@@ -90,6 +90,6 @@ void StoragePage::fill()
 
 void StoragePage::languageChanged()
 {
-    m_table->setHorizontalHeaderLabels({tr("What for"), tr("Where"), tr("There")});
+    m_table->setHorizontalHeaderLabels({tr("Purpose"), tr("Path"), tr("Exists")});
     fill();
 }

@@ -123,7 +123,7 @@ QWidget* StylePage::makeCalendar()
 {
     auto* const calendar = new QCalendarWidget;
     calendar->setSelectedDate(QDate(2024, 5, 17));
-    for (const auto day : {Qt::Saturday, Qt::Sunday}) { // not the toolkit's own red
+    for (const auto day : {Qt::Saturday, Qt::Sunday}) { // Qt's own red is too dark here
         QTextCharFormat format;
         format.setForeground(QColor(0xF0, 0x70, 0x6A));
         calendar->setWeekdayTextFormat(day, format);

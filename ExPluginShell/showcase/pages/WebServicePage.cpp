@@ -84,8 +84,9 @@ QPlainTextEdit* WebServicePage::addView(const char* title, QLabel* note, int str
     label->setBuddy(view);
     line->addWidget(label);
     line->addStretch();
-    if (note)
+    if (note) {
         line->addWidget(note, 0, Qt::AlignBottom);
+    }
     auto* part = new QVBoxLayout;
     part->setSpacing(6);
     part->addLayout(line);
@@ -100,8 +101,9 @@ QString WebServicePage::readable(const QtSoapMessage& message)
     QString xml = message.toXmlString(2);
     const int end = xml.indexOf(QLatin1Char('>'));
     QString envelope = xml.left(end);
-    for (const char* attribute : {" xmlns:", " SOAP-ENV:encodingStyle"})
+    for (const char* attribute : {" xmlns:", " SOAP-ENV:encodingStyle"}) {
         envelope.replace(QLatin1String(attribute), QLatin1String("\n   ") + QLatin1String(attribute));
+    }
     return xml.replace(0, end, envelope);
 }
 
@@ -115,7 +117,7 @@ void WebServicePage::showRequest()
 
 void WebServicePage::ask()
 {
-    m_service->start(); // a failure is what the transport then tells
+    m_service->start(); // if it fails, the transport answers with a fault
     m_transport.setHost(QStringLiteral("127.0.0.1"), m_service->serverPort());
     m_transport.setAction(LengthService::action());
     m_transport.setTimeout(10000);
@@ -132,14 +134,16 @@ void WebServicePage::showAnswer(const QtSoapMessage& answer)
 void WebServicePage::showResult()
 {
     const QtSoapMessage& answer = m_transport.getResponse();
-    if (answer.isFault())
+    if (answer.isFault()) {
         m_result->setText(tr("Fault: %1").arg(answer.faultString().toString()));
-    else
+    } else {
         m_result->setText(tr("%1 cm").arg(answer.returnValue()[QStringLiteral("cm")].toString()));
+    }
 }
 
 void WebServicePage::languageChanged()
 {
-    if (!m_result->text().isEmpty())
+    if (!m_result->text().isEmpty()) {
         showResult();
+    }
 }

@@ -88,7 +88,7 @@ private:
 
 void showItems(Report& report)
 {
-    QThreadPool pool; // not the global one, which also serves the toolkit's painting
+    QThreadPool pool; // of its own: the global pool also serves Qt's painting
     QAtomicInt steps(0);
     int finished = 0, stopped = 0;
     std::vector<std::unique_ptr<CountingItem>> items;
@@ -150,7 +150,7 @@ void showCompletion(Report& report)
     operation.moveToThread(&worker);
     worker.start();
     TOLVAN_NAMESPACE::COperationCompletionWaiter waiter(&worker, SIGNAL(finished()));
-    QObject::connect(&operation, SIGNAL(timeout()), &worker, SLOT(quit()), Qt::DirectConnection);
+    QObject::connect(&operation, &QTimer::timeout, &worker, &QThread::quit, Qt::DirectConnection);
     QElapsedTimer clock;
     clock.start();
     QMetaObject::invokeMethod(&operation, "start");

@@ -13,7 +13,8 @@ QtSoapMessage ask(const LengthService& service, QtSoapMessage request)
 {
     QtSoapHttpTransport transport;
     QEventLoop waiting;
-    QObject::connect(&transport, SIGNAL(responseReady()), &waiting, SLOT(quit()));
+    QObject::connect(&transport, qOverload<>(&QtSoapHttpTransport::responseReady), &waiting,
+                     &QEventLoop::quit);
     transport.setTimeout(10000);
     transport.setHost(QStringLiteral("127.0.0.1"), service.serverPort());
     transport.setAction(LengthService::action());

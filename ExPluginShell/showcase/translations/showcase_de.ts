@@ -2,375 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>StylePage</name>
-    <message>
-        <source>Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <translation>Maus darüber</translation>
-    </message>
-    <message>
-        <source>Pressed</source>
-        <translation>Gedrückt</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>Fokus</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Deaktiviert</translation>
-    </message>
-    <message>
-        <source>Push buttons</source>
-        <translation>Schaltflächen</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>Anwenden</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>Aktiv</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>Flach</translation>
-    </message>
-    <message>
-        <source>Other buttons</source>
-        <translation>Weitere Schaltflächen</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>Ein Tooltip erklärt in einem Satz.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Automatisch korrigieren</translation>
-    </message>
-    <message>
-        <source>Check boxes and radio buttons</source>
-        <translation>Kontrollkästchen und Optionsfelder</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Partly</source>
-        <translation>Teils</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Old harbour at dusk</source>
-        <translation>Alter Hafen im Abendlicht</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titel</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Ort</translation>
-    </message>
-    <message>
-        <source>Name of the place</source>
-        <translation>Name des Ortes</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Kennwort</translation>
-    </message>
-    <message>
-        <source>Can be read only</source>
-        <translation>Kann nur gelesen werden</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Kamera</translation>
-    </message>
-    <message>
-        <source>Cannot be changed</source>
-        <translation>Kann nicht geändert werden</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Choices and numbers</source>
-        <translation>Auswahl und Zahlen</translation>
-    </message>
-    <message>
-        <source>Ranges and progress</source>
-        <translation>Bereiche und Fortschritt</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Objektive</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Metadaten</translation>
-    </message>
-    <message>
-        <source>Lens</source>
-        <translation>Objektiv</translation>
-    </message>
-    <message>
-        <source>Focal length</source>
-        <translation>Brennweite</translation>
-    </message>
-    <message>
-        <source>Aperture</source>
-        <translation>Blende</translation>
-    </message>
-    <message>
-        <source>Shape</source>
-        <translation>Form</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Stürzende Linien</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizont</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Zuschneiden</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Verzeichnung</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Raster</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Hilfslinien</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Lupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Gerade Linien bleiben gerade, und der Turm kippt nicht länger nach hinten.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Tilt-Shift</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>An beiden Enden unscharf</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
-    </message>
-    <message>
-        <source>Fit to window</source>
-        <translation>An Fenster anpassen</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Originalgröße</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Drehen</translation>
-    </message>
-    <message>
-        <source>Rotate left</source>
-        <translation>Nach links drehen</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ansicht</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
-    </message>
-    <message>
-        <source>Perspective</source>
-        <translation>Perspektive</translation>
-    </message>
-</context>
-<context>
-    <name>Pages</name>
-    <message>
-        <source>Web service</source>
-        <translation>Webdienst</translation>
-    </message>
-    <message>
-        <source>A SOAP client and the small service that it asks, both in this process.</source>
-        <translation>Ein SOAP-Client und der kleine Dienst, den er befragt, beide in diesem Prozess.</translation>
-    </message>
-    <message>
-        <source>Logging</source>
-        <translation>Protokoll</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>Jede Zeile geht über eine Brücke an den Protokollschreiber des Prozesses.</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Preferences of this product, and the file that the product family shares.</source>
-        <translation>Voreinstellungen dieses Produkts und die gemeinsame Datei der Produktfamilie.</translation>
-    </message>
-    <message>
-        <source>Storage</source>
-        <translation>Ablage</translation>
-    </message>
-    <message>
-        <source>Every folder and file that the product knows.</source>
-        <translation>Alle Ordner und Dateien, die das Produkt kennt.</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Sprachen</translation>
-    </message>
-    <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>Eine Wahl für alle Produkte; Texte, Datum und Zahlen folgen sofort.</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>Aussehen</translation>
-    </message>
-    <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Alle Standard-Bedienelemente im Stil des Produkts.</translation>
-    </message>
-    <message>
-        <source>Message boxes</source>
-        <translation>Meldungsfenster</translation>
-    </message>
-    <message>
-        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>Die eigenen Meldungsfenster des Produkts: 520 Pixel breit, mit Maus oder Tastatur zu beantworten.</translation>
-    </message>
-    <message>
-        <source>Drawing tools</source>
-        <translation>Zeichenwerkzeuge</translation>
-    </message>
-    <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>Hilfslinien und Mauszeiger der Korrekturwerkzeuge auf einem vom Programm gemalten Bild.</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>Systemdialoge</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>Die Dialoge des Systems für Dateien und Ordner.</translation>
-    </message>
-    <message>
-        <source>Asynchronous</source>
-        <translation>Asynchron</translation>
-    </message>
-    <message>
-        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>Verzögerte Aufrufe, Aufgaben und Wartezeiten: Das Fenster bleibt bedienbar.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-    <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
-    </message>
-</context>
-<context>
-    <name>WebServicePage</name>
-    <message>
-        <source>Amount</source>
-        <translation>Menge</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
-    </message>
-    <message>
-        <source>Ask the service</source>
-        <translation>Dienst befragen</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Anfrage</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Antwort</translation>
-    </message>
-    <message>
-        <source>The service has not been asked yet.</source>
-        <translation>Der Dienst wurde noch nicht befragt.</translation>
-    </message>
-    <message>
-        <source>Fault: %1</source>
-        <translation>Fehler: %1</translation>
-    </message>
-    <message>
-        <source>%1 cm</source>
-        <translation>%1 cm</translation>
-    </message>
-</context>
-<context>
     <name>AsyncPage</name>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -381,24 +12,24 @@
         <translation>Läuft nicht.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Starten</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>Während die Seite wartet, werden Klicks zurückgehalten und danach zugestellt.</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
+        <source>Clicks: 0</source>
+        <translation>Klicks: 0</translation>
     </message>
     <message>
         <source>%1 items on a pool of two threads.</source>
         <translation>%1 Aufgaben auf zwei Threads.</translation>
     </message>
     <message>
-        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
-        <translation>Während die Seite wartet, werden Klicks verschluckt; der Fortschrittsbalken läuft weiter.</translation>
+        <source>Start</source>
+        <translation>Starten</translation>
     </message>
     <message>
-        <source>No clicks yet.</source>
-        <translation>Noch keine Klicks.</translation>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Delayed calls</source>
@@ -429,44 +60,44 @@
         <translation>Klicken Sie mich inzwischen</translation>
     </message>
     <message>
-        <source>%1 requests became %2 calls.</source>
-        <translation>%1 Anforderungen wurden zu %2 Aufrufen.</translation>
+        <source>Requests: %1, calls: %2</source>
+        <translation>Anforderungen: %1, Aufrufe: %2</translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>Alle %1 ms.</translation>
     </message>
     <message>
-        <source>Discarded after %1 calls.</source>
-        <translation>Nach %1 Aufrufen verworfen.</translation>
+        <source>Stopped. Calls: %1</source>
+        <translation>Angehalten. Aufrufe: %1</translation>
     </message>
     <message>
-        <source>%1 calls.</source>
-        <translation>%1 Aufrufe.</translation>
+        <source>Calls: %1</source>
+        <translation>Aufrufe: %1</translation>
     </message>
     <message>
         <source>%1 of %2 items finished, %3 of them stopped.</source>
         <translation>%1 von %2 Aufgaben beendet, davon %3 angehalten.</translation>
     </message>
     <message>
-        <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>%1 ms Wartezeit: Nichts lässt sich anklicken.</translation>
+        <source>Waiting for %1 ms. Clicks are held back.</source>
+        <translation>%1 ms Wartezeit. Klicks werden zurückgehalten.</translation>
     </message>
     <message>
-        <source>Over; %1 clicks got through.</source>
-        <translation>Vorbei; %1 Klicks kamen durch.</translation>
+        <source>The wait is over. Clicks held back and delivered now: %1</source>
+        <translation>Die Wartezeit ist um. Zurückgehaltene und jetzt zugestellte Klicks: %1</translation>
     </message>
     <message>
-        <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>Warten auf eine Aufgabe: Alles lässt sich anklicken.</translation>
+        <source>Waiting for a worker. Clicks are delivered at once.</source>
+        <translation>Warten auf einen Arbeitsfaden. Klicks werden sofort zugestellt.</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
         <translation>Die Aufgabe ist beendet.</translation>
     </message>
     <message>
-        <source>%1 clicks.</source>
-        <translation>%1 Klicks.</translation>
+        <source>Clicks: %1</source>
+        <translation>Klicks: %1</translation>
     </message>
 </context>
 <context>
@@ -497,6 +128,105 @@
     </message>
 </context>
 <context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>Als Name und als Pfad</translation>
+    </message>
+    <message>
+        <source>Two paths</source>
+        <translation>Zwei Pfade</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>Im Ganzen und ohne Endung</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Größen als Text</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>Ein Ordner als Archiv</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Packen</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Entpacken und vergleichen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>Das Archiv</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Im Dateimanager zeigen</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>In den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>erlaubt</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Nicht ausgeführt: abgebrochen, oder eine Datei ist nicht lesbar oder schreibbar.</translation>
+    </message>
+    <message>
+        <source>Files packed: %1, archive: %2</source>
+        <translation>Gepackte Dateien: %1, Archiv: %2</translation>
+    </message>
+    <message>
+        <source>Files unpacked: %1. Both folders are equal.</source>
+        <translation>Entpackte Dateien: %1. Beide Ordner sind gleich.</translation>
+    </message>
+    <message>
+        <source>The folders differ: %1</source>
+        <translation>Die Ordner unterscheiden sich: %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>Das Archiv liegt im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>Es gibt kein Archiv.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
@@ -515,8 +245,8 @@
         <translation>Eine Zahl</translation>
     </message>
     <message>
-        <source>A button of the toolkit</source>
-        <translation>Eine Schaltfläche des Toolkits</translation>
+        <source>A button of Qt</source>
+        <translation>Eine Schaltfläche von Qt</translation>
     </message>
     <message>
         <source>Language</source>
@@ -528,7 +258,7 @@
     </message>
     <message>
         <source>Catalogue</source>
-        <translation>Katalog</translation>
+        <translation>Übersetzungsdatei</translation>
     </message>
     <message>
         <source>Abbreviation</source>
@@ -542,8 +272,8 @@
         <translation>Ordner der Protokolle</translation>
     </message>
     <message>
-        <source>Least important level</source>
-        <translation>Niedrigste Stufe</translation>
+        <source>Minimum level</source>
+        <translation>Mindeststufe</translation>
     </message>
     <message>
         <source>A line from the showcase</source>
@@ -700,14 +430,105 @@
     </message>
 </context>
 <context>
+    <name>Pages</name>
+    <message>
+        <source>Logging</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Jede Zeile geht über eine Brücke an den Protokollschreiber des Prozesses.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>Voreinstellungen dieses Produkts und die gemeinsame Datei der Produktfamilie.</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Speicherorte</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>Alle Ordner und Dateien, die das Produkt kennt.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>Eine Wahl für alle Produkte; Texte, Datum und Zahlen folgen sofort.</translation>
+    </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchron</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Verzögerte Aufrufe, Aufgaben und Wartezeiten: Das Fenster bleibt bedienbar.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>Alle Standard-Bedienelemente im Stil des Produkts.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>Die eigenen Meldungsfenster des Produkts: 520 Pixel breit, mit Maus oder Tastatur zu beantworten.</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Zeichenwerkzeuge</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>Hilfslinien und Mauszeiger der Korrekturwerkzeuge auf einem vom Programm gemalten Bild.</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>Systemdialoge</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>Die Dialoge des Systems für Dateien und Ordner.</translation>
+    </message>
+    <message>
+        <source>Web service</source>
+        <translation>Webdienst</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>Ein SOAP-Client und der kleine Dienst, den er befragt, beide in diesem Prozess.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Values are kept in</source>
         <translation>Werte liegen in</translation>
     </message>
     <message>
-        <source>Least important log level</source>
-        <translation>Niedrigste Protokollstufe</translation>
+        <source>Minimum log level</source>
+        <translation>Mindeststufe des Protokolls</translation>
     </message>
     <message>
         <source>Write a log, from the next start on</source>
@@ -828,8 +649,8 @@
         <translation>Einstellungen der Produktfamilie</translation>
     </message>
     <message>
-        <source>Look again</source>
-        <translation>Neu prüfen</translation>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -844,115 +665,290 @@
         <translation>nein</translation>
     </message>
     <message>
-        <source>What for</source>
-        <translation>Wofür</translation>
+        <source>Purpose</source>
+        <translation>Zweck</translation>
     </message>
     <message>
-        <source>Where</source>
-        <translation>Wo</translation>
+        <source>Path</source>
+        <translation>Pfad</translation>
     </message>
     <message>
-        <source>There</source>
+        <source>Exists</source>
         <translation>Vorhanden</translation>
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>StylePage</name>
     <message>
-        <source>File name</source>
-        <translation>Dateiname</translation>
+        <source>Normal</source>
+        <translation>Normal</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>Als Name und als Pfad</translation>
+        <source>Hover</source>
+        <translation>Maus darüber</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>Zwei Pfade</translation>
+        <source>Pressed</source>
+        <translation>Gedrückt</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>Im Ganzen und ohne Endung</translation>
+        <source>Focus</source>
+        <translation>Fokus</translation>
     </message>
     <message>
-        <source>equal</source>
-        <translation>gleich</translation>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
     </message>
     <message>
-        <source>different</source>
-        <translation>verschieden</translation>
+        <source>Push buttons</source>
+        <translation>Schaltflächen</translation>
     </message>
     <message>
-        <source>Sizes as text</source>
-        <translation>Größen als Text</translation>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
     </message>
     <message>
-        <source>A folder as an archive</source>
-        <translation>Ein Ordner als Archiv</translation>
+        <source>Default</source>
+        <translation>Standard</translation>
     </message>
     <message>
-        <source>Choose...</source>
-        <translation>Wählen …</translation>
+        <source>Checked</source>
+        <translation>Aktiv</translation>
     </message>
     <message>
-        <source>Pack</source>
-        <translation>Packen</translation>
+        <source>Flat</source>
+        <translation>Flach</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>Entpacken und vergleichen</translation>
+        <source>Other buttons</source>
+        <translation>Weitere Schaltflächen</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <source>Help</source>
+        <translation>Hilfe</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>Das Archiv</translation>
+        <source>A tool tip explains in one sentence.</source>
+        <translation>Ein Tooltip erklärt in einem Satz.</translation>
     </message>
     <message>
-        <source>Show in the file browser</source>
-        <translation>Im Dateimanager zeigen</translation>
+        <source>Options</source>
+        <translation>Optionen</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>In den Papierkorb legen</translation>
+        <source>Correct automatically</source>
+        <translation>Automatisch korrigieren</translation>
     </message>
     <message>
-        <source>may be used</source>
-        <translation>erlaubt</translation>
+        <source>Check boxes and radio buttons</source>
+        <translation>Kontrollkästchen und Optionsfelder</translation>
     </message>
     <message>
-        <source>refused</source>
-        <translation>abgelehnt</translation>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
     <message>
-        <source>Choose a folder</source>
-        <translation>Ordner wählen</translation>
+        <source>On</source>
+        <translation>Ein</translation>
     </message>
     <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>Nicht ausgeführt: abgebrochen, oder eine Datei ist nicht lesbar oder schreibbar.</translation>
+        <source>Partly</source>
+        <translation>Teils</translation>
     </message>
     <message>
-        <source>%1 files packed into %2.</source>
-        <translation>%1 Dateien in %2 gepackt.</translation>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
     <message>
-        <source>%1 files unpacked; both trees are equal.</source>
-        <translation>%1 Dateien entpackt; beide Ordner sind gleich.</translation>
+        <source>Old harbour at dusk</source>
+        <translation>Alter Hafen im Abendlicht</translation>
     </message>
     <message>
-        <source>The trees differ: %1</source>
-        <translation>Die Ordner unterscheiden sich: %1</translation>
+        <source>Title</source>
+        <translation>Titel</translation>
     </message>
     <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>Das Archiv liegt im Papierkorb.</translation>
+        <source>Place</source>
+        <translation>Ort</translation>
     </message>
     <message>
-        <source>There is no archive.</source>
-        <translation>Es gibt kein Archiv.</translation>
+        <source>Name of the place</source>
+        <translation>Name des Ortes</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Can be read only</source>
+        <translation>Kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Cannot be changed</source>
+        <translation>Kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Choices and numbers</source>
+        <translation>Auswahl und Zahlen</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>Perspektive</translation>
+    </message>
+    <message>
+        <source>Ranges and progress</source>
+        <translation>Bereiche und Fortschritt</translation>
+    </message>
+    <message>
+        <source>Lenses</source>
+        <translation>Objektive</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <translation>Blende</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>Stürzende Linien</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizont</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Verzeichnung</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Loupe</source>
+        <translation>Lupe</translation>
+    </message>
+    <message>
+        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
+        <translation>Gerade Linien bleiben gerade, und der Turm kippt nicht länger nach hinten.</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>Tilt-Shift</translation>
+    </message>
+    <message>
+        <source>Blurred at both ends</source>
+        <translation>An beiden Enden unscharf</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>An Fenster anpassen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>Dienst befragen</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 </TS>

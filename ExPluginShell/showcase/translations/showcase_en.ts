@@ -2,375 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>StylePage</name>
-    <message>
-        <source>Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <translation>Hover</translation>
-    </message>
-    <message>
-        <source>Pressed</source>
-        <translation>Pressed</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>Focus</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Disabled</translation>
-    </message>
-    <message>
-        <source>Push buttons</source>
-        <translation>Push buttons</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>Apply</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Default</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>Checked</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>Flat</translation>
-    </message>
-    <message>
-        <source>Other buttons</source>
-        <translation>Other buttons</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Help</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>A tool tip explains in one sentence.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Options</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Correct automatically</translation>
-    </message>
-    <message>
-        <source>Check boxes and radio buttons</source>
-        <translation>Check boxes and radio buttons</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>Partly</source>
-        <translation>Partly</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Old harbour at dusk</source>
-        <translation>Old harbour at dusk</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Title</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Place</translation>
-    </message>
-    <message>
-        <source>Name of the place</source>
-        <translation>Name of the place</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-    <message>
-        <source>Can be read only</source>
-        <translation>Can be read only</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Camera</translation>
-    </message>
-    <message>
-        <source>Cannot be changed</source>
-        <translation>Cannot be changed</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Shortcut</translation>
-    </message>
-    <message>
-        <source>Choices and numbers</source>
-        <translation>Choices and numbers</translation>
-    </message>
-    <message>
-        <source>Ranges and progress</source>
-        <translation>Ranges and progress</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Lenses</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>History</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Metadata</translation>
-    </message>
-    <message>
-        <source>Lens</source>
-        <translation>Lens</translation>
-    </message>
-    <message>
-        <source>Focal length</source>
-        <translation>Focal length</translation>
-    </message>
-    <message>
-        <source>Aperture</source>
-        <translation>Aperture</translation>
-    </message>
-    <message>
-        <source>Shape</source>
-        <translation>Shape</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Keystoning</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizon</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Crop</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Distortion</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Grid</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Guides</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Preview</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Loupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Straight lines stay straight, and the tower stops leaning backwards.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Tilt-shift</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>Blurred at both ends</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Undo</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Redo</translation>
-    </message>
-    <message>
-        <source>Fit to window</source>
-        <translation>Fit to window</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Actual size</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Rotate</translation>
-    </message>
-    <message>
-        <source>Rotate left</source>
-        <translation>Rotate left</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Edit</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>View</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Ready</translation>
-    </message>
-    <message>
-        <source>Perspective</source>
-        <translation>Perspective</translation>
-    </message>
-</context>
-<context>
-    <name>Pages</name>
-    <message>
-        <source>Web service</source>
-        <translation>Web service</translation>
-    </message>
-    <message>
-        <source>A SOAP client and the small service that it asks, both in this process.</source>
-        <translation>A SOAP client and the small service that it asks, both in this process.</translation>
-    </message>
-    <message>
-        <source>Logging</source>
-        <translation>Logging</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>Every line goes through one bridge to the logger of the process.</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
-        <source>Preferences of this product, and the file that the product family shares.</source>
-        <translation>Preferences of this product, and the file that the product family shares.</translation>
-    </message>
-    <message>
-        <source>Storage</source>
-        <translation>Storage</translation>
-    </message>
-    <message>
-        <source>Every folder and file that the product knows.</source>
-        <translation>Every folder and file that the product knows.</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Languages</translation>
-    </message>
-    <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>One choice for all products; texts, dates and numbers follow it at once.</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>Look</translation>
-    </message>
-    <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Every standard widget under the product&apos;s style and style sheets.</translation>
-    </message>
-    <message>
-        <source>Message boxes</source>
-        <translation>Message boxes</translation>
-    </message>
-    <message>
-        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</translation>
-    </message>
-    <message>
-        <source>Drawing tools</source>
-        <translation>Drawing tools</translation>
-    </message>
-    <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>Guide lines and cursors of the correction tools, on a picture painted by code.</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>Native dialogs</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>The dialogs of the system for files and folders.</translation>
-    </message>
-    <message>
-        <source>Asynchronous</source>
-        <translation>Asynchronous</translation>
-    </message>
-    <message>
-        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>Delayed calls, work items and waits: the window answers while something is under way.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Files</translation>
-    </message>
-    <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Names, sizes, archives, the recycle bin and the file browser.</translation>
-    </message>
-</context>
-<context>
-    <name>WebServicePage</name>
-    <message>
-        <source>Amount</source>
-        <translation>Amount</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Unit</translation>
-    </message>
-    <message>
-        <source>Ask the service</source>
-        <translation>Ask the service</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Request</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Answer</translation>
-    </message>
-    <message>
-        <source>The service has not been asked yet.</source>
-        <translation>The service has not been asked yet.</translation>
-    </message>
-    <message>
-        <source>Fault: %1</source>
-        <translation>Fault: %1</translation>
-    </message>
-    <message>
-        <source>%1 cm</source>
-        <translation>%1 cm</translation>
-    </message>
-</context>
-<context>
     <name>AsyncPage</name>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -381,24 +12,24 @@
         <translation>Not running.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Start</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>While the page waits, clicks are held back and delivered after the wait.</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>Stop</translation>
+        <source>Clicks: 0</source>
+        <translation>Clicks: 0</translation>
     </message>
     <message>
         <source>%1 items on a pool of two threads.</source>
         <translation>%1 items on a pool of two threads.</translation>
     </message>
     <message>
-        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
-        <translation>While the page waits, clicks are swallowed and the progress bar goes on.</translation>
+        <source>Start</source>
+        <translation>Start</translation>
     </message>
     <message>
-        <source>No clicks yet.</source>
-        <translation>No clicks yet.</translation>
+        <source>Stop</source>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>Delayed calls</source>
@@ -429,44 +60,44 @@
         <translation>Click me meanwhile</translation>
     </message>
     <message>
-        <source>%1 requests became %2 calls.</source>
-        <translation>%1 requests became %2 calls.</translation>
+        <source>Requests: %1, calls: %2</source>
+        <translation>Requests: %1, calls: %2</translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>Every %1 ms.</translation>
     </message>
     <message>
-        <source>Discarded after %1 calls.</source>
-        <translation>Discarded after %1 calls.</translation>
+        <source>Stopped. Calls: %1</source>
+        <translation>Stopped. Calls: %1</translation>
     </message>
     <message>
-        <source>%1 calls.</source>
-        <translation>%1 calls.</translation>
+        <source>Calls: %1</source>
+        <translation>Calls: %1</translation>
     </message>
     <message>
         <source>%1 of %2 items finished, %3 of them stopped.</source>
         <translation>%1 of %2 items finished, %3 of them stopped.</translation>
     </message>
     <message>
-        <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>Waiting for %1 ms: nothing can be clicked.</translation>
+        <source>Waiting for %1 ms. Clicks are held back.</source>
+        <translation>Waiting for %1 ms. Clicks are held back.</translation>
     </message>
     <message>
-        <source>Over; %1 clicks got through.</source>
-        <translation>Over; %1 clicks got through.</translation>
+        <source>The wait is over. Clicks held back and delivered now: %1</source>
+        <translation>The wait is over. Clicks held back and delivered now: %1</translation>
     </message>
     <message>
-        <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>Waiting for a worker: everything can be clicked.</translation>
+        <source>Waiting for a worker. Clicks are delivered at once.</source>
+        <translation>Waiting for a worker. Clicks are delivered at once.</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
         <translation>The worker has finished.</translation>
     </message>
     <message>
-        <source>%1 clicks.</source>
-        <translation>%1 clicks.</translation>
+        <source>Clicks: %1</source>
+        <translation>Clicks: %1</translation>
     </message>
 </context>
 <context>
@@ -497,6 +128,105 @@
     </message>
 </context>
 <context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>As a name and as a path</translation>
+    </message>
+    <message>
+        <source>Two paths</source>
+        <translation>Two paths</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>As a whole and without suffix</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Sizes as text</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>A folder as an archive</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choose...</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Pack</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Unpack and compare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>The archive</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Show in the file browser</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>Send to the recycle bin</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>may be used</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>equal</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>different</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Not done: cancelled, or a file can&apos;t be read or written.</translation>
+    </message>
+    <message>
+        <source>Files packed: %1, archive: %2</source>
+        <translation>Files packed: %1, archive: %2</translation>
+    </message>
+    <message>
+        <source>Files unpacked: %1. Both folders are equal.</source>
+        <translation>Files unpacked: %1. Both folders are equal.</translation>
+    </message>
+    <message>
+        <source>The folders differ: %1</source>
+        <translation>The folders differ: %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>The archive is in the recycle bin.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>There is no archive.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
@@ -515,8 +245,8 @@
         <translation>A number</translation>
     </message>
     <message>
-        <source>A button of the toolkit</source>
-        <translation>A button of the toolkit</translation>
+        <source>A button of Qt</source>
+        <translation>A button of Qt</translation>
     </message>
     <message>
         <source>Language</source>
@@ -542,8 +272,8 @@
         <translation>Log folder</translation>
     </message>
     <message>
-        <source>Least important level</source>
-        <translation>Least important level</translation>
+        <source>Minimum level</source>
+        <translation>Minimum level</translation>
     </message>
     <message>
         <source>A line from the showcase</source>
@@ -700,14 +430,105 @@
     </message>
 </context>
 <context>
+    <name>Pages</name>
+    <message>
+        <source>Logging</source>
+        <translation>Logging</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Every line goes through one bridge to the logger of the process.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>Preferences of this product, and the file that the product family shares.</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Storage</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>Every folder and file that the product knows.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Languages</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>One choice for all products; texts, dates and numbers follow it at once.</translation>
+    </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchronous</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Delayed calls, work items and waits: the window answers while something is under way.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Names, sizes, archives, the recycle bin and the file browser.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>Every standard widget under the product&apos;s style and style sheets.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Message boxes</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Drawing tools</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>Guide lines and cursors of the correction tools, on a picture painted by code.</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>Native dialogs</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>The dialogs of the system for files and folders.</translation>
+    </message>
+    <message>
+        <source>Web service</source>
+        <translation>Web service</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>A SOAP client and the small service that it asks, both in this process.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Values are kept in</source>
         <translation>Values are kept in</translation>
     </message>
     <message>
-        <source>Least important log level</source>
-        <translation>Least important log level</translation>
+        <source>Minimum log level</source>
+        <translation>Minimum log level</translation>
     </message>
     <message>
         <source>Write a log, from the next start on</source>
@@ -828,8 +649,8 @@
         <translation>Settings of the product family</translation>
     </message>
     <message>
-        <source>Look again</source>
-        <translation>Look again</translation>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -844,115 +665,290 @@
         <translation>no</translation>
     </message>
     <message>
-        <source>What for</source>
-        <translation>What for</translation>
+        <source>Purpose</source>
+        <translation>Purpose</translation>
     </message>
     <message>
-        <source>Where</source>
-        <translation>Where</translation>
+        <source>Path</source>
+        <translation>Path</translation>
     </message>
     <message>
-        <source>There</source>
-        <translation>There</translation>
+        <source>Exists</source>
+        <translation>Exists</translation>
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>StylePage</name>
     <message>
-        <source>File name</source>
-        <translation>File name</translation>
+        <source>Normal</source>
+        <translation>Normal</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>As a name and as a path</translation>
+        <source>Hover</source>
+        <translation>Hover</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>Two paths</translation>
+        <source>Pressed</source>
+        <translation>Pressed</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>As a whole and without suffix</translation>
+        <source>Focus</source>
+        <translation>Focus</translation>
     </message>
     <message>
-        <source>equal</source>
-        <translation>equal</translation>
+        <source>Disabled</source>
+        <translation>Disabled</translation>
     </message>
     <message>
-        <source>different</source>
-        <translation>different</translation>
+        <source>Push buttons</source>
+        <translation>Push buttons</translation>
     </message>
     <message>
-        <source>Sizes as text</source>
-        <translation>Sizes as text</translation>
+        <source>Apply</source>
+        <translation>Apply</translation>
     </message>
     <message>
-        <source>A folder as an archive</source>
-        <translation>A folder as an archive</translation>
+        <source>Default</source>
+        <translation>Default</translation>
     </message>
     <message>
-        <source>Choose...</source>
-        <translation>Choose...</translation>
+        <source>Checked</source>
+        <translation>Checked</translation>
     </message>
     <message>
-        <source>Pack</source>
-        <translation>Pack</translation>
+        <source>Flat</source>
+        <translation>Flat</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>Unpack and compare</translation>
+        <source>Other buttons</source>
+        <translation>Other buttons</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
+        <source>Help</source>
+        <translation>Help</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>The archive</translation>
+        <source>A tool tip explains in one sentence.</source>
+        <translation>A tool tip explains in one sentence.</translation>
     </message>
     <message>
-        <source>Show in the file browser</source>
-        <translation>Show in the file browser</translation>
+        <source>Options</source>
+        <translation>Options</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>Send to the recycle bin</translation>
+        <source>Correct automatically</source>
+        <translation>Correct automatically</translation>
     </message>
     <message>
-        <source>may be used</source>
-        <translation>may be used</translation>
+        <source>Check boxes and radio buttons</source>
+        <translation>Check boxes and radio buttons</translation>
     </message>
     <message>
-        <source>refused</source>
-        <translation>refused</translation>
+        <source>Off</source>
+        <translation>Off</translation>
     </message>
     <message>
-        <source>Choose a folder</source>
-        <translation>Choose a folder</translation>
+        <source>On</source>
+        <translation>On</translation>
     </message>
     <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>Not done: cancelled, or a file can&apos;t be read or written.</translation>
+        <source>Partly</source>
+        <translation>Partly</translation>
     </message>
     <message>
-        <source>%1 files packed into %2.</source>
-        <translation>%1 files packed into %2.</translation>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
     <message>
-        <source>%1 files unpacked; both trees are equal.</source>
-        <translation>%1 files unpacked; both trees are equal.</translation>
+        <source>Old harbour at dusk</source>
+        <translation>Old harbour at dusk</translation>
     </message>
     <message>
-        <source>The trees differ: %1</source>
-        <translation>The trees differ: %1</translation>
+        <source>Title</source>
+        <translation>Title</translation>
     </message>
     <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>The archive is in the recycle bin.</translation>
+        <source>Place</source>
+        <translation>Place</translation>
     </message>
     <message>
-        <source>There is no archive.</source>
-        <translation>There is no archive.</translation>
+        <source>Name of the place</source>
+        <translation>Name of the place</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Can be read only</source>
+        <translation>Can be read only</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Cannot be changed</source>
+        <translation>Cannot be changed</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Shortcut</translation>
+    </message>
+    <message>
+        <source>Choices and numbers</source>
+        <translation>Choices and numbers</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>Perspective</translation>
+    </message>
+    <message>
+        <source>Ranges and progress</source>
+        <translation>Ranges and progress</translation>
+    </message>
+    <message>
+        <source>Lenses</source>
+        <translation>Lenses</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Lens</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Focal length</translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <translation>Aperture</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Shape</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>Keystoning</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizon</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Crop</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Distortion</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Guides</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Loupe</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
+        <translation>Straight lines stay straight, and the tower stops leaning backwards.</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>Tilt-shift</translation>
+    </message>
+    <message>
+        <source>Blurred at both ends</source>
+        <translation>Blurred at both ends</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Actual size</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Rotate left</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>Ask the service</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Request</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Answer</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Fault: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 </TS>

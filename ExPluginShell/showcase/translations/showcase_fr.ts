@@ -2,375 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>StylePage</name>
-    <message>
-        <source>Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <translation>Survol</translation>
-    </message>
-    <message>
-        <source>Pressed</source>
-        <translation>Enfoncé</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>Focus</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Désactivé</translation>
-    </message>
-    <message>
-        <source>Push buttons</source>
-        <translation>Boutons</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>Appliquer</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Par défaut</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>Coché</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>Plat</translation>
-    </message>
-    <message>
-        <source>Other buttons</source>
-        <translation>Autres boutons</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>Une info-bulle explique en une phrase.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Options</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Corriger automatiquement</translation>
-    </message>
-    <message>
-        <source>Check boxes and radio buttons</source>
-        <translation>Cases à cocher et boutons radio</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Non</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>Partly</source>
-        <translation>En partie</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Old harbour at dusk</source>
-        <translation>Vieux port au crépuscule</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>Titre</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Lieu</translation>
-    </message>
-    <message>
-        <source>Name of the place</source>
-        <translation>Nom du lieu</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-    <message>
-        <source>Can be read only</source>
-        <translation>En lecture seule</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Appareil photo</translation>
-    </message>
-    <message>
-        <source>Cannot be changed</source>
-        <translation>Non modifiable</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Raccourci</translation>
-    </message>
-    <message>
-        <source>Choices and numbers</source>
-        <translation>Choix et nombres</translation>
-    </message>
-    <message>
-        <source>Ranges and progress</source>
-        <translation>Plages et progression</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Objectifs</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historique</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Métadonnées</translation>
-    </message>
-    <message>
-        <source>Lens</source>
-        <translation>Objectif</translation>
-    </message>
-    <message>
-        <source>Focal length</source>
-        <translation>Focale</translation>
-    </message>
-    <message>
-        <source>Aperture</source>
-        <translation>Ouverture</translation>
-    </message>
-    <message>
-        <source>Shape</source>
-        <translation>Forme</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Perspective verticale</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizon</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Recadrage</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Distorsion</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Grille</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Repères</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Loupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Les lignes droites restent droites, et la tour cesse de pencher en arrière.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Bascule et décentrement</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>Flou aux deux bords</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>Fit to window</source>
-        <translation>Adapter à la fenêtre</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Taille réelle</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Rotation</translation>
-    </message>
-    <message>
-        <source>Rotate left</source>
-        <translation>Rotation à gauche</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Édition</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Affichage</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Prêt</translation>
-    </message>
-    <message>
-        <source>Perspective</source>
-        <translation>Perspective</translation>
-    </message>
-</context>
-<context>
-    <name>Pages</name>
-    <message>
-        <source>Web service</source>
-        <translation>Service web</translation>
-    </message>
-    <message>
-        <source>A SOAP client and the small service that it asks, both in this process.</source>
-        <translation>Un client SOAP et le petit service qu’il interroge, tous deux dans ce processus.</translation>
-    </message>
-    <message>
-        <source>Logging</source>
-        <translation>Journal</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>Chaque ligne passe par un seul pont vers l’enregistreur du processus.</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Preferences of this product, and the file that the product family shares.</source>
-        <translation>Préférences de ce produit, et fichier partagé par la famille de produits.</translation>
-    </message>
-    <message>
-        <source>Storage</source>
-        <translation>Stockage</translation>
-    </message>
-    <message>
-        <source>Every folder and file that the product knows.</source>
-        <translation>Tous les dossiers et fichiers que le produit connaît.</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Langues</translation>
-    </message>
-    <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>Un seul choix pour tous les produits ; textes, dates et nombres suivent aussitôt.</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>Apparence</translation>
-    </message>
-    <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Tous les éléments standard avec le style et les feuilles de style du produit.</translation>
-    </message>
-    <message>
-        <source>Message boxes</source>
-        <translation>Boîtes de message</translation>
-    </message>
-    <message>
-        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>Les boîtes propres au produit : 520 pixels de large, réponse à la souris ou au clavier.</translation>
-    </message>
-    <message>
-        <source>Drawing tools</source>
-        <translation>Outils de dessin</translation>
-    </message>
-    <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>Lignes de guidage et curseurs des outils de correction, sur une image peinte par le programme.</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>Dialogues du système</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>Les dialogues du système pour les fichiers et les dossiers.</translation>
-    </message>
-    <message>
-        <source>Asynchronous</source>
-        <translation>Asynchrone</translation>
-    </message>
-    <message>
-        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>Appels différés, tâches et attentes : la fenêtre répond pendant le travail.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Fichiers</translation>
-    </message>
-    <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Noms, tailles, archives, corbeille et gestionnaire de fichiers.</translation>
-    </message>
-</context>
-<context>
-    <name>WebServicePage</name>
-    <message>
-        <source>Amount</source>
-        <translation>Quantité</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Unité</translation>
-    </message>
-    <message>
-        <source>Ask the service</source>
-        <translation>Interroger le service</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Requête</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Réponse</translation>
-    </message>
-    <message>
-        <source>The service has not been asked yet.</source>
-        <translation>Le service n’a pas encore été interrogé.</translation>
-    </message>
-    <message>
-        <source>Fault: %1</source>
-        <translation>Erreur : %1</translation>
-    </message>
-    <message>
-        <source>%1 cm</source>
-        <translation>%1 cm</translation>
-    </message>
-</context>
-<context>
     <name>AsyncPage</name>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -381,24 +12,24 @@
         <translation>À l’arrêt.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Démarrer</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>Pendant l’attente, les clics sont retenus, puis transmis ensuite.</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
+        <source>Clicks: 0</source>
+        <translation>Clics : 0</translation>
     </message>
     <message>
         <source>%1 items on a pool of two threads.</source>
         <translation>%1 tâches sur deux threads.</translation>
     </message>
     <message>
-        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
-        <translation>Pendant l’attente, les clics sont ignorés et la barre de progression continue.</translation>
+        <source>Start</source>
+        <translation>Démarrer</translation>
     </message>
     <message>
-        <source>No clicks yet.</source>
-        <translation>Aucun clic pour l’instant.</translation>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Delayed calls</source>
@@ -429,44 +60,44 @@
         <translation>Cliquez-moi entre-temps</translation>
     </message>
     <message>
-        <source>%1 requests became %2 calls.</source>
-        <translation>%1 demandes sont devenues %2 appels.</translation>
+        <source>Requests: %1, calls: %2</source>
+        <translation>Demandes : %1, appels : %2</translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>Toutes les %1 ms.</translation>
     </message>
     <message>
-        <source>Discarded after %1 calls.</source>
-        <translation>Abandonné après %1 appels.</translation>
+        <source>Stopped. Calls: %1</source>
+        <translation>Arrêté. Appels : %1</translation>
     </message>
     <message>
-        <source>%1 calls.</source>
-        <translation>%1 appels.</translation>
+        <source>Calls: %1</source>
+        <translation>Appels : %1</translation>
     </message>
     <message>
         <source>%1 of %2 items finished, %3 of them stopped.</source>
         <translation>%1 tâches sur %2 terminées, dont %3 arrêtées.</translation>
     </message>
     <message>
-        <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>Attente de %1 ms : rien n’est cliquable.</translation>
+        <source>Waiting for %1 ms. Clicks are held back.</source>
+        <translation>Attente de %1 ms. Les clics sont retenus.</translation>
     </message>
     <message>
-        <source>Over; %1 clicks got through.</source>
-        <translation>Terminé ; %1 clics sont passés.</translation>
+        <source>The wait is over. Clicks held back and delivered now: %1</source>
+        <translation>L’attente est terminée. Clics retenus et transmis maintenant : %1</translation>
     </message>
     <message>
-        <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>Attente d’une tâche : tout est cliquable.</translation>
+        <source>Waiting for a worker. Clicks are delivered at once.</source>
+        <translation>Attente d’une tâche de fond. Les clics sont transmis aussitôt.</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
         <translation>La tâche est terminée.</translation>
     </message>
     <message>
-        <source>%1 clicks.</source>
-        <translation>%1 clics.</translation>
+        <source>Clicks: %1</source>
+        <translation>Clics : %1</translation>
     </message>
 </context>
 <context>
@@ -497,6 +128,105 @@
     </message>
 </context>
 <context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>Nom de fichier</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>Comme nom et comme chemin</translation>
+    </message>
+    <message>
+        <source>Two paths</source>
+        <translation>Deux chemins</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>En entier et sans extension</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>Tailles en texte</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>Un dossier en archive</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>Compresser</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>Extraire et comparer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>L’archive</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>utilisable</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>égaux</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différents</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>Non effectué : annulé, ou un fichier ne peut être lu ou écrit.</translation>
+    </message>
+    <message>
+        <source>Files packed: %1, archive: %2</source>
+        <translation>Fichiers compressés : %1, archive : %2</translation>
+    </message>
+    <message>
+        <source>Files unpacked: %1. Both folders are equal.</source>
+        <translation>Fichiers extraits : %1. Les deux dossiers sont identiques.</translation>
+    </message>
+    <message>
+        <source>The folders differ: %1</source>
+        <translation>Les dossiers diffèrent : %1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>L’archive est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>Il n’y a pas d’archive.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
@@ -515,8 +245,8 @@
         <translation>Un nombre</translation>
     </message>
     <message>
-        <source>A button of the toolkit</source>
-        <translation>Un bouton du toolkit</translation>
+        <source>A button of Qt</source>
+        <translation>Un bouton de Qt</translation>
     </message>
     <message>
         <source>Language</source>
@@ -528,7 +258,7 @@
     </message>
     <message>
         <source>Catalogue</source>
-        <translation>Catalogue</translation>
+        <translation>Fichier de traduction</translation>
     </message>
     <message>
         <source>Abbreviation</source>
@@ -542,7 +272,7 @@
         <translation>Dossier des journaux</translation>
     </message>
     <message>
-        <source>Least important level</source>
+        <source>Minimum level</source>
         <translation>Niveau minimal</translation>
     </message>
     <message>
@@ -700,13 +430,104 @@
     </message>
 </context>
 <context>
+    <name>Pages</name>
+    <message>
+        <source>Logging</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Chaque ligne passe par un seul pont vers l’enregistreur du processus.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>Préférences de ce produit, et fichier partagé par la famille de produits.</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Emplacements de stockage</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>Tous les dossiers et fichiers que le produit connaît.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>Un seul choix pour tous les produits ; textes, dates et nombres suivent aussitôt.</translation>
+    </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>Asynchrone</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>Appels différés, tâches et attentes : la fenêtre répond pendant le travail.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Noms, tailles, archives, corbeille et gestionnaire de fichiers.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>Tous les éléments standard avec le style et les feuilles de style du produit.</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Boîtes de message</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>Les boîtes propres au produit : 520 pixels de large, réponse à la souris ou au clavier.</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Outils de dessin</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>Lignes de guidage et curseurs des outils de correction, sur une image peinte par le programme.</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>Dialogues du système</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>Les dialogues du système pour les fichiers et les dossiers.</translation>
+    </message>
+    <message>
+        <source>Web service</source>
+        <translation>Service web</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>Un client SOAP et le petit service qu’il interroge, tous deux dans ce processus.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Values are kept in</source>
         <translation>Les valeurs sont dans</translation>
     </message>
     <message>
-        <source>Least important log level</source>
+        <source>Minimum log level</source>
         <translation>Niveau minimal du journal</translation>
     </message>
     <message>
@@ -828,8 +649,8 @@
         <translation>Réglages de la famille de produits</translation>
     </message>
     <message>
-        <source>Look again</source>
-        <translation>Vérifier à nouveau</translation>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -844,115 +665,290 @@
         <translation>non</translation>
     </message>
     <message>
-        <source>What for</source>
+        <source>Purpose</source>
         <translation>Usage</translation>
     </message>
     <message>
-        <source>Where</source>
-        <translation>Emplacement</translation>
+        <source>Path</source>
+        <translation>Chemin</translation>
     </message>
     <message>
-        <source>There</source>
-        <translation>Présent</translation>
+        <source>Exists</source>
+        <translation>Existe</translation>
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>StylePage</name>
     <message>
-        <source>File name</source>
-        <translation>Nom de fichier</translation>
+        <source>Normal</source>
+        <translation>Normal</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>Comme nom et comme chemin</translation>
+        <source>Hover</source>
+        <translation>Survol</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>Deux chemins</translation>
+        <source>Pressed</source>
+        <translation>Enfoncé</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>En entier et sans extension</translation>
+        <source>Focus</source>
+        <translation>Focus</translation>
     </message>
     <message>
-        <source>equal</source>
-        <translation>égaux</translation>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
     </message>
     <message>
-        <source>different</source>
-        <translation>différents</translation>
+        <source>Push buttons</source>
+        <translation>Boutons</translation>
     </message>
     <message>
-        <source>Sizes as text</source>
-        <translation>Tailles en texte</translation>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
     </message>
     <message>
-        <source>A folder as an archive</source>
-        <translation>Un dossier en archive</translation>
+        <source>Default</source>
+        <translation>Par défaut</translation>
     </message>
     <message>
-        <source>Choose...</source>
-        <translation>Choisir…</translation>
+        <source>Checked</source>
+        <translation>Coché</translation>
     </message>
     <message>
-        <source>Pack</source>
-        <translation>Compresser</translation>
+        <source>Flat</source>
+        <translation>Plat</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>Extraire et comparer</translation>
+        <source>Other buttons</source>
+        <translation>Autres boutons</translation>
     </message>
     <message>
-        <source>Cancel</source>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>A tool tip explains in one sentence.</source>
+        <translation>Une info-bulle explique en une phrase.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Correct automatically</source>
+        <translation>Corriger automatiquement</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>Cases à cocher et boutons radio</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Partly</source>
+        <translation>En partie</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>Vieux port au crépuscule</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Name of the place</source>
+        <translation>Nom du lieu</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Can be read only</source>
+        <translation>En lecture seule</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil photo</translation>
+    </message>
+    <message>
+        <source>Cannot be changed</source>
+        <translation>Non modifiable</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
+        <source>Choices and numbers</source>
+        <translation>Choix et nombres</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>Perspective</translation>
+    </message>
+    <message>
+        <source>Ranges and progress</source>
+        <translation>Plages et progression</translation>
+    </message>
+    <message>
+        <source>Lenses</source>
+        <translation>Objectifs</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Focale</translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <translation>Ouverture</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Forme</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>Correction trapézoïdale</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizon</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrage</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Distorsion</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Repères</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Loupe</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
+        <translation>Les lignes droites restent droites, et la tour cesse de pencher en arrière.</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>Bascule et décentrement</translation>
+    </message>
+    <message>
+        <source>Blurred at both ends</source>
+        <translation>Flou aux deux bords</translation>
+    </message>
+    <message>
+        <source>Undo</source>
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>L’archive</translation>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Show in the file browser</source>
-        <translation>Afficher dans le gestionnaire de fichiers</translation>
+        <source>Fit to window</source>
+        <translation>Adapter à la fenêtre</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>Mettre à la corbeille</translation>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
     </message>
     <message>
-        <source>may be used</source>
-        <translation>utilisable</translation>
+        <source>Rotate</source>
+        <translation>Rotation</translation>
     </message>
     <message>
-        <source>refused</source>
-        <translation>refusé</translation>
+        <source>Rotate left</source>
+        <translation>Rotation à gauche</translation>
     </message>
     <message>
-        <source>Choose a folder</source>
-        <translation>Choisir un dossier</translation>
+        <source>File</source>
+        <translation>Fichier</translation>
     </message>
     <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>Non effectué : annulé, ou un fichier ne peut être lu ou écrit.</translation>
+        <source>Edit</source>
+        <translation>Édition</translation>
     </message>
     <message>
-        <source>%1 files packed into %2.</source>
-        <translation>%1 fichiers compressés dans %2.</translation>
+        <source>View</source>
+        <translation>Affichage</translation>
     </message>
     <message>
-        <source>%1 files unpacked; both trees are equal.</source>
-        <translation>%1 fichiers extraits ; les deux dossiers sont identiques.</translation>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>Quantité</translation>
     </message>
     <message>
-        <source>The trees differ: %1</source>
-        <translation>Les dossiers diffèrent : %1</translation>
+        <source>Unit</source>
+        <translation>Unité</translation>
     </message>
     <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>L’archive est dans la corbeille.</translation>
+        <source>Ask the service</source>
+        <translation>Interroger le service</translation>
     </message>
     <message>
-        <source>There is no archive.</source>
-        <translation>Il n’y a pas d’archive.</translation>
+        <source>Request</source>
+        <translation>Requête</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Erreur : %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 </TS>

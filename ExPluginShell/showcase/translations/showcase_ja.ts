@@ -2,375 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>StylePage</name>
-    <message>
-        <source>Normal</source>
-        <translation>通常</translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <translation>マウスオーバー</translation>
-    </message>
-    <message>
-        <source>Pressed</source>
-        <translation>押下</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>フォーカス</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>無効</translation>
-    </message>
-    <message>
-        <source>Push buttons</source>
-        <translation>プッシュボタン</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>適用</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>既定</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>選択中</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>フラット</translation>
-    </message>
-    <message>
-        <source>Other buttons</source>
-        <translation>その他のボタン</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>ツールチップは一文で説明します。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>オプション</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>自動補正</translation>
-    </message>
-    <message>
-        <source>Check boxes and radio buttons</source>
-        <translation>チェックボックスとラジオボタン</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>オフ</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>オン</translation>
-    </message>
-    <message>
-        <source>Partly</source>
-        <translation>一部</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>テキスト</translation>
-    </message>
-    <message>
-        <source>Old harbour at dusk</source>
-        <translation>夕暮れの古い港</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>タイトル</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>場所</translation>
-    </message>
-    <message>
-        <source>Name of the place</source>
-        <translation>場所の名前</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
-        <source>Can be read only</source>
-        <translation>読み取り専用</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>カメラ</translation>
-    </message>
-    <message>
-        <source>Cannot be changed</source>
-        <translation>変更できません</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>ショートカット</translation>
-    </message>
-    <message>
-        <source>Choices and numbers</source>
-        <translation>選択と数値</translation>
-    </message>
-    <message>
-        <source>Ranges and progress</source>
-        <translation>範囲と進行状況</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>レンズ</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>履歴</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>メタデータ</translation>
-    </message>
-    <message>
-        <source>Lens</source>
-        <translation>レンズ</translation>
-    </message>
-    <message>
-        <source>Focal length</source>
-        <translation>焦点距離</translation>
-    </message>
-    <message>
-        <source>Aperture</source>
-        <translation>絞り</translation>
-    </message>
-    <message>
-        <source>Shape</source>
-        <translation>形状</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>台形補正</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>水平</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>切り抜き</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>歪曲収差</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>グリッド</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>ガイド</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>プレビュー</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>ルーペ</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>直線はまっすぐなまま、塔が後ろに傾くこともなくなります。</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>ティルトシフト</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>両端をぼかす</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>Fit to window</source>
-        <translation>ウィンドウに合わせる</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>実寸表示</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>回転</translation>
-    </message>
-    <message>
-        <source>Rotate left</source>
-        <translation>左に回転</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>編集</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>表示</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
-    </message>
-    <message>
-        <source>Perspective</source>
-        <translation>遠近感</translation>
-    </message>
-</context>
-<context>
-    <name>Pages</name>
-    <message>
-        <source>Web service</source>
-        <translation>ウェブサービス</translation>
-    </message>
-    <message>
-        <source>A SOAP client and the small service that it asks, both in this process.</source>
-        <translation>SOAP クライアントと、それが問い合わせる小さなサービス。どちらもこのプロセス内で動きます。</translation>
-    </message>
-    <message>
-        <source>Logging</source>
-        <translation>ログ</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>すべての行は 1 つのブリッジを通ってプロセスのロガーに届きます。</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Preferences of this product, and the file that the product family shares.</source>
-        <translation>この製品の環境設定と、製品ファミリーで共有するファイル。</translation>
-    </message>
-    <message>
-        <source>Storage</source>
-        <translation>保存場所</translation>
-    </message>
-    <message>
-        <source>Every folder and file that the product knows.</source>
-        <translation>製品が使用するすべてのフォルダーとファイル。</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>言語</translation>
-    </message>
-    <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>選択は全製品に共通で、文字、日付、数値はすぐに切り替わります。</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>外観</translation>
-    </message>
-    <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>製品のスタイルとスタイルシートを適用した標準ウィジェット。</translation>
-    </message>
-    <message>
-        <source>Message boxes</source>
-        <translation>メッセージボックス</translation>
-    </message>
-    <message>
-        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>製品独自のボックス：幅 520 ピクセル、マウスでもキーボードでも操作できます。</translation>
-    </message>
-    <message>
-        <source>Drawing tools</source>
-        <translation>描画ツール</translation>
-    </message>
-    <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>補正ツールのガイド線とカーソル。画像はプログラムで描いたものです。</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>システムのダイアログ</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>ファイルとフォルダーを選ぶシステムのダイアログ。</translation>
-    </message>
-    <message>
-        <source>Asynchronous</source>
-        <translation>非同期</translation>
-    </message>
-    <message>
-        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>遅延呼び出し、作業項目、待機：処理中もウィンドウは応答します。</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>名前、サイズ、アーカイブ、ごみ箱、ファイルブラウザー。</translation>
-    </message>
-</context>
-<context>
-    <name>WebServicePage</name>
-    <message>
-        <source>Amount</source>
-        <translation>数量</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>単位</translation>
-    </message>
-    <message>
-        <source>Ask the service</source>
-        <translation>サービスに問い合わせる</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>リクエスト</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>応答</translation>
-    </message>
-    <message>
-        <source>The service has not been asked yet.</source>
-        <translation>サービスへの問い合わせはまだ行われていません。</translation>
-    </message>
-    <message>
-        <source>Fault: %1</source>
-        <translation>エラー: %1</translation>
-    </message>
-    <message>
-        <source>%1 cm</source>
-        <translation>%1 cm</translation>
-    </message>
-</context>
-<context>
     <name>AsyncPage</name>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -381,24 +12,24 @@
         <translation>停止中。</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>開始</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>待機中のクリックは保留され、待機後に届きます。</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>停止</translation>
+        <source>Clicks: 0</source>
+        <translation>クリック：0</translation>
     </message>
     <message>
         <source>%1 items on a pool of two threads.</source>
         <translation>2 スレッドのプールで %1 件の処理。</translation>
     </message>
     <message>
-        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
-        <translation>待機中はクリックが無視され、プログレスバーは動き続けます。</translation>
+        <source>Start</source>
+        <translation>開始</translation>
     </message>
     <message>
-        <source>No clicks yet.</source>
-        <translation>まだクリックされていません。</translation>
+        <source>Stop</source>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Delayed calls</source>
@@ -429,44 +60,44 @@
         <translation>その間にクリック</translation>
     </message>
     <message>
-        <source>%1 requests became %2 calls.</source>
-        <translation>%1 件の要求が %2 回の呼び出しになりました。</translation>
+        <source>Requests: %1, calls: %2</source>
+        <translation>要求：%1、呼び出し：%2</translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>%1 ミリ秒ごと。</translation>
     </message>
     <message>
-        <source>Discarded after %1 calls.</source>
-        <translation>%1 回の呼び出しの後に破棄。</translation>
+        <source>Stopped. Calls: %1</source>
+        <translation>停止しました。呼び出し：%1</translation>
     </message>
     <message>
-        <source>%1 calls.</source>
-        <translation>%1 回の呼び出し。</translation>
+        <source>Calls: %1</source>
+        <translation>呼び出し：%1</translation>
     </message>
     <message>
         <source>%1 of %2 items finished, %3 of them stopped.</source>
         <translation>%2 件中 %1 件が終了、うち %3 件は停止。</translation>
     </message>
     <message>
-        <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>%1 ミリ秒待機中：クリックできません。</translation>
+        <source>Waiting for %1 ms. Clicks are held back.</source>
+        <translation>%1 ms 待機中です。クリックは保留されます。</translation>
     </message>
     <message>
-        <source>Over; %1 clicks got through.</source>
-        <translation>終了。%1 回のクリックが届きました。</translation>
+        <source>The wait is over. Clicks held back and delivered now: %1</source>
+        <translation>待機が終わりました。保留して届けたクリック：%1</translation>
     </message>
     <message>
-        <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>ワーカーを待機中：すべてクリックできます。</translation>
+        <source>Waiting for a worker. Clicks are delivered at once.</source>
+        <translation>ワーカーを待っています。クリックはすぐに届きます。</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
         <translation>ワーカーが終了しました。</translation>
     </message>
     <message>
-        <source>%1 clicks.</source>
-        <translation>%1 回のクリック。</translation>
+        <source>Clicks: %1</source>
+        <translation>クリック：%1</translation>
     </message>
 </context>
 <context>
@@ -497,6 +128,105 @@
     </message>
 </context>
 <context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>名前として、パスとして</translation>
+    </message>
+    <message>
+        <source>Two paths</source>
+        <translation>2つのパス</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>全体、および拡張子なし</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>サイズの表記</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>フォルダーをアーカイブに</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>圧縮</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>展開して比較</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>アーカイブ</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>ファイルブラウザーで表示</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>使用できます</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>使用できません</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>同じ</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>異なる</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>実行されませんでした：キャンセルされたか、ファイルを読み書きできません。</translation>
+    </message>
+    <message>
+        <source>Files packed: %1, archive: %2</source>
+        <translation>圧縮したファイル：%1、アーカイブ：%2</translation>
+    </message>
+    <message>
+        <source>Files unpacked: %1. Both folders are equal.</source>
+        <translation>展開したファイル：%1。両方のフォルダーは同じです。</translation>
+    </message>
+    <message>
+        <source>The folders differ: %1</source>
+        <translation>フォルダーが異なります：%1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>アーカイブはごみ箱にあります。</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>アーカイブがありません。</translation>
+    </message>
+</context>
+<context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
@@ -515,8 +245,8 @@
         <translation>数値</translation>
     </message>
     <message>
-        <source>A button of the toolkit</source>
-        <translation>ツールキットのボタン</translation>
+        <source>A button of Qt</source>
+        <translation>Qt のボタン</translation>
     </message>
     <message>
         <source>Language</source>
@@ -528,7 +258,7 @@
     </message>
     <message>
         <source>Catalogue</source>
-        <translation>カタログ</translation>
+        <translation>翻訳ファイル</translation>
     </message>
     <message>
         <source>Abbreviation</source>
@@ -542,7 +272,7 @@
         <translation>ログのフォルダー</translation>
     </message>
     <message>
-        <source>Least important level</source>
+        <source>Minimum level</source>
         <translation>最低レベル</translation>
     </message>
     <message>
@@ -700,13 +430,104 @@
     </message>
 </context>
 <context>
+    <name>Pages</name>
+    <message>
+        <source>Logging</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>すべての行は 1 つのブリッジを通ってプロセスのロガーに届きます。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>この製品の環境設定と、製品ファミリーで共有するファイル。</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>保存場所</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>製品が使用するすべてのフォルダーとファイル。</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>選択は全製品に共通で、文字、日付、数値はすぐに切り替わります。</translation>
+    </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>非同期</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>遅延呼び出し、作業項目、待機：処理中もウィンドウは応答します。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>名前、サイズ、アーカイブ、ごみ箱、ファイルブラウザー。</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>製品のスタイルとスタイルシートを適用した標準ウィジェット。</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>メッセージボックス</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>製品独自のボックス：幅 520 ピクセル、マウスでもキーボードでも操作できます。</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>描画ツール</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>補正ツールのガイド線とカーソル。画像はプログラムで描いたものです。</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>システムのダイアログ</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>ファイルとフォルダーを選ぶシステムのダイアログ。</translation>
+    </message>
+    <message>
+        <source>Web service</source>
+        <translation>Web サービス</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>SOAP クライアントと、それが問い合わせる小さなサービス。どちらもこのプロセス内で動きます。</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Values are kept in</source>
         <translation>値の保存先</translation>
     </message>
     <message>
-        <source>Least important log level</source>
+        <source>Minimum log level</source>
         <translation>ログの最低レベル</translation>
     </message>
     <message>
@@ -828,8 +649,8 @@
         <translation>製品ファミリーの設定</translation>
     </message>
     <message>
-        <source>Look again</source>
-        <translation>再確認</translation>
+        <source>Refresh</source>
+        <translation>更新</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -844,115 +665,290 @@
         <translation>なし</translation>
     </message>
     <message>
-        <source>What for</source>
+        <source>Purpose</source>
         <translation>用途</translation>
     </message>
     <message>
-        <source>Where</source>
-        <translation>場所</translation>
+        <source>Path</source>
+        <translation>パス</translation>
     </message>
     <message>
-        <source>There</source>
-        <translation>有無</translation>
+        <source>Exists</source>
+        <translation>存在</translation>
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>StylePage</name>
     <message>
-        <source>File name</source>
-        <translation>ファイル名</translation>
+        <source>Normal</source>
+        <translation>通常</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>名前として、パスとして</translation>
+        <source>Hover</source>
+        <translation>マウスオーバー</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>2つのパス</translation>
+        <source>Pressed</source>
+        <translation>押下</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>全体、および拡張子なし</translation>
+        <source>Focus</source>
+        <translation>フォーカス</translation>
     </message>
     <message>
-        <source>equal</source>
-        <translation>同じ</translation>
+        <source>Disabled</source>
+        <translation>無効</translation>
     </message>
     <message>
-        <source>different</source>
-        <translation>異なる</translation>
+        <source>Push buttons</source>
+        <translation>プッシュボタン</translation>
     </message>
     <message>
-        <source>Sizes as text</source>
-        <translation>サイズの表記</translation>
+        <source>Apply</source>
+        <translation>適用</translation>
     </message>
     <message>
-        <source>A folder as an archive</source>
-        <translation>フォルダーをアーカイブに</translation>
+        <source>Default</source>
+        <translation>既定</translation>
     </message>
     <message>
-        <source>Choose...</source>
-        <translation>選択…</translation>
+        <source>Checked</source>
+        <translation>選択中</translation>
     </message>
     <message>
-        <source>Pack</source>
-        <translation>圧縮</translation>
+        <source>Flat</source>
+        <translation>フラット</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>展開して比較</translation>
+        <source>Other buttons</source>
+        <translation>その他のボタン</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>アーカイブ</translation>
+        <source>A tool tip explains in one sentence.</source>
+        <translation>ツールチップは一文で説明します。</translation>
     </message>
     <message>
-        <source>Show in the file browser</source>
-        <translation>ファイルブラウザーで表示</translation>
+        <source>Options</source>
+        <translation>オプション</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>ごみ箱に移動</translation>
+        <source>Correct automatically</source>
+        <translation>自動補正</translation>
     </message>
     <message>
-        <source>may be used</source>
-        <translation>使用できます</translation>
+        <source>Check boxes and radio buttons</source>
+        <translation>チェックボックスとラジオボタン</translation>
     </message>
     <message>
-        <source>refused</source>
-        <translation>使用できません</translation>
+        <source>Off</source>
+        <translation>オフ</translation>
     </message>
     <message>
-        <source>Choose a folder</source>
-        <translation>フォルダーを選択</translation>
+        <source>On</source>
+        <translation>オン</translation>
     </message>
     <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>実行されませんでした：キャンセルされたか、ファイルを読み書きできません。</translation>
+        <source>Partly</source>
+        <translation>一部</translation>
     </message>
     <message>
-        <source>%1 files packed into %2.</source>
-        <translation>%1 個のファイルを %2 に圧縮しました。</translation>
+        <source>Text</source>
+        <translation>テキスト</translation>
     </message>
     <message>
-        <source>%1 files unpacked; both trees are equal.</source>
-        <translation>%1 個のファイルを展開しました。内容は一致しています。</translation>
+        <source>Old harbour at dusk</source>
+        <translation>夕暮れの古い港</translation>
     </message>
     <message>
-        <source>The trees differ: %1</source>
-        <translation>内容が異なります：%1</translation>
+        <source>Title</source>
+        <translation>タイトル</translation>
     </message>
     <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>アーカイブはごみ箱にあります。</translation>
+        <source>Place</source>
+        <translation>場所</translation>
     </message>
     <message>
-        <source>There is no archive.</source>
-        <translation>アーカイブがありません。</translation>
+        <source>Name of the place</source>
+        <translation>場所の名前</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Can be read only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Cannot be changed</source>
+        <translation>変更できません</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>Choices and numbers</source>
+        <translation>選択と数値</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>遠近感</translation>
+    </message>
+    <message>
+        <source>Ranges and progress</source>
+        <translation>範囲と進行状況</translation>
+    </message>
+    <message>
+        <source>Lenses</source>
+        <translation>レンズ</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>メタデータ</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>レンズ</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>焦点距離</translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <translation>絞り</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>形状</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>台形補正</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>切り抜き</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>歪曲収差</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>グリッド</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>ガイド</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Loupe</source>
+        <translation>ルーペ</translation>
+    </message>
+    <message>
+        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
+        <translation>直線はまっすぐなまま、塔が後ろに傾くこともなくなります。</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>ティルトシフト</translation>
+    </message>
+    <message>
+        <source>Blurred at both ends</source>
+        <translation>両端をぼかす</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>ウィンドウに合わせる</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実寸表示</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>左に回転</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>サービスに問い合わせる</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>リクエスト</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>エラー: %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 </TS>

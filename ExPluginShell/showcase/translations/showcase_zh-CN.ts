@@ -1,375 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="zh_CN" sourcelanguage="en">
-<context>
-    <name>StylePage</name>
-    <message>
-        <source>Normal</source>
-        <translation>正常</translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <translation>悬停</translation>
-    </message>
-    <message>
-        <source>Pressed</source>
-        <translation>按下</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>焦点</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>禁用</translation>
-    </message>
-    <message>
-        <source>Push buttons</source>
-        <translation>按钮</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>应用</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>默认</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>已选中</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>扁平</translation>
-    </message>
-    <message>
-        <source>Other buttons</source>
-        <translation>其他按钮</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>工具提示用一句话说明。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>自动校正</translation>
-    </message>
-    <message>
-        <source>Check boxes and radio buttons</source>
-        <translation>复选框和单选按钮</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>关</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>开</translation>
-    </message>
-    <message>
-        <source>Partly</source>
-        <translation>部分</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>文本</translation>
-    </message>
-    <message>
-        <source>Old harbour at dusk</source>
-        <translation>暮色中的老港口</translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation>标题</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>地点</translation>
-    </message>
-    <message>
-        <source>Name of the place</source>
-        <translation>地点名称</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>密码</translation>
-    </message>
-    <message>
-        <source>Can be read only</source>
-        <translation>只读</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>相机</translation>
-    </message>
-    <message>
-        <source>Cannot be changed</source>
-        <translation>无法更改</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>快捷键</translation>
-    </message>
-    <message>
-        <source>Choices and numbers</source>
-        <translation>选择与数值</translation>
-    </message>
-    <message>
-        <source>Ranges and progress</source>
-        <translation>范围与进度</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>镜头</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>历史记录</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>元数据</translation>
-    </message>
-    <message>
-        <source>Lens</source>
-        <translation>镜头</translation>
-    </message>
-    <message>
-        <source>Focal length</source>
-        <translation>焦距</translation>
-    </message>
-    <message>
-        <source>Aperture</source>
-        <translation>光圈</translation>
-    </message>
-    <message>
-        <source>Shape</source>
-        <translation>形状</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>梯形校正</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>地平线</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>裁剪</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>畸变</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>网格</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>参考线</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>放大镜</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>直线保持笔直，塔楼不再向后倾斜。</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>移轴</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>两端模糊</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>重做</translation>
-    </message>
-    <message>
-        <source>Fit to window</source>
-        <translation>适合窗口</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>实际大小</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>旋转</translation>
-    </message>
-    <message>
-        <source>Rotate left</source>
-        <translation>向左旋转</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>编辑</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>视图</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>就绪</translation>
-    </message>
-    <message>
-        <source>Perspective</source>
-        <translation>透视</translation>
-    </message>
-</context>
-<context>
-    <name>Pages</name>
-    <message>
-        <source>Web service</source>
-        <translation>网络服务</translation>
-    </message>
-    <message>
-        <source>A SOAP client and the small service that it asks, both in this process.</source>
-        <translation>SOAP 客户端及其调用的小型服务，两者都在本进程中。</translation>
-    </message>
-    <message>
-        <source>Logging</source>
-        <translation>日志</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>每一行都经由同一桥接到达进程的日志记录器。</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Preferences of this product, and the file that the product family shares.</source>
-        <translation>此产品的首选项，以及产品系列共享的文件。</translation>
-    </message>
-    <message>
-        <source>Storage</source>
-        <translation>存储</translation>
-    </message>
-    <message>
-        <source>Every folder and file that the product knows.</source>
-        <translation>产品使用的所有文件夹和文件。</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>一次选择适用于所有产品；文字、日期和数字立即随之改变。</translation>
-    </message>
-    <message>
-        <source>Look</source>
-        <translation>外观</translation>
-    </message>
-    <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>使用产品样式和样式表的所有标准控件。</translation>
-    </message>
-    <message>
-        <source>Message boxes</source>
-        <translation>消息框</translation>
-    </message>
-    <message>
-        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
-        <translation>产品自有的消息框：宽 520 像素，可用鼠标或键盘应答。</translation>
-    </message>
-    <message>
-        <source>Drawing tools</source>
-        <translation>绘图工具</translation>
-    </message>
-    <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>校正工具的参考线和光标，图片由程序绘制。</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>系统对话框</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>用于文件和文件夹的系统对话框。</translation>
-    </message>
-    <message>
-        <source>Asynchronous</source>
-        <translation>异步</translation>
-    </message>
-    <message>
-        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
-        <translation>延迟调用、工作项和等待：处理期间窗口仍可响应。</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
-    </message>
-</context>
-<context>
-    <name>WebServicePage</name>
-    <message>
-        <source>Amount</source>
-        <translation>数量</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>单位</translation>
-    </message>
-    <message>
-        <source>Ask the service</source>
-        <translation>调用服务</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>请求</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>应答</translation>
-    </message>
-    <message>
-        <source>The service has not been asked yet.</source>
-        <translation>尚未查询该服务。</translation>
-    </message>
-    <message>
-        <source>Fault: %1</source>
-        <translation>错误：%1</translation>
-    </message>
-    <message>
-        <source>%1 cm</source>
-        <translation>%1 cm</translation>
-    </message>
-</context>
+<TS version="2.1" language="zh-CN" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
     <message>
@@ -381,24 +12,24 @@
         <translation>未运行。</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>开始</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>等待期间的点击会被保留，等待结束后再送达。</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>停止</translation>
+        <source>Clicks: 0</source>
+        <translation>点击：0</translation>
     </message>
     <message>
         <source>%1 items on a pool of two threads.</source>
         <translation>两个线程上的 %1 个任务。</translation>
     </message>
     <message>
-        <source>While the page waits, clicks are swallowed and the progress bar goes on.</source>
-        <translation>页面等待期间，点击被忽略，进度条继续前进。</translation>
+        <source>Start</source>
+        <translation>开始</translation>
     </message>
     <message>
-        <source>No clicks yet.</source>
-        <translation>尚无点击。</translation>
+        <source>Stop</source>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Delayed calls</source>
@@ -429,44 +60,44 @@
         <translation>期间点击我</translation>
     </message>
     <message>
-        <source>%1 requests became %2 calls.</source>
-        <translation>%1 次请求合并为 %2 次调用。</translation>
+        <source>Requests: %1, calls: %2</source>
+        <translation>请求：%1，调用：%2</translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>每 %1 毫秒。</translation>
     </message>
     <message>
-        <source>Discarded after %1 calls.</source>
-        <translation>%1 次调用后取消。</translation>
+        <source>Stopped. Calls: %1</source>
+        <translation>已停止。调用：%1</translation>
     </message>
     <message>
-        <source>%1 calls.</source>
-        <translation>%1 次调用。</translation>
+        <source>Calls: %1</source>
+        <translation>调用：%1</translation>
     </message>
     <message>
         <source>%1 of %2 items finished, %3 of them stopped.</source>
         <translation>%2 个任务中已完成 %1 个，其中 %3 个被停止。</translation>
     </message>
     <message>
-        <source>Waiting for %1 ms: nothing can be clicked.</source>
-        <translation>等待 %1 毫秒：无法点击。</translation>
+        <source>Waiting for %1 ms. Clicks are held back.</source>
+        <translation>等待 %1 毫秒。点击会被保留。</translation>
     </message>
     <message>
-        <source>Over; %1 clicks got through.</source>
-        <translation>已结束；%1 次点击通过。</translation>
+        <source>The wait is over. Clicks held back and delivered now: %1</source>
+        <translation>等待结束。被保留并已送达的点击：%1</translation>
     </message>
     <message>
-        <source>Waiting for a worker: everything can be clicked.</source>
-        <translation>等待工作线程：一切均可点击。</translation>
+        <source>Waiting for a worker. Clicks are delivered at once.</source>
+        <translation>正在等待后台线程。点击会立即送达。</translation>
     </message>
     <message>
         <source>The worker has finished.</source>
         <translation>工作线程已完成。</translation>
     </message>
     <message>
-        <source>%1 clicks.</source>
-        <translation>%1 次点击。</translation>
+        <source>Clicks: %1</source>
+        <translation>点击：%1</translation>
     </message>
 </context>
 <context>
@@ -497,6 +128,105 @@
     </message>
 </context>
 <context>
+    <name>FilesPage</name>
+    <message>
+        <source>File name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>As a name and as a path</source>
+        <translation>作为名称和路径</translation>
+    </message>
+    <message>
+        <source>Two paths</source>
+        <translation>两个路径</translation>
+    </message>
+    <message>
+        <source>As a whole and without suffix</source>
+        <translation>完整比较和不含扩展名比较</translation>
+    </message>
+    <message>
+        <source>Sizes as text</source>
+        <translation>大小的文字表示</translation>
+    </message>
+    <message>
+        <source>A folder as an archive</source>
+        <translation>将文件夹打包</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Pack</source>
+        <translation>压缩</translation>
+    </message>
+    <message>
+        <source>Unpack and compare</source>
+        <translation>解包并比较</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The archive</source>
+        <translation>压缩文件</translation>
+    </message>
+    <message>
+        <source>Show in the file browser</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+    <message>
+        <source>Send to the recycle bin</source>
+        <translation>移到回收站</translation>
+    </message>
+    <message>
+        <source>may be used</source>
+        <translation>可以使用</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
+        <translation>未完成：已取消，或有文件无法读写。</translation>
+    </message>
+    <message>
+        <source>Files packed: %1, archive: %2</source>
+        <translation>已压缩的文件：%1，压缩文件：%2</translation>
+    </message>
+    <message>
+        <source>Files unpacked: %1. Both folders are equal.</source>
+        <translation>已解压的文件：%1。两个文件夹相同。</translation>
+    </message>
+    <message>
+        <source>The folders differ: %1</source>
+        <translation>文件夹不同：%1</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>压缩文件已在回收站中。</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>没有压缩文件。</translation>
+    </message>
+</context>
+<context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
@@ -515,8 +245,8 @@
         <translation>数字</translation>
     </message>
     <message>
-        <source>A button of the toolkit</source>
-        <translation>工具包的按钮</translation>
+        <source>A button of Qt</source>
+        <translation>Qt 的按钮</translation>
     </message>
     <message>
         <source>Language</source>
@@ -528,7 +258,7 @@
     </message>
     <message>
         <source>Catalogue</source>
-        <translation>目录</translation>
+        <translation>翻译文件</translation>
     </message>
     <message>
         <source>Abbreviation</source>
@@ -542,7 +272,7 @@
         <translation>日志文件夹</translation>
     </message>
     <message>
-        <source>Least important level</source>
+        <source>Minimum level</source>
         <translation>最低级别</translation>
     </message>
     <message>
@@ -700,14 +430,105 @@
     </message>
 </context>
 <context>
+    <name>Pages</name>
+    <message>
+        <source>Logging</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>每一行都经由同一桥接到达进程的日志记录器。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Preferences of this product, and the file that the product family shares.</source>
+        <translation>此产品的首选项，以及产品系列共享的文件。</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>存储位置</translation>
+    </message>
+    <message>
+        <source>Every folder and file that the product knows.</source>
+        <translation>产品使用的所有文件夹和文件。</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>一次选择适用于所有产品；文字、日期和数字立即随之改变。</translation>
+    </message>
+    <message>
+        <source>Asynchronous</source>
+        <translation>异步</translation>
+    </message>
+    <message>
+        <source>Delayed calls, work items and waits: the window answers while something is under way.</source>
+        <translation>延迟调用、工作项和等待：处理期间窗口仍可响应。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Every standard widget under the product&apos;s style and style sheets.</source>
+        <translation>使用产品样式和样式表的所有标准控件。</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>消息框</translation>
+    </message>
+    <message>
+        <source>The product&apos;s own boxes: 520 pixels wide, answered by mouse or keyboard.</source>
+        <translation>产品自有的消息框：宽 520 像素，可用鼠标或键盘应答。</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>绘图工具</translation>
+    </message>
+    <message>
+        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
+        <translation>校正工具的参考线和光标，图片由程序绘制。</translation>
+    </message>
+    <message>
+        <source>Native dialogs</source>
+        <translation>系统对话框</translation>
+    </message>
+    <message>
+        <source>The dialogs of the system for files and folders.</source>
+        <translation>用于文件和文件夹的系统对话框。</translation>
+    </message>
+    <message>
+        <source>Web service</source>
+        <translation>Web 服务</translation>
+    </message>
+    <message>
+        <source>A SOAP client and the small service that it asks, both in this process.</source>
+        <translation>SOAP 客户端及其调用的小型服务，两者都在本进程中。</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Values are kept in</source>
         <translation>值保存于</translation>
     </message>
     <message>
-        <source>Least important log level</source>
-        <translation>最低日志级别</translation>
+        <source>Minimum log level</source>
+        <translation>日志的最低级别</translation>
     </message>
     <message>
         <source>Write a log, from the next start on</source>
@@ -828,8 +649,8 @@
         <translation>产品系列的设置</translation>
     </message>
     <message>
-        <source>Look again</source>
-        <translation>重新检查</translation>
+        <source>Refresh</source>
+        <translation>刷新</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -844,115 +665,290 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>What for</source>
+        <source>Purpose</source>
         <translation>用途</translation>
     </message>
     <message>
-        <source>Where</source>
-        <translation>位置</translation>
+        <source>Path</source>
+        <translation>路径</translation>
     </message>
     <message>
-        <source>There</source>
+        <source>Exists</source>
         <translation>存在</translation>
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>StylePage</name>
     <message>
-        <source>File name</source>
-        <translation>文件名</translation>
+        <source>Normal</source>
+        <translation>正常</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>作为名称和路径</translation>
+        <source>Hover</source>
+        <translation>悬停</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>两个路径</translation>
+        <source>Pressed</source>
+        <translation>按下</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>完整比较和不含扩展名比较</translation>
+        <source>Focus</source>
+        <translation>焦点</translation>
     </message>
     <message>
-        <source>equal</source>
-        <translation>相同</translation>
+        <source>Disabled</source>
+        <translation>禁用</translation>
     </message>
     <message>
-        <source>different</source>
-        <translation>不同</translation>
+        <source>Push buttons</source>
+        <translation>按钮</translation>
     </message>
     <message>
-        <source>Sizes as text</source>
-        <translation>大小的文字表示</translation>
+        <source>Apply</source>
+        <translation>应用</translation>
     </message>
     <message>
-        <source>A folder as an archive</source>
-        <translation>将文件夹打包</translation>
+        <source>Default</source>
+        <translation>默认</translation>
     </message>
     <message>
-        <source>Choose...</source>
-        <translation>选择…</translation>
+        <source>Checked</source>
+        <translation>已选中</translation>
     </message>
     <message>
-        <source>Pack</source>
-        <translation>打包</translation>
+        <source>Flat</source>
+        <translation>扁平</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>解包并比较</translation>
+        <source>Other buttons</source>
+        <translation>其他按钮</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
+        <source>Help</source>
+        <translation>帮助</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>压缩文件</translation>
+        <source>A tool tip explains in one sentence.</source>
+        <translation>工具提示用一句话说明。</translation>
     </message>
     <message>
-        <source>Show in the file browser</source>
-        <translation>在文件管理器中显示</translation>
+        <source>Options</source>
+        <translation>选项</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>移到回收站</translation>
+        <source>Correct automatically</source>
+        <translation>自动校正</translation>
     </message>
     <message>
-        <source>may be used</source>
-        <translation>可以使用</translation>
+        <source>Check boxes and radio buttons</source>
+        <translation>复选框和单选按钮</translation>
     </message>
     <message>
-        <source>refused</source>
-        <translation>不允许</translation>
+        <source>Off</source>
+        <translation>关</translation>
     </message>
     <message>
-        <source>Choose a folder</source>
-        <translation>选择文件夹</translation>
+        <source>On</source>
+        <translation>开</translation>
     </message>
     <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>未完成：已取消，或有文件无法读写。</translation>
+        <source>Partly</source>
+        <translation>部分</translation>
     </message>
     <message>
-        <source>%1 files packed into %2.</source>
-        <translation>已将 %1 个文件打包到 %2。</translation>
+        <source>Text</source>
+        <translation>文本</translation>
     </message>
     <message>
-        <source>%1 files unpacked; both trees are equal.</source>
-        <translation>已解包 %1 个文件；两个文件夹内容相同。</translation>
+        <source>Old harbour at dusk</source>
+        <translation>暮色中的老港口</translation>
     </message>
     <message>
-        <source>The trees differ: %1</source>
-        <translation>文件夹内容不同：%1</translation>
+        <source>Title</source>
+        <translation>标题</translation>
     </message>
     <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>压缩文件已在回收站中。</translation>
+        <source>Place</source>
+        <translation>地点</translation>
     </message>
     <message>
-        <source>There is no archive.</source>
-        <translation>没有压缩文件。</translation>
+        <source>Name of the place</source>
+        <translation>地点名称</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Can be read only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Cannot be changed</source>
+        <translation>无法更改</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Choices and numbers</source>
+        <translation>选择与数值</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>透视</translation>
+    </message>
+    <message>
+        <source>Ranges and progress</source>
+        <translation>范围与进度</translation>
+    </message>
+    <message>
+        <source>Lenses</source>
+        <translation>镜头</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>元数据</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>镜头</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <translation>光圈</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>形状</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>梯形校正</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>裁剪</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>畸变</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>参考线</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Loupe</source>
+        <translation>放大镜</translation>
+    </message>
+    <message>
+        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
+        <translation>直线保持笔直，塔楼不再向后倾斜。</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>移轴</translation>
+    </message>
+    <message>
+        <source>Blurred at both ends</source>
+        <translation>两端模糊</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Fit to window</source>
+        <translation>适合窗口</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>向左旋转</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+</context>
+<context>
+    <name>WebServicePage</name>
+    <message>
+        <source>Amount</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Ask the service</source>
+        <translation>调用服务</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>应答</translation>
+    </message>
+    <message>
+        <source>Fault: %1</source>
+        <translation>错误：%1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 </TS>
