@@ -14,7 +14,6 @@
 #include <array>
 #include <chrono>
 #include <map>
-#include <memory_resource>
 #include <mutex>
 #include <vector>
 
@@ -60,17 +59,14 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    using CallTable = std::pmr::map<int, methodData>;
-    using ObjectIndex = std::pmr::multimap<QObject*, int>;
+    using CallTable = std::map<int, methodData>;
+    using ObjectIndex = std::multimap<QObject*, int>;
 
     ObjectIndex::iterator findLive(ObjectIndex::iterator entry, const QObject* object, const char* method);
     void forget(CallTable::iterator call);
 
-    // Nodes apart from other memory: the toolkit's timer records, allocated in turn with them, then lie close
-    // together, and its search through them is several times as fast with thousands of calls pending.
-    std::pmr::unsynchronized_pool_resource m_nodes;
-    CallTable m_calls{&m_nodes};
-    ObjectIndex m_objects{&m_nodes};
+    CallTable m_calls;
+    ObjectIndex m_objects;
     InvokerRegistry& m_registry;
 };
 
