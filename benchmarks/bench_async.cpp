@@ -189,7 +189,7 @@ void bytesPerCall(benchmark::State& state)
 BENCHMARK(bytesPerCall)->Name("bytes per pending call/CDelayedCall")->Arg(0)->Iterations(1);
 BENCHMARK(bytesPerCall)->Name("bytes per pending call/QObject::startTimer")->Arg(1)->Iterations(1);
 
-/// Times one by one, of which the lower decile and the median are told: a busy machine lengthens the rest.
+/// Single times. Their lower decile and median are reported, because other programs lengthen the rest.
 class Latencies
 {
 public:

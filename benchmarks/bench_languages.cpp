@@ -72,8 +72,8 @@ void finish(benchmark::State& state, bool shown)
     }
 }
 
-/// Each change leaves the product's catalogue of the last language installed, as it has to be; a new manager
-/// and a clean application every time keep that out of the measurement.
+/// Each change leaves the product's catalogue of the last language installed. A new manager and a clean
+/// application for each iteration keep these catalogues out of the measurement.
 void changeLanguage(benchmark::State& state)
 {
     const Window window;
@@ -119,7 +119,7 @@ void plainSwap(benchmark::State& state, bool stores)
         Q_UNUSED(unused)
         state.PauseTiming();
         install(path("tolvan", inGerman));
-        QTranslator* const toolkit = install(path("qt", inGerman));
+        QTranslator* const ofQt = install(path("qt", inGerman));
         QCoreApplication::sendPostedEvents();
         inGerman = !inGerman;
         state.ResumeTiming();
@@ -127,8 +127,8 @@ void plainSwap(benchmark::State& state, bool stores)
             QSettings(QStringLiteral("Tolvan"), QStringLiteral("Ostra Collection"))
                 .setValue(QStringLiteral("currentLanguage"), inGerman ? german : french);
         }
-        QCoreApplication::removeTranslator(toolkit);
-        delete toolkit;
+        QCoreApplication::removeTranslator(ofQt);
+        delete ofQt;
         install(path("tolvan", inGerman));
         install(path("qt", inGerman));
         finish(state, window.shows(errorIn(inGerman)));

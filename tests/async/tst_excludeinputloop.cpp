@@ -204,7 +204,7 @@ void ExcludeInputLoopTest::endsWith()
 void ExcludeInputLoopTest::timeOutEndsARunThatNothingElseEnds()
 {
     CExcludeUserInpuEventLoop loop;
-    loop.quit(); // all without effect on a loop that is not running
+    loop.quit(); // none has an effect on a loop that is not running
     loop.failedQuit();
     loop.exit(3);
     QElapsedTimer clock;

@@ -160,7 +160,7 @@ void RunnableItemTest::stoppedFromAnotherThread()
     for (const int executions : {1, 3}) { // an item may be run by several threads at once
         QThreadPool pool;
         pool.setMaxThreadCount(executions);
-        std::atomic<int> finished{0}; // the toolkit's own recorder of signals is made for one thread
+        std::atomic<int> finished{0}; // QSignalSpy is not thread-safe
         Item item(untilStopped);
         connect(
             &item, &CQRunnableItem::finished, &item,
@@ -198,7 +198,7 @@ void RunnableItemTest::interruptedThread()
     }));
     thread->start();
     item.waitStartBlocking();
-    QVERIFY(!item.stopRequired()); // it is not this thread that is interrupted
+    QVERIFY(!item.stopRequired()); // the interruption is that of another thread
     thread->requestInterruption();
     item.waitFinishBlocking();
     QVERIFY(thread->wait(30000));

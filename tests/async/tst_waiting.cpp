@@ -15,7 +15,7 @@
 namespace
 {
 
-/// A condition given as a function; counts its tests.
+/// A condition made from a function; counts its tests.
 struct Condition : ICustomWaitPredicate {
     explicit Condition(std::function<bool()> condition)
         : function(std::move(condition))
@@ -54,7 +54,7 @@ private Q_SLOTS:
     void eventsOfANonBlockingWait_data();
     void eventsOfANonBlockingWait();
     void filterGoesWhenThePredicateThrows();
-    void waitInAWorkerBlocksNobodysInput();
+    void waitInAWorkerBlocksNoInput();
 };
 
 void WaitingTest::conditionThatHoldsIsTestedOnce()
@@ -145,7 +145,7 @@ void WaitingTest::filterGoesWhenThePredicateThrows()
     QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
 }
 
-void WaitingTest::waitInAWorkerBlocksNobodysInput()
+void WaitingTest::waitInAWorkerBlocksNoInput()
 {
     EventSink sink;
     QAtomicInt value(0);

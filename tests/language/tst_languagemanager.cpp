@@ -21,7 +21,7 @@ struct Language {
     unsigned number;
     const char* name;
     const char* error;  // the text of the key "Error"
-    const char* cancel; // the toolkit's own button
+    const char* cancel; // the text of Qt's own button
     int translators;
 };
 
@@ -70,7 +70,7 @@ protected:
     }
 };
 
-/// Counts what tells the application of a change: one event for each translator that comes or goes.
+/// Counts the application's LanguageChange events: one for each translator that is installed or removed.
 struct ChangeCounter : QObject {
     int count = 0;
     bool eventFilter(QObject*, QEvent* event) override
@@ -189,7 +189,7 @@ void LanguageManagerTest::givenTable()
     manager.createLanguageModel(names, numbers, paths, abbreviations);
     QTEST(manager.langCount(), "rows");
     QTEST(manager.model()->index(manager.langCount() - 1, 3).data().toString(), "lastAbbreviation");
-    // A filled table, were it only with columns, stays as it is.
+    // A table that has columns counts as filled and is kept.
     if (manager.model()->columnCount() > 0) {
         const int rows = manager.langCount();
         manager.loadLanguages();
@@ -228,7 +228,7 @@ void LanguageManagerTest::unknownNumber()
 {
     OpenManager manager;
     store(5);
-    manager.createLanguageModel({QStringLiteral("Nobody")}, {QStringLiteral("99")}, {QStringLiteral("x")},
+    manager.createLanguageModel({QStringLiteral("Unknown")}, {QStringLiteral("99")}, {QStringLiteral("x")},
                                 {QStringLiteral("xx")});
     manager.loadLanguageForApp();
     QCOMPARE(installedByApplication(), 0);

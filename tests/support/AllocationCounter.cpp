@@ -36,7 +36,7 @@ std::size_t AllocationCounter::count() const
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 
-// The sanitizers have the allocator in their own hands and offer to tell.
+// Under a sanitizer, its allocator hooks count the allocations.
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const volatile void*, std::size_t),
                                                          void (*onFree)(const volatile void*));
 
@@ -48,8 +48,7 @@ namespace
 
 #else
 
-// The program's own definitions come before the C library's, for every library in the process; operator new
-// ends here as well.
+// These definitions replace those of the C library in the whole process; operator new uses them as well.
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);

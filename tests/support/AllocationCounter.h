@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-/// Counts what the calling thread allocates in the whole process, libraries included, while it lives. Made
-/// for systems with the GNU C library; a program that uses it is linked with AllocationCounter.cpp.
+/// Counts the allocations of the calling thread, in all libraries of the process, during its lifetime. Needs
+/// the GNU C library; a program that uses it is linked with AllocationCounter.cpp.
 class AllocationCounter
 {
 public:
@@ -12,6 +12,6 @@ public:
     AllocationCounter(const AllocationCounter&) = delete;
     AllocationCounter& operator=(const AllocationCounter&) = delete;
 
-    /// Allocations since the counter was made.
+    /// Allocations since construction.
     std::size_t count() const;
 };

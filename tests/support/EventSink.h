@@ -4,7 +4,7 @@
 #include <QVector>
 #include <QWidget>
 
-/// A widget that takes every event and notes its type.
+/// A widget that accepts every event and records its type.
 class EventSink : public QWidget
 {
 public:

@@ -6,20 +6,20 @@
 
 #include <memory>
 
-/// Stands in for the user while fatal messages are shown: notes each box and closes it.
+/// Records fatal messages while they are shown and closes them.
 ///
-/// Windows: a thread looks for the real box of this process, reads it and presses its button. Elsewhere: a
-/// message program of the test's own becomes the only one that this process can find.
+/// On Windows a thread looks for the message box of this process, reads it and presses its button. On Unix a
+/// script of this class becomes the only message program that the process can find.
 class FatalBoxes
 {
 public:
-    /// \param program name of the message program to stand in for, empty for none; no matter on Windows
+    /// \param program name of the message program that the script replaces, empty for none; unused on Windows
     explicit FatalBoxes(const QString& program = QStringLiteral("zenity"));
     ~FatalBoxes();
 
     /// The boxes since the last call, each as "caption|text".
     QStringList take();
-    /// The same as the message program's arguments, one list a box.
+    /// The message program's arguments, one list for each box.
     QList<QStringList> takeArguments();
     /// Removes the message program.
     void removeProgram();

@@ -18,8 +18,9 @@ inline void __tsan_acquire(void*) {}
 inline void __tsan_release(void*) {}
 #endif
 
-// Tells the thread sanitizer what it can't see in a toolkit that is not built with it: what one thread wrote
-// before handOver() is there for another one behind takeOver() of the same object. Nothing in other builds.
+// Marks an order for the thread sanitizer that it cannot see in Qt, which is built without it: what one
+// thread wrote before handOver() is visible to another one after takeOver() of the same object. Empty
+// in other builds.
 
 inline void handOver(void* object)
 {
@@ -30,7 +31,7 @@ inline void takeOver(void* object)
     __tsan_acquire(object);
 }
 
-/// Stands for all work that pools have finished.
+/// The object handed over by all work that pools have finished.
 inline char finishedWork;
 
 /// An item that a pool hands over under its own lock, both ways; start it with startOn().

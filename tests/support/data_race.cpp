@@ -1,5 +1,5 @@
-// Has to be reported by the thread sanitizer: it shows that what the tests tell it about the toolkit, and
-// what they suppress, leaves it able to see a race in the work of items on a pool.
+// The thread sanitizer has to report the race in this program. That shows that the marks and suppressions of
+// the tests do not hide a race in the work of items on a pool.
 
 #include "HappensBefore.h"
 

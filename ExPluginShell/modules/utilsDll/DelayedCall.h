@@ -10,14 +10,14 @@
 class QObject;
 class CDelayedCall;
 
-// Declared before the class: no module that includes this header builds an instance of its own.
+// Declared before the class, so that a module that includes this header does not build a second instance.
 extern template class UTILSDLL_EXPORT Singleton<CDelayedCall>;
 
-/// Calls a method of an object after a delay: the debouncing tool of the product.
+/// Calls a method of an object after a delay. The product uses it for debouncing.
 ///
-/// Asking again for the same object and method cancels the pending call and starts the delay afresh, so
-/// that a burst of requests becomes one call, made after the last of them. With \a singleShot false the
-/// call repeats at every interval until it is discarded.
+/// A second request for the same object and method cancels the pending call and starts the delay again. A
+/// burst of requests therefore results in one call, made after the last request. With \a singleShot false the
+/// call is repeated at every interval until it is discarded.
 /// \code
 /// void CPreview::onSliderMoved()
 /// {
@@ -27,52 +27,51 @@ extern template class UTILSDLL_EXPORT Singleton<CDelayedCall>;
 /// \endcode
 ///
 /// \par Key of a call
-/// The object and the text of the method name (compared with qstrcmp(): equal texts at different addresses
-/// are the same method), within the calling thread.
+/// A call is identified by the calling thread, the object and the text of the method name. Texts are compared
+/// with qstrcmp(): equal texts at different addresses name the same method.
 /// \par Threads
-/// Every thread has pending calls of its own, without a lock: invoke(), discard() and isActive() see those
-/// of the calling thread and no others. A call falls due in the thread that asked for it, so that thread
-/// has to run an event loop; without one the call stays pending until the thread ends. If the target lives
-/// in another thread, the call is then queued into that thread by Qt. A thread without an event dispatcher,
-/// that is one not started by QThread, gets no timer: its requests are dropped with Qt's warning.
-/// \par What ends a pending call
-/// Its timer (single shot), discard(), a new request for the same key, the end of its thread, and for the
-/// main thread the end of the application object. A target that is destroyed is not called; no message is
-/// written. The timer of a periodic call goes on idly after its target is gone, until the thread ends.
+/// Every thread has its own pending calls: invoke(), discard() and isActive() see only those of the calling
+/// thread and need no lock. A call falls due in the thread that requested it. That thread has to run an event
+/// loop; without one the call stays pending until the thread ends. If the target lives in another thread, Qt
+/// queues the due call into that thread. A thread that was not started by QThread has no event dispatcher and
+/// gets no timer: its requests are dropped with Qt's warning.
+/// \par End of a pending call
+/// A pending call ends when its timer fires (single shot), when it is discarded or replaced by a new request,
+/// when its thread ends, and in the main thread when the application object is destroyed. A destroyed target
+/// is not called; no message is written. The timer of a periodic call keeps running after its target has been
+/// destroyed, until the thread ends.
 /// \par Inside the called method
-/// It may discard itself, ask for itself again (the new request stands), delete its target or any other.
+/// The method may discard its own call, request it again (the new request is kept), and delete any target.
 /// \par Unloading the library
-/// Pending calls of the unloading thread are dropped. Other threads that turn their event loop drop theirs
-/// at once and are waited for, one second at most; a thread with pending calls that is busy elsewhere at
-/// that moment has to end, or to discard its calls, before the library is unloaded.
+/// Pending calls of the unloading thread are dropped. Other threads that process events drop theirs at once;
+/// the unloading thread waits for them, one second at most. A thread that has pending calls and processes no
+/// events at that moment has to end, or to discard its calls, before the library is unloaded.
 class UTILSDLL_EXPORT CDelayedCall : public Singleton<CDelayedCall>
 {
     friend class Singleton<CDelayedCall>;
 
 public:
-    /// Asks for a call of \a method of \a object in \a msec milliseconds.
+    /// Requests a call of \a method of \a object in \a msec milliseconds.
     ///
-    /// Does not block and never calls \a method itself, not even with a delay of 0 (then: on the next pass
-    /// of the event loop). The timer is a coarse one: up to 5 percent early or late. The arguments and the
-    /// flag of an earlier request of the same key are replaced; that request is cancelled also when no
-    /// timer could be started for the new one. A method that does not exist is reported when the call falls
-    /// due, by Qt's own warning only.
-    /// \param msec       delay in milliseconds; with a negative one the request is dropped, with Qt's
-    ///                   warning
-    /// \param object     the target, not owned; null: nothing happens
-    /// \param method     plain name of a slot or invokable, without brackets and without SLOT(); null:
-    ///                   nothing happens. The pointer is kept, not the text: pass a literal, or keep the
-    ///                   text until the call is made
-    /// \param singleShot true: call once; false: call every \a msec milliseconds until discard()
+    /// Does not block and never calls \a method itself; with a delay of 0 the call is made on the next pass
+    /// of the event loop. The timer is coarse: up to 5 percent early or late. An earlier request of the same
+    /// key is cancelled, even if no timer can be started for the new one. A method that does not exist is
+    /// reported by Qt's warning when the call falls due.
+    /// \param msec       delay in milliseconds; a request with a negative delay is dropped with Qt's warning
+    /// \param object     the target, not owned; null does nothing
+    /// \param method     plain name of a slot or invokable, without brackets and without SLOT(); null does
+    ///                   nothing. The pointer is kept, not the text: pass a literal, or keep the text until
+    ///                   the call is made
+    /// \param singleShot true calls once, false calls every \a msec milliseconds until discard()
     static void invoke(int msec, QObject* object, const char* method, bool singleShot = true);
 
     /// \name Calls with arguments
     /// invoke() for a method with one to nine parameters. The type names of the variants have to be exactly
     /// those of the parameters: `QVariant(5)` calls `setValue(int)`, `QVariant(5.0)` does not. Write
-    /// `QVariant(...)` out: a bare number in the last place would be taken for the flag.
+    /// `QVariant(...)` for each argument: a plain number in the last place is taken for the flag.
     /// @{
 
-    /// Asks for a call with arguments, see invoke().
+    /// Requests a call with arguments, see invoke().
     using Arg = const QVariant&;
     static void invokeWithArgs(int msec, QObject* object, const char* method, Arg a1, bool singleShot = true);
     static void invokeWithArgs(int msec, QObject* object, const char* method, Arg a1, Arg a2,
@@ -93,12 +92,14 @@ public:
                                Arg a5, Arg a6, Arg a7, Arg a8, Arg a9, bool singleShot = true);
     /// @}
 
-    /// Cancels the calling thread's pending call of \a object and \a method; with a null \a method every
-    /// pending call of \a object. Nothing happens when there is none or \a object is null.
+    /// Cancels the calling thread's pending call of \a object and \a method. Does nothing if there is
+    /// no such call.
+    /// \param object the target of the call; null does nothing
+    /// \param method name of the method; null cancels every pending call of \a object
     static void discard(QObject* object, const char* method);
 
-    /// Whether a call of \a object and \a method is pending in the calling thread. False for null
-    /// arguments, and for an object that has been destroyed, even before its timer fires.
+    /// Whether a call of \a object and \a method is pending in the calling thread. False for null arguments
+    /// and for a destroyed object, also before the timer fires.
     static bool isActive(QObject* object, const char* method);
 
 private:

@@ -7,11 +7,11 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// The few fatal messages that must still be shown when the process is in trouble, translated ahead of time.
+/// The fatal messages of the product, translated in advance.
 ///
-/// Showing one needs no allocation and no Qt widget: the texts, and what the system needs to show them, are
-/// prepared while the process is healthy. Keep one instance, call Retranslate() after each language change,
-/// and one of the Show... operations from the emergency handler.
+/// Showing one allocates no memory and needs no Qt widget: the texts, and what the system needs to show them,
+/// are prepared while the process is healthy. Keep one instance, call Retranslate() after each language
+/// change, and call one of the Show... operations from the handler of the fatal error.
 ///
 /// \code
 /// static TOLVAN_NAMESPACE::CErrStrings errStrings;
@@ -21,9 +21,9 @@ namespace TOLVAN_NAMESPACE
 /// \par Copies
 /// A copy shares the texts and stays valid when the original is destroyed or retranslated.
 /// \par Systems
-/// On Windows the system's own modal message box appears, owned by the active window if there is one.
-/// Elsewhere it is the box of a message program (kdialog, zenity or xmessage) that was found when the texts
-/// were prepared; without one, or without a display, title and text are written to standard error.
+/// On Windows the system's modal message box appears, owned by the active window if there is one. On Unix the
+/// box is shown by a message program (kdialog, zenity or xmessage), which is looked up when the texts are
+/// prepared; without such a program, or without a display, title and text are written to standard error.
 /// \par Threads
 /// Retranslate() and copying belong to the main thread. The Show... operations may be called from any thread
 /// and block it until the user has closed the box.
@@ -33,23 +33,23 @@ public:
     /// Prepares the texts in the current language.
     CErrStrings();
     ~CErrStrings();
-    /// Takes over the texts of the other as they are prepared.
+    /// Shares the prepared texts of the other object.
     CErrStrings(const CErrStrings&) = default;
-    /// Takes over the texts of the other as they are prepared.
+    /// Shares the prepared texts of the other object.
     CErrStrings& operator=(const CErrStrings&) = default;
 
-    /// Prepares all texts again, in the language that is installed now. Without a translator the keys of the
-    /// texts are shown.
+    /// Prepares all texts again in the installed language. Without a translator the texts are
+    /// their English keys.
     void Retranslate();
 
-    /// Too little free space on the drive of the temporary folder: the program cannot start. Where paths have
-    /// no drive the message names the folder.
+    /// Shows that the program cannot start because the drive of the temporary folder has too little free
+    /// space. On Unix the message names the folder.
     void ShowSmallFreeSpaceDialog() const;
-    /// Out of memory in a program of its own, which will be closed.
+    /// Shows that the program is out of memory and will be closed.
     void ShowOutOfMemoryDialog() const;
-    /// Out of memory inside the photo editor, which may become unstable.
+    /// Shows that the plug-in is out of memory and the photo editor may become unstable.
     void ShowOutOfMemoryInPhotoshopDialog() const;
-    /// An unhandled exception: the program will be closed.
+    /// Shows that the program will be closed because of an unhandled exception.
     void ShowUnhandledExceptionDialog() const;
 
 private:
@@ -61,7 +61,7 @@ private:
     QString m_outOfMemory;
     QString m_outOfMemoryInHost;
     QString m_unhandledException;
-    // The characters of the texts above, in the same order; null until they are prepared.
+    // The characters of the texts above, in the same order; null until the texts are prepared.
     const ushort* m_titleText = nullptr;
     const ushort* m_smallFreeSpaceText = nullptr;
     const ushort* m_outOfMemoryText = nullptr;

@@ -14,10 +14,10 @@ namespace TOLVAN_NAMESPACE
 
 /// Decides the language of the user interface and installs its translators into the running application.
 ///
-/// The choice itself is the suite-wide language number, which CSettings stores for the whole product family:
-/// 0 German, 2 English, 5 French, 12 Japanese, 13 Simplified Chinese. English stands in for a number that is
-/// missing or is no number. The languages on offer are found by listing ":/translations/": adding a language
-/// means adding a translation file and nothing else.
+/// The language is stored as a number, which CSettings keeps for the whole product family: 0 German, 2
+/// English, 5 French, 12 Japanese, 13 Simplified Chinese. A missing or invalid number means English.
+/// The manager finds the available languages by listing ":/translations/": a new language needs only a
+/// new translation file.
 ///
 /// \code
 /// auto* languages = TOLVAN_NAMESPACE::CLanguageManager::instance();
@@ -28,83 +28,80 @@ namespace TOLVAN_NAMESPACE
 /// \endcode
 ///
 /// \par The table
-/// One row a language, every cell a text under Qt::DisplayRole: column 0 the language's name in itself, 1 its
-/// suite number as decimal text, 2 the resource path of its file, 3 its abbreviation. Rows come in the order
-/// of the listing, so look a row up by its number and never remember it. The table is filled once and stays
-/// as it is.
+/// The table has one row for each language, and each cell is a text under Qt::DisplayRole. Column 0 is the
+/// name of the language in that language, column 1 its number as decimal text, column 2 the resource path of
+/// its file, column 3 its abbreviation. The order of the rows is not defined: look up a row by its number.
+/// The table is filled once and does not change afterwards.
 /// \par Threads
-/// Main thread only. Every operation here reads settings or resources and may block for as long as the disk
-/// does.
+/// Main thread only. The operations read settings or resources and may block on disk access.
 class UTILSDLL_EXPORT CLanguageManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A manager with an empty table of its own; most callers want instance().
+    /// Creates a manager with an empty table. Most callers use instance() instead.
     explicit CLanguageManager(QObject* parent = nullptr);
-    /// Leaves the installed translators in place: they belong to the application.
+    /// The installed translators stay: the application object owns them.
     ~CLanguageManager() override;
 
-    /// The instance of the process, made on first call and kept until the library unloads. First calls from
-    /// several threads at once are not guarded against.
+    /// The instance of the process, created by the first call and kept until the library unloads. The first
+    /// call is not thread-safe.
     static CLanguageManager* instance();
 
-    /// The language table; stays owned by the manager. Empty before loadLanguages().
+    /// The language table, owned by the manager. Empty before loadLanguages().
     QStandardItemModel* model();
     /// Number of rows of the table.
     int langCount() const;
 
-    /// Fills the table from the catalogues under ":/translations/". Does nothing when it is filled.
+    /// Fills the table from the catalogues under ":/translations/". Does nothing if it is already filled.
     ///
-    /// A file without the messages "language name" and "ostra language number" of the context
-    /// "CLanguageManager", such as the toolkit's own catalogues, is left out in silence.
+    /// Files without the messages "language name" and "ostra language number" of the context
+    /// "CLanguageManager", such as Qt's own catalogues, are skipped without a log line.
     void loadLanguages();
 
     /// Installs the translators of the stored language and makes its locale the default one.
     ///
-    /// Two are installed where the toolkit has a catalogue of that language (all but English), else one. The
-    /// one installed last is removed again by the next call; the product's own catalogue then stays installed
-    /// beneath the new one and is freed with the application. A stored number without a row in the table
-    /// changes nothing.
+    /// Installs the product's catalogue and, if the resources hold one (all languages but English), Qt's. The
+    /// next call removes only the translator that was installed last; the other one stays installed and is
+    /// freed with the application object. A stored number without a row in the table changes nothing.
     void loadLanguageForApp();
 
-    /// Row of the language with the suite number \a id; -1, with an error in the log, when there is none.
+    /// Row of the language with the number \a id. Logs an error and returns -1 if the table has no such row.
     int getLanguageIndexFromID(unsigned id) const;
-    /// Suite number of the language in row \a index; 0 for a row that does not exist.
+    /// Number of the language in row \a index; 0 if the row does not exist.
     unsigned getLangIdFromIndex(int index) const;
     /// Row of the stored language, see getLanguageIndexFromID().
     int currentLanguageIndex() const;
 
-    /// Abbreviation of the stored language as the table has it; empty when the table does not know its
-    /// number.
+    /// Abbreviation of the stored language from the table; empty if the table has no row for it.
     QString currentLanguageAbbrv();
-    /// Abbreviation of the stored language by the fixed numbers of the suite; needs no table. "en", with a
-    /// line in the log, for a number that is none of them.
+    /// Abbreviation of the stored language from the fixed list of numbers; needs no table. Logs a line and
+    /// returns "en" for a number that is not in the list.
     QString settingsAbbrv();
-    /// Abbreviation that the suite fixed for \a code.
+    /// Abbreviation for the language number \a code, from the fixed list.
     /// \throws std::invalid_argument "The argument CODE does not refer to a valid language"
     static QString stringFromCodeLanguage(unsigned code);
 
-    /// The number that the last effective loadLanguageForApp() applied; 0xFFFFFFFF before it.
+    /// The number that loadLanguageForApp() has applied last; 0xFFFFFFFF before that.
     unsigned loadedLanguageID() const;
-    /// The stored suite number, read from the settings at each call; 2 when that is no number.
+    /// The stored number, read from the settings at each call; 2 if none or an invalid one is stored.
     static unsigned currentLanguageNumber();
 
 public Q_SLOTS:
-    /// Stores and applies the language in row \a index and announces it.
-    /// \return false, with nothing done, when it is the stored language already. A row that does not exist
-    ///         counts as number 0.
+    /// Stores and applies the language in row \a index and emits languageChanged().
+    /// \param index row of the table; a row that does not exist counts as number 0
+    /// \return false, with nothing done, if this language is already stored
     bool changeLanguage(int index);
 
 Q_SIGNALS:
-    /// The language has been changed by changeLanguage(); the new translators are installed.
+    /// changeLanguage() has changed the language and installed the new translators.
     void languageChanged();
 
 protected:
-    /// Stores \a number; nothing is reloaded.
+    /// Stores \a number and reloads nothing.
     static void setCurrentLanguageNumber(unsigned number);
-    /// Fills the table with one row for each name. Without effect when it is filled, or when the first three
-    /// lists differ in length; \a abbreviations may be shorter or longer.
+    /// Fills the table with one row for each name. Does nothing if it is already filled, or if the first
+    /// three lists differ in length; \a abbreviations may be shorter or longer.
     void createLanguageModel(const QStringList& names, const QStringList& numbers, const QStringList& paths,
                              const QStringList& abbreviations);
 
@@ -116,7 +113,7 @@ private:
     void releaseCurrentTranslator();
 
     QStandardItemModel m_model;
-    // The application deletes its translators with itself; the manager may outlive it.
+    // The application object deletes its translators, and the manager may outlive it.
     QPointer<QTranslator> m_currentTranslator;
     quint32 m_loadedLanguageID = 0xFFFFFFFF;
 };

@@ -8,43 +8,43 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// Waits until an object emits a signal, with the event loop turning.
+/// Waits until an object emits a signal, and processes events until then.
 /// \code
 /// COperationCompletionWaiter waiter(upload, SIGNAL(done())); // before the start: no signal is missed
 /// upload->start();
 /// waiter.startWaiting();
 /// \endcode
-/// One waiter serves one operation: completed once, it stays completed.
+/// A waiter serves one operation: once completed, it stays completed.
 ///
-/// \warning startWaiting() is a nested event loop: whatever is due in the program runs inside it, the
-/// user's clicks and keys included, so the operation may be started a second time by the user and objects
-/// may be gone when it returns. It has no time-out: if the signal never comes it ends only with the
-/// program's event loop. See CExcludeUserInpuEventLoop for a wait with a time-out that keeps the user out.
+/// \warning startWaiting() runs a nested event loop: everything that is due in the thread runs inside it, the
+/// user's clicks and keys included. The user can start the operation a second time, and objects may have been
+/// deleted when it returns. It has no time-out: without the signal it ends only with the thread's event loop.
+/// See CExcludeUserInpuEventLoop for a wait with a time-out and without user input.
 /// \par Threads
-/// Make and use a waiter in the waiting thread. The sender may live in any thread.
+/// Create and use a waiter in the waiting thread. The sender may live in any thread.
 class UTILSDLL_EXPORT COperationCompletionWaiter : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \param sender the object that will emit, not owned
+    /// A null \a sender or \a signal is reported as an assertion. With a null argument or a signal that does
+    /// not exist the waiter is never completed; Qt writes a warning.
+    /// \param sender the object that will emit the signal, not owned
     /// \param signal its signal as written by SIGNAL()
-    ///
-    /// A null argument is reported as an assertion; it, or a signal that does not exist, leaves a waiter
-    /// that nothing will ever complete (Qt's own warning tells).
+    /// \param parent owner of the waiter
     COperationCompletionWaiter(QObject* sender, const char* signal, QObject* parent = nullptr);
     ~COperationCompletionWaiter() override;
 
-    /// Blocks its caller until the signal has come, processing all events of the thread, user input as
-    /// well. Returns at once if it has come before. Also returns, incomplete, when the application is told
-    /// to quit.
+    /// Blocks its caller until the signal has been emitted and processes all events of the thread, user input
+    /// included. Returns at once if the signal was emitted before. Also returns, without completion, when the
+    /// thread's event loop is quit.
     void startWaiting();
 
 protected:
-    /// For derived classes, which make their own connection.
+    /// For derived classes that connect a signal themselves.
     explicit COperationCompletionWaiter(QObject* parent = nullptr);
 
-    /// Whether the signal has come.
+    /// Whether the signal has been emitted.
     bool isOperationCompleted() const;
 
 protected Q_SLOTS:
@@ -56,19 +56,18 @@ private:
     QEventLoop m_loop;
 };
 
-/// A COperationCompletionWaiter for a signal whose first argument tells success, such as `finished(bool)`.
+/// A COperationCompletionWaiter for a signal whose first argument reports success, such as `finished(bool)`.
 class UTILSDLL_EXPORT COperationCompletionWaiterWithResult : public COperationCompletionWaiter
 {
     Q_OBJECT
 
 public:
-    /// Like the base class; \a signal has to carry a bool as its first argument.
+    /// Like the constructor of the base class. The first argument of \a signal has to be a bool.
     COperationCompletionWaiterWithResult(const QObject* sender, const char* signal,
                                          QObject* parent = nullptr);
     ~COperationCompletionWaiterWithResult() override;
 
-    /// The bool that the signal carried. Asking before completion is reported as an assertion and answered
-    /// with false.
+    /// The signal's first argument. Before completion it reports an assertion and returns false.
     bool isOperationSuccess() const;
 
 private Q_SLOTS:

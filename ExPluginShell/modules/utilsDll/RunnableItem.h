@@ -7,24 +7,24 @@
 #include <QRunnable>
 
 /// A piece of work that knows whether it is running, can be asked to stop, and can be waited for.
-/// Instantiated for QRunnable, once, in this library.
+/// This library instantiates it once, for QRunnable.
 ///
 /// "Running" means inside the executable section, which run() of the derived class enters and leaves.
 /// \par Threads
-/// Everything public may be called from any thread.
+/// All public functions may be called from any thread.
 /// \par Life
-/// A thread pool deletes the item when run() returns, unless setAutoDelete(false) was called: do that
-/// before start() for an item that anyone asks, stops or waits for later.
+/// A thread pool deletes the item when run() returns, unless setAutoDelete(false) was called. Call it before
+/// start() if the item is used after that.
 template <class Base>
 class CRunnableItem : public Base
 {
 public:
-    /// The condition of the waits below.
+    /// The condition that an item has started or has finished.
     class UTILSDLL_EXPORT StartFinishPredicate : public ICustomWaitPredicate
     {
     public:
-        /// \param start   true: wait until the counter is above 0; false: until it is 0
-        /// \param counter not owned
+        /// \param start   true if the counter has to be above 0, false if it has to be 0
+        /// \param counter the item's counter of executions, not owned
         StartFinishPredicate(bool start, const QAtomicInt* counter);
         ~StartFinishPredicate() override;
         bool test() const override;
@@ -38,39 +38,38 @@ public:
     CRunnableItem(const CRunnableItem&) = delete;
     CRunnableItem& operator=(const CRunnableItem&) = delete;
 
-    /// Spins until no execution is inside the executable section. The parts of derived classes are gone by
-    /// then: a class whose work uses its own members calls waitFinishBlocking() in its own destructor.
+    /// Spins until no execution is inside the executable section. Members of derived classes have
+    /// been destroyed by then: a class whose work uses its members calls waitFinishBlocking() in
+    /// its own destructor.
     virtual ~CRunnableItem();
 
-    /// Whether the work has to end: a stop was asked for, or the **calling** thread has been asked to
-    /// interrupt, or the application object is closing down. The work function polls it and returns early.
+    /// Whether the work has to end: a stop was requested, or an interruption of the **calling** thread was
+    /// requested, or the application object is closing down. The work function polls it and returns early.
     virtual bool stopRequired() const;
 
     /// Whether an execution is inside the executable section.
     bool isStarted() const;
-    /// The opposite of isStarted(): true also before the item ever ran.
+    /// The opposite of isStarted(); also true before the first execution.
     bool isFinished() const;
 
     /// \name Blocking waits
-    /// Spin as waitBlocking() does: no sleep, no time-out, no events. A finish wait on an item that no
-    /// thread has picked up yet returns at once; to know that the work ran to its end use
-    /// waitExecuteBlocking(), which waits for the start first. A start wait on an item that has finished
-    /// already, or that was stopped before it ran, never returns.
+    /// These spin like waitBlocking(): no sleep, no time-out, no events. A finish wait returns at once if no
+    /// thread has started the item yet; use waitExecuteBlocking() to wait for the end of the work. A start
+    /// wait never returns if the item has finished already or was stopped before it ran.
     /// @{
 
-    /// Spins until the item has started, has finished, or has done one after the other.
+    /// Waits until the item has started, has finished, or has started and then finished.
     void waitStartBlocking();
     void waitFinishBlocking();
     void waitExecuteBlocking();
     /// @}
 
-    /// \name Waits that keep the event loop turning
-    /// The same as above while processing the calling thread's events, see waitNonBlocking(): they poll,
-    /// and whatever is due in the program runs inside. With \a excludeUserInput no input reaches the
-    /// application meanwhile.
+    /// \name Non-blocking waits
+    /// The same waits while the calling thread's events are processed, see waitNonBlocking(). With
+    /// \a excludeUserInput the application gets no user input until the wait returns.
     /// @{
 
-    /// Turns the event loop until the item has started, has finished, or has done one after the other.
+    /// Processes events until the item has started, has finished, or has started and then finished.
     void waitStartNonBlocking(bool excludeUserInput);
     void waitFinishNonBlocking(bool excludeUserInput);
     void waitExecuteNonBlocking(bool excludeUserInput);
@@ -80,12 +79,12 @@ protected:
     /// How many executions are inside the executable section.
     int entriesCounter() const;
 
-    /// The stop request. Once set the item does not clear it itself.
+    /// Whether a stop was requested. The item itself never clears the request.
     bool stopFlag() const;
     /// Sets or clears the stop request.
     void setStopFlag(bool stop);
 
-    /// Enters the executable section; every entry has to be left, also when the work throws.
+    /// Enters the executable section. Each entry has to be left again, also when the work throws.
     void enterExcecutableSection();
     /// Leaves the executable section.
     void leaveExcecutableSection();
@@ -101,7 +100,7 @@ private:
 
 extern template class UTILSDLL_EXPORT CRunnableItem<QRunnable>;
 
-/// A work item that announces its life through signals and can be stopped through a slot.
+/// A work item that reports its start and end by signals and can be stopped through a slot.
 /// \code
 /// class CThumbnails : public CQRunnableItem
 /// {
@@ -119,36 +118,38 @@ extern template class UTILSDLL_EXPORT CRunnableItem<QRunnable>;
 /// connect(item, SIGNAL(finished(bool, bool)), view, SLOT(onThumbnails(bool, bool)));
 /// m_pool.start(item);
 /// \endcode
-/// Long work belongs on a pool of its own: the global pool also serves Qt's painting.
+/// Run long work in a separate pool: Qt also uses the global pool for painting.
 ///
 /// \par Threads
-/// started() and finished() are emitted in the thread that runs the item, wantsToStop() in the one that
-/// calls stop(); the object itself lives in the thread that made it, so receivers there get them queued.
+/// started() and finished() are emitted in the thread that runs the item, wantsToStop() in the thread
+/// that calls stop(). The object lives in the thread that created it; receivers in that thread get
+/// the signals queued.
 /// \par Life
-/// See CRunnableItem. The executable section is left **before** finished() is emitted: after a wait run()
-/// is still about to emit. An item with setAutoDelete(false) may be deleted after
-/// QThreadPool::waitForDone(), or with deleteLater() on finished(), not right after a wait. An item with a
-/// parent is not for auto-deletion.
+/// See CRunnableItem. The executable section is left **before** finished() is emitted. Delete an item with
+/// setAutoDelete(false) after QThreadPool::waitForDone(), or with deleteLater() on finished(), not directly
+/// after a wait. Call setAutoDelete(false) for an item with a parent.
 class UTILSDLL_EXPORT CQRunnableItem : public QObject, public CRunnableItem<QRunnable>
 {
     Q_OBJECT
 
 public:
-    /// See CRunnableItem and \b Life above for when it may be called.
+    /// See \b Life above for when an item may be deleted.
     ~CQRunnableItem() override;
 
-    /// The work: polls stopRequired() and returns early. Runs in the pool's thread.
-    /// \return whether it succeeded
+    /// Does the work, in the pool's thread. Polls stopRequired() and returns early if it is true.
+    /// \return whether the work succeeded
     virtual bool doRun() = 0;
 
 protected:
-    /// Called by stop(), in its thread, before the stop is asked for.
+    /// Called by stop(), in its thread, before the stop is requested.
     virtual void doBeforeStopped();
-    /// Called by stop(), in its thread, after wantsToStop(); to wake work that sleeps, for instance.
+    /// Called by stop(), in its thread, after wantsToStop(), for example to wake work that sleeps.
     virtual void doStopped();
 
+    /// An item without a parent that emits signals.
     CQRunnableItem();
-    /// \param emitSignals false: the item emits no signal at all
+    /// \param emitSignals whether the item emits signals
+    /// \param parent      owner of the item
     explicit CQRunnableItem(bool emitSignals, QObject* parent = nullptr);
 
     /// Whether the item emits signals.
@@ -157,20 +158,20 @@ protected:
 Q_SIGNALS:
     /// The work is about to begin.
     void started();
-    /// A stop was asked for. A second stop() is silent; two threads that stop at the same moment may both
-    /// announce it.
+    /// A stop was requested. A second stop() emits nothing, unless two threads call stop() at
+    /// the same moment.
     void wantsToStop();
     /// The work has ended. Not emitted when it threw or never began.
-    /// \param bOk      what the work returned
+    /// \param bOk      result of doRun()
     /// \param bStopped whether a stop was required when it ended
     void finished(bool bOk, bool bStopped);
 
 public Q_SLOTS:
-    /// Asks the work to stop; does not wait. Without effect if a stop is required already.
+    /// Requests a stop and returns without waiting. Does nothing if a stop is required already.
     void stop();
-    /// Runs the work in the calling thread, as a pool does. Returns at once, without a signal, when a stop
-    /// is required already. An exception of the work passes through after the executable section has been
-    /// left; in a pool's thread that ends the program.
+    /// Runs the work in the calling thread; called by the pool. Returns at once, without a signal, if a stop
+    /// is required already. An exception of the work is passed on after the executable section has been left;
+    /// in a pool's thread it ends the program.
     void run() override;
 
 private:

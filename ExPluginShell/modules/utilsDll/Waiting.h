@@ -5,19 +5,19 @@
 #include <QAtomicInt>
 
 /// \file
-/// Waits for a condition, with the processor or with the event loop.
+/// Waits for a condition, by spinning or by processing events.
 
-/// A condition that a wait waits for.
+/// The condition that ends a wait.
 class UTILSDLL_EXPORT ICustomWaitPredicate
 {
 public:
-    /// True when the wait is over. Called again and again in the waiting thread; has to be cheap, and to
-    /// read what other threads write through atomics or a lock.
+    /// Returns true when the wait is over. Called repeatedly in the waiting thread, so it has to be cheap.
+    /// What other threads write has to be read through atomics or under a lock.
     virtual bool test() const = 0;
     virtual ~ICustomWaitPredicate();
 };
 
-/// True while an atomic has the awaited value.
+/// The condition that an atomic has the awaited value.
 class UTILSDLL_EXPORT CAtomicIntWaitPredicate : public ICustomWaitPredicate
 {
 public:
@@ -32,29 +32,28 @@ private:
     const int m_awaited;
 };
 
-/// Spins until \a pred is true, yielding the processor between two tests. For short waits in any thread.
+/// Spins until \a pred is true and yields the processor between two tests. For short waits in any thread.
 ///
-/// \warning No sleep, no time-out, no event processing: it burns a core, and in the main thread it freezes
-/// the program; a condition that only an event of the waiting thread can bring about never comes.
+/// \param pred the condition; its exceptions are passed on
 ///
-/// An exception of the predicate passes through.
+/// \warning There is no sleep, no time-out and no event processing: the wait uses a whole core, and
+/// in the main thread it freezes the program. A condition that needs an event of the waiting thread
+/// is never fulfilled.
 UTILSDLL_EXPORT void waitBlocking(const ICustomWaitPredicate& pred);
 
-/// Turns the calling thread's event loop until \a pred is true: timers, queued signals and painting go on.
+/// Processes the calling thread's events until \a pred is true: timers, queued signals and painting continue.
 ///
-/// \param pred            the condition; an exception of it passes through, and the input filter is removed
-/// \param excludeUserInput true: input is kept from the whole application meanwhile, see
-///                         CExcludeUserInpuEventsFilter, and that of the window system is held back; in a
-///                         thread other than the main one no input is blocked
+/// There is no time-out. A thread without an event dispatcher only spins.
+/// \param pred             the condition; its exceptions are passed on after the input filter
+///                         has been removed
+/// \param excludeUserInput true keeps input from the whole application during the wait, see
+///                         CExcludeUserInpuEventsFilter, and delivers that of the window system afterwards;
+///                         in a thread other than the main one no input is blocked
 ///
-/// \warning The loop polls without pause: it takes 100 percent of a core as long as it lasts, where a loop
-/// that sleeps takes next to nothing. Timers keep their pace while the thread has a core; on a busy machine
-/// the system prefers threads that slept, and a 1 ms timer loses as much time as the thread waits for a core
-/// (docs/benchmarks/async.md). For what takes longer than a moment CExcludeUserInpuEventLoop or a
-/// COperationCompletionWaiter is the better choice: they wait asleep.
-/// \warning Whatever is due in the program runs inside the call, see CExcludeUserInpuEventLoop.
-///
-/// No time-out. In a thread without an event dispatcher it only spins.
+/// \warning The wait polls without pause and uses a whole core. On a busy machine the system prefers threads
+/// that have slept, and timers of the waiting thread are late (docs/benchmarks/async.md). For work of more
+/// than a moment use CExcludeUserInpuEventLoop or COperationCompletionWaiter, which sleep.
+/// \warning Everything that is due in the thread runs inside the call, see CExcludeUserInpuEventLoop.
 UTILSDLL_EXPORT void waitNonBlocking(const ICustomWaitPredicate& pred, bool excludeUserInput);
 
 /// waitBlocking() until \a value is \a awaited.

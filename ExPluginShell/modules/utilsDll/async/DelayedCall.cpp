@@ -95,8 +95,7 @@ void CDelayedInvoker::schedule(int msec, QObject* object, const char* method, bo
         }
         return;
     }
-    // A repeated request takes over the nodes of the call that it replaces: the debounce case allocates
-    // nothing.
+    // The new call takes over the nodes of the one that it replaces: debouncing allocates nothing.
     killTimer(entry->second);
     auto call = m_calls.extract(entry->second);
     const int id = startTimer(msec, Qt::CoarseTimer);
@@ -128,8 +127,8 @@ bool CDelayedInvoker::isActive(QObject* object, const char* method)
     return findLive(m_objects.lower_bound(object), object, method) != m_objects.end();
 }
 
-/// The first entry from \a entry on that leads to a live call of \a object and \a method, or end() of the
-/// index. A null method stands for any.
+/// The first live call of \a object and \a method from \a entry on, or end() of the index. A null \a method
+/// matches every method.
 CDelayedInvoker::ObjectIndex::iterator CDelayedInvoker::findLive(ObjectIndex::iterator entry,
                                                                  const QObject* object, const char* method)
 {
@@ -145,7 +144,7 @@ CDelayedInvoker::ObjectIndex::iterator CDelayedInvoker::findLive(ObjectIndex::it
 
 void CDelayedInvoker::forget(CallTable::iterator call)
 {
-    // Under the key, not the target: the entry of a destroyed target would stay for good.
+    // The key is used because the target of a destroyed object is null, and its entry would never be found.
     const auto [begin, end] = m_objects.equal_range(call->second.targetKey);
     const auto entry = std::find_if(
         begin, end, [id = call->first](const auto& candidate) { return candidate.second == id; });
@@ -162,7 +161,7 @@ void CDelayedInvoker::timerEvent(QTimerEvent* event)
         QObject::timerEvent(event);
         return;
     }
-    // A copy: the called method may discard or replace any call, this one included.
+    // A copy, because the called method may discard or replace any call, also this one.
     const methodData due = call->second;
     if (due.singleShot) {
         forget(call);
@@ -197,7 +196,7 @@ bool CDelayedInvoker::methodData::invokeMethod(QObject* target, const char* meth
 
 } // namespace
 
-/// One invoker per thread that has asked for a call; a thread that ends takes its invoker along.
+/// Holds one invoker for each thread that has asked for a call. The end of a thread deletes its invoker.
 class Q_DECL_HIDDEN CDelayedCall::Store
 {
 public:
@@ -240,13 +239,13 @@ CDelayedCall::Store::~Store()
     if (m_invokers.hasLocalData()) {
         m_invokers.setLocalData(nullptr);
     }
-    // Without the application object the process is ending: other threads may be gone already.
+    // Without an application object the process is ending, and other threads may have ended.
     if (QCoreApplication::instance()) {
         endOtherThreads();
     }
 }
 
-/// Has every other thread delete its invoker, whose code is about to be unloaded.
+/// Makes every other thread delete its invoker before the invoker's code is unloaded.
 void CDelayedCall::Store::endOtherThreads()
 {
     QDeadlineTimer limit(unloadLimit);
@@ -254,8 +253,8 @@ void CDelayedCall::Store::endOtherThreads()
     if (!lock.owns_lock() || m_registry.invokers.isEmpty()) {
         return;
     }
-    // A probe is deleted by the toolkit's code alone, behind the invoker: when it is gone, its thread has
-    // left ours.
+    // Qt deletes a probe after the invoker of the same thread: when the probe is gone, no code of this
+    // library runs in that thread any more.
     std::vector<QPointer<QObject>> probes;
     for (CDelayedInvoker* invoker : qAsConst(m_registry.invokers)) {
         QMetaObject::invokeMethod(

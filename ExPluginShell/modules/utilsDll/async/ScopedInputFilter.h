@@ -4,12 +4,11 @@
 
 /// Swallows the user's input to an object for a scope. Internal, not installed.
 ///
-/// The filter is a child of its target: if that dies within the scope, there is nothing left to remove at
-/// the end.
+/// The filter is a child of its target: a target that is destroyed within the scope deletes it.
 class ScopedInputFilter
 {
 public:
-    /// A null \a target: nothing is filtered.
+    /// \param target the object without input; null filters nothing
     explicit ScopedInputFilter(QObject* target)
         : m_filter(target ? new CExcludeUserInpuEventsFilter(target) : nullptr)
     {

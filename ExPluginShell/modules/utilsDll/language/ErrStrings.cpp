@@ -13,7 +13,7 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-/// The drive that \a path is on, "C:\"; where paths have no drive, the path itself names the place best.
+/// The drive that \a path is on, such as "C:\"; the path itself if it names no drive.
 QString driveOf(const QString& path)
 {
     const int colon = path.indexOf(QLatin1Char(':'));

@@ -21,8 +21,8 @@ namespace
 constexpr unsigned englishNumber = 2;
 
 constexpr char catalogueContext[] = "CLanguageManager";
-// What each product catalogue says about itself. Only the first two are read here; the third, the Windows
-// locale identifier, and the whole second context are read by other modules of the product.
+// The messages by which a catalogue of the product describes itself. This file reads the first two. Other
+// modules of the product read the third, the Windows locale identifier, and the second context.
 const char* const catalogueKeys[] = {
     QT_TRANSLATE_NOOP("CLanguageManager", "language name"),
     QT_TRANSLATE_NOOP("CLanguageManager", "ostra language number"),
@@ -236,9 +236,9 @@ void CLanguageManager::loadLanguageForApp()
     }
     releaseCurrentTranslator();
     m_currentTranslator = installTranslator(textAt(row, PathColumn));
-    const QString toolkitPath = QStringLiteral(":/translations/qt_%1.qm").arg(currentLanguageAbbrv());
-    if (QFile::exists(toolkitPath)) {
-        m_currentTranslator = installTranslator(toolkitPath);
+    const QString qtPath = QStringLiteral(":/translations/qt_%1.qm").arg(currentLanguageAbbrv());
+    if (QFile::exists(qtPath)) {
+        m_currentTranslator = installTranslator(qtPath);
     }
     m_loadedLanguageID = currentLanguageNumber();
     QLocale::setDefault(QLocale(currentLanguageAbbrv()));

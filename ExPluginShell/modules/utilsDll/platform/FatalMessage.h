@@ -2,21 +2,21 @@
 
 #include <QtGlobal>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
-/// Looks up what showFatalMessage() will need, while the process can still afford it. Main thread.
+/// Prepares what showFatalMessage() needs, while memory can still be allocated. Main thread.
 void prepareFatalMessages();
 
-/// Shows a modal error box with one button and returns when the user has closed it. Allocates nothing in this
-/// process and uses no widget; may be called from any thread.
+/// Shows a modal error box with one button and returns when the user has closed it. Allocates no memory in
+/// this process and uses no widget; may be called from any thread.
 ///
-/// Windows: the system's message box. Elsewhere: the message program that prepareFatalMessages() found; when
-/// there is none, or it cannot be run, title and text go to standard error.
-/// \param owner native handle of the window that the box belongs to, 0 for none; used on Windows alone
+/// On Windows this is the system's message box. On Unix it is the box of the message program that
+/// prepareFatalMessages() found; if there is none, or it cannot be run, title and text are written
+/// to standard error.
+/// \param text  the message, zero-terminated UTF-16
+/// \param title caption of the box, zero-terminated UTF-16
+/// \param owner native handle of the window that owns the box, 0 for none; used on Windows only
 void showFatalMessage(const ushort* text, const ushort* title, quintptr owner);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

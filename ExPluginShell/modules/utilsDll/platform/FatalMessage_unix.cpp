@@ -14,9 +14,7 @@
 
 extern char** environ;
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -24,7 +22,7 @@ namespace
 
 enum class Dialect { None, KDialog, Zenity, XMessage };
 
-/// The message program; plain memory, so that showing a message needs no other.
+/// The message program, in memory that exists before a message has to be shown.
 struct MessageProgram {
     Dialect dialect = Dialect::None;
     char path[PATH_MAX] = {};
@@ -37,7 +35,7 @@ bool hasDisplay()
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-/// Zero-terminated UTF-8 in memory of its own; a text that does not fit is cut at a whole character.
+/// Zero-terminated UTF-8 without heap memory; a text that does not fit is cut after a whole character.
 class Utf8Text
 {
 public:
@@ -79,10 +77,10 @@ private:
     std::size_t m_size = 0;
 };
 
-/// \return whether the program ran and was not missing a display
+/// \return whether the program could be started
 bool runToItsEnd(char* const arguments[])
 {
-    // The handler that called may have blocked signals; the program must not inherit that.
+    // The calling handler may have blocked signals, which the program would inherit.
     posix_spawnattr_t attributes;
     sigset_t none;
     sigemptyset(&none);
@@ -100,7 +98,7 @@ bool runToItsEnd(char* const arguments[])
     int status = 0;
     while (waitpid(child, &status, 0) < 0) {
         if (errno != EINTR) {
-            return true; // the host collects its children itself: the box has been shown all the same
+            return true; // the host has collected the child itself
         }
     }
     constexpr int couldNotStart = 127;
@@ -188,5 +186,4 @@ void showFatalMessage(const ushort* text, const ushort* title, quintptr)
     writeToStandardError("\n", 1);
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

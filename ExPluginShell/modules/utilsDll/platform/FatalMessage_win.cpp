@@ -2,14 +2,12 @@
 
 #include <windows.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 void prepareFatalMessages()
 {
-    // The message box is always there.
+    // MessageBoxW needs no preparation.
 }
 
 void showFatalMessage(const ushort* text, const ushort* title, quintptr owner)
@@ -18,5 +16,4 @@ void showFatalMessage(const ushort* text, const ushort* title, quintptr owner)
                 reinterpret_cast<LPCWSTR>(title), MB_ICONERROR);
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform
