@@ -49,7 +49,7 @@ OrdinaryUser::~OrdinaryUser()
     }
 }
 
-SecondVolume::SecondVolume()
+SecondVolume::SecondVolume(const char* options)
     : m_path(QDir::temp().filePath(QStringLiteral("volume")))
 {
     QDir().mkpath(m_path);
@@ -57,7 +57,7 @@ SecondVolume::SecondVolume()
     // chroot.
     QCoreApplication::applicationFilePath();
     if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("tmpfs", QFile::encodeName(m_path).constData(), "tmpfs", 0, "mode=777") != 0) {
+        mount("tmpfs", QFile::encodeName(m_path).constData(), "tmpfs", 0, options) != 0) {
         m_problem = QStringLiteral("a second file system can't be mounted (only root may): ") +
                     QString::fromLocal8Bit(std::strerror(errno));
     }
@@ -75,7 +75,7 @@ SecondVolume::~SecondVolume()
 OrdinaryUser::OrdinaryUser() = default;
 OrdinaryUser::~OrdinaryUser() = default;
 
-SecondVolume::SecondVolume()
+SecondVolume::SecondVolume(const char*)
     : m_problem(QStringLiteral("there is one volume only on this system"))
 {
 }

@@ -26,7 +26,8 @@ private:
 class SecondVolume
 {
 public:
-    SecondVolume();
+    /// \param options of the mount
+    explicit SecondVolume(const char* options = "mode=777");
     ~SecondVolume();
     SecondVolume(const SecondVolume&) = delete;
     SecondVolume& operator=(const SecondVolume&) = delete;

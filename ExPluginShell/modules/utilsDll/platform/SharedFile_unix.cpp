@@ -1,10 +1,7 @@
+#include "platform/FileReplacement.h"
 #include "platform/SharedFile.h"
 
-#include <QSaveFile>
-
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
@@ -14,14 +11,7 @@ bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
 
 bool replaceSharedFile(const QString& path, const QByteArray& text)
 {
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return false;
-    }
-    file.write(text);
-    return file.commit();
+    return replaceFile(path, text);
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

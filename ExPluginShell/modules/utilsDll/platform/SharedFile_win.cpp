@@ -1,16 +1,14 @@
+#include "platform/FileReplacement.h"
 #include "platform/SharedFile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QUuid>
 
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -36,38 +34,6 @@ HANDLE openPatiently(const wchar_t* path, DWORD access)
         if (handle != INVALID_HANDLE_VALUE || attempt == mostAttempts ||
             !isBeingReplaced(path, GetLastError())) {
             return handle;
-        }
-        Sleep(pause);
-    }
-}
-
-/// Whether only other programs can be in the way of replacing a file, not what it is.
-bool isReplaceable(const QFileInfo& file)
-{
-    return file.isFile() && file.isWritable();
-}
-
-bool writeThrough(QFile& file, const QByteArray& text)
-{
-    const bool written = file.write(text) == text.size() && file.flush() &&
-                         FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
-    file.close();
-    return written;
-}
-
-/// Moves a file over another. Only the move is tried again: it fails while somebody has the other one open.
-bool movePatiently(const QString& from, const QString& to)
-{
-    const QString source = QDir::toNativeSeparators(from);
-    const QString target = QDir::toNativeSeparators(to);
-    for (int attempt = 0;; ++attempt) {
-        if (MoveFileExW(reinterpret_cast<const wchar_t*>(source.utf16()),
-                        reinterpret_cast<const wchar_t*>(target.utf16()),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-            return true;
-        }
-        if (attempt == mostAttempts || !isReplaceable(QFileInfo(to))) {
-            return false;
         }
         Sleep(pause);
     }
@@ -99,22 +65,7 @@ bool openSharedFile(QFile& file, QIODevice::OpenMode mode)
 
 bool replaceSharedFile(const QString& path, const QByteArray& text)
 {
-    const QFileInfo existing(path);
-    if (existing.exists() && !isReplaceable(existing)) {
-        return false;
-    }
-    const QString unique = QUuid::createUuid().toString(QUuid::Id128);
-    QFile file(path + QLatin1Char('.') + unique);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text | QIODevice::NewOnly)) {
-        file.setFileName(path);
-        return file.open(QIODevice::WriteOnly | QIODevice::Text) && writeThrough(file, text);
-    }
-    if (writeThrough(file, text) && movePatiently(file.fileName(), path)) {
-        return true;
-    }
-    file.remove();
-    return false;
+    return replaceFile(path, QByteArray(text).replace("\n", "\r\n"));
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

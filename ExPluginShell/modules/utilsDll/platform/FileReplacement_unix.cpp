@@ -1,0 +1,116 @@
+#include "platform/FileReplacement.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <ctime>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace TOLVAN_NAMESPACE::Platform
+{
+
+namespace
+{
+
+constexpr const char* accessList = "system.posix_acl_access";
+
+/// Holds back the signal that ends a process whose write passes its file size limit: the write then fails.
+class HeldSizeSignal
+{
+public:
+    HeldSizeSignal()
+    {
+        sigset_t pending;
+        sigpending(&pending);
+        m_wasPending = sigismember(&pending, SIGXFSZ) == 1;
+        sigemptyset(&m_signal);
+        sigaddset(&m_signal, SIGXFSZ);
+        pthread_sigmask(SIG_BLOCK, &m_signal, &m_before);
+    }
+    ~HeldSizeSignal()
+    {
+        constexpr timespec atOnce = {};
+        while (!m_wasPending && sigtimedwait(&m_signal, nullptr, &atOnce) == -1 && errno == EINTR) {
+        }
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+    HeldSizeSignal(const HeldSizeSignal&) = delete;
+    HeldSizeSignal& operator=(const HeldSizeSignal&) = delete;
+
+private:
+    sigset_t m_signal;
+    sigset_t m_before;
+    bool m_wasPending;
+};
+
+bool keepAccessList(int file, const char* target)
+{
+    char list[4096];
+    const ssize_t length = getxattr(target, accessList, list, sizeof list);
+    if (length > 0) {
+        return fsetxattr(file, accessList, list, static_cast<std::size_t>(length), 0) == 0;
+    }
+    // The temporary file may have inherited a list from the folder.
+    return errno != ERANGE &&
+           (fremovexattr(file, accessList) == 0 || errno == ENODATA || errno == EOPNOTSUPP);
+}
+
+} // namespace
+
+bool FileReplacement::createFile(QFile& file, bool isPrivate)
+{
+    const mode_t mode = isPrivate ? 0600 : 0666; // a replacement gets the old file's mode at the end
+    const int descriptor =
+        ::open(QFile::encodeName(file.fileName()).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (descriptor == -1) {
+        return false;
+    }
+    if (!file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return false;
+    }
+    return true;
+}
+
+qint64 FileReplacement::writeBlock(QFile& file, const char* data, qint64 length)
+{
+    const HeldSizeSignal held;
+    return file.write(data, length);
+}
+
+bool FileReplacement::reserve(QFile& file, qint64 size)
+{
+    const HeldSizeSignal held;
+    return posix_fallocate(file.handle(), 0, size) == 0;
+}
+
+bool FileReplacement::flushToDisk(QFile& file)
+{
+    return file.flush() && (fsync(file.handle()) == 0 || errno == EINVAL); // EINVAL: no such operation there
+}
+
+bool FileReplacement::keepRights(QFile& file, const QString& target)
+{
+    const QByteArray path = QFile::encodeName(target);
+    struct stat before = {};
+    struct stat now = {};
+    const int descriptor = file.handle();
+    if (stat(path.constData(), &before) == -1 || fstat(descriptor, &now) == -1) {
+        return false;
+    }
+    const bool isSameOwner = before.st_uid == now.st_uid && before.st_gid == now.st_gid;
+    // The owner first: changing it clears bits of the mode.
+    return (isSameOwner || fchown(descriptor, before.st_uid, before.st_gid) == 0) &&
+           keepAccessList(descriptor, path.constData()) && fchmod(descriptor, before.st_mode & 07777) == 0;
+}
+
+bool FileReplacement::moveOver(const QString& from, const QString& to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+} // namespace TOLVAN_NAMESPACE::Platform
