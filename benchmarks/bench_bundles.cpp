@@ -1,5 +1,5 @@
-// What the resource bundles cost: loading the library with and without them, opening entries, and the two
-// ways of storing the calibration database. Linux; the library is loaded, not linked.
+// Measures the resource bundles: loading the library with and without them, opening entries, and the calibration
+// database stored uncompressed and compressed. Linux; the library is loaded, not linked.
 
 #include <benchmark/benchmark.h>
 
@@ -91,7 +91,7 @@ double ownMemory()
     return anonymous.match(QString::fromLatin1(status.readAll())).captured(1).toDouble();
 }
 
-/// How many kilobytes of the 20 MB library a process has fetched once it is loaded, and by one entry of it.
+/// Kilobytes of the 20 MB library that are mapped after loading it, and after opening one entry.
 void firstOpen(benchmark::State& state, const char* path)
 {
     for (auto unused : state) {
@@ -117,7 +117,7 @@ BENCHMARK_CAPTURE(firstOpen, icon, ":/icons/messagebox/info_dark_icon.svg")
 /// Opening the database and looking at its first page, as a reader does before its first query.
 void openDatabase(benchmark::State& state, bool compressed)
 {
-    // Only the very first opening shows it: the allocator keeps what it once had.
+    // Only the first opening shows the growth: the allocator keeps freed memory.
     static double most[2] = {0, 0};
     QLibrary library(beside(withBundles));
     library.load();

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the calibration database against what its readers rely on.
+"""Checks the schema and the rows of the calibration database.
 
 usage: calibration.py DATABASE
 """
@@ -20,7 +20,7 @@ INDEXES = {"module_body_idx", "module_cid_idx", "module_raw_only_idx", "module_r
            "module_fmax_idx", "module_lens_id_idx", "module_bridge_idx", "body_id_idx", "body_maker_idx",
            "body_identifier_idx"}
 
-# Each query answers with the second value when all is well.
+# Each query with its expected result.
 QUERIES = {
     "PRAGMA integrity_check": "ok",
     "SELECT count(*) FROM Metadata": 1,
@@ -43,7 +43,7 @@ QUERIES = {
     "SELECT count(*) FROM Module WHERE raw_only AND rgb_only": 0,
     "SELECT count(*) > 0 FROM Module WHERE lens_id = 'NULL'": 1,
     "SELECT count(DISTINCT cid) FROM Module WHERE cid IN ('C36841a_000', 'C35830b_002')": 2,
-    # A module measured twice for one body and one kind of picture would be ambiguous.
+    # Two modules for one body and one kind of picture would be ambiguous.
     "SELECT count(*) FROM (SELECT 1 FROM Module GROUP BY cid, body, raw_only, rgb_only HAVING count(*) > 1)": 0,
 }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Reads the style sheets as texts: their palette, their colours, and the contrast of what they write on what.
+"""Checks the style sheets as texts: their palette, their colours, and the contrast of text on its ground.
 
 usage: stylesheets.py RESOURCES-FOLDER
 """
@@ -11,7 +11,7 @@ from pathlib import Path
 
 TEXT, DISABLED_TEXT = 4.5, 3.0
 COLOUR = re.compile(r"#[0-9A-Fa-f]{6}\b")
-# What a widget without a background of its own may stand on.
+# The grounds of a widget that has no background of its own.
 SURFACES = ("well", "ground", "panel", "field")
 WITHOUT_TEXT = {"QDial", "QSlider", "indicator", "tearoff", "handle", "scroller"}
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Compares the translation sources with the texts of the library: every text is translated in every language, and no
-translation is left without its text.
+"""Compares the translation sources with the texts of the library: every text is translated in every language, and every
+translation has its text.
 
 usage: translations.py LUPDATE TRANSLATIONS-FOLDER SOURCE-FOLDER
 
 To bring the files up to date after a text has changed, run
     lupdate -locations none -no-ui-lines -I SOURCE-FOLDER SOURCE-FOLDER -ts TRANSLATIONS-FOLDER/*.ts
-and translate what is unfinished.
+and translate the unfinished texts.
 """
 
 import re

@@ -1,7 +1,10 @@
-"""Camera makers, bodies and lenses of the calibration catalogue.
+"""Camera makers, bodies and lenses of the calibration catalogue: sample data.
 
-Everything is derived from the tables below and a fixed seed, so two runs on two machines agree in every
-value. Only Random.random() is used: it is the one function whose sequence Python promises to keep.
+The makers are real; their bodies, lenses and calibrations are invented and no camera was measured. The rows have the
+form and the number of the real catalogue, so that its readers can be built and tested.
+
+All values are derived from the tables below and a fixed seed, so that every machine makes the same rows. Random.random()
+is the only function of its module whose sequence Python guarantees.
 """
 
 import random
@@ -57,7 +60,7 @@ PRIMES = [
 
 
 class Chance:
-    """The dice of the catalogue."""
+    """Pseudo-random choices, the same in every run."""
 
     def __init__(self, seed):
         self._random = random.Random(seed)

@@ -3,9 +3,9 @@
 
 usage: make_calibration_file.py OUTPUT
 
-A module is a grid of radial distortion, vignetting and chromatic coefficients over focal length, aperture and
-distance, behind a short header, scrambled: each byte is combined with a stream keyed by the
-module's own name, so that a module copied to another name does not load.
+A module is a short header and a grid of radial distortion, vignetting and chromatic coefficients over focal length,
+aperture and distance. It is scrambled: each byte is combined with a stream keyed by the module's own name, so that a
+module copied to another name doesn't load. The coefficients are invented sample data.
 """
 
 import hashlib

@@ -3,9 +3,9 @@
 
 usage: make_database.py OUTPUT
 
-The rows come from catalogue.py. SQLite leaves three traces of the machine in a file - its version, its count of
-changes, and whatever lay in the unused part of a page - and counts its statistics a little differently from
-version to version; all of these are set here.
+The rows come from catalogue.py. SQLite leaves three traces of the machine in a file: its version, its count of changes,
+and old data in the unused part of a page. Its statistics also differ a little between versions. This script sets all of
+these to fixed values.
 """
 
 import os
@@ -19,7 +19,7 @@ from catalogue import Chance
 VERSION = "500.4.0.1"
 MODULES = 85935
 FIRST_CALIBRATION = 20000
-# Lens names entered the catalogue with this calibration; older modules know their lens by number only.
+# Modules before this calibration have a lens number but no lens name.
 FIRST_NAMED_CALIBRATION = 21484
 # The calibrations that are delivered as files beside the database.
 DELIVERED = ("C36841a_000", "C35830b_002")
@@ -49,7 +49,7 @@ def quotas(bodies):
 
 
 def lenses_of(body, pool, chance):
-    """The lenses measured on one body, starting at another lens for each body so that none is left out everywhere."""
+    """The lenses of one body; each body starts at another lens, so that every lens is used."""
     if body.sensor == catalogue.FIXED:
         lens = catalogue.fixed_lens(chance, zooms=not body.is_telephone)
         while True:
@@ -109,7 +109,7 @@ def fill(path):
     connection = sqlite3.connect(path, isolation_level=None)
     connection.executescript(f"PRAGMA page_size={PAGE_SIZE}; PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;"
                              "PRAGMA cache_size=-65536; PRAGMA encoding='UTF-8';"
-                             "PRAGMA secure_delete=ON; BEGIN;" + SCHEMA)  # nothing left where something was moved
+                             "PRAGMA secure_delete=ON; BEGIN;" + SCHEMA)  # moved rows leave no old data
     bodies = catalogue.bodies()
     connection.execute("INSERT INTO Metadata VALUES (1, 'Version', ?)", (VERSION,))
     connection.executemany("INSERT INTO Maker VALUES (?, ?)", enumerate(catalogue.MAKERS, start=1))
@@ -127,7 +127,7 @@ def fill(path):
 
 
 def check(connection):
-    """A catalogue that contradicts itself is not delivered."""
+    """Stops the build if the rows contradict each other."""
     def one(query, *values):
         return connection.execute(query, values).fetchone()[0]
     problems = [

@@ -4,8 +4,7 @@
 //     contact_sheet ICON_DIR PALETTE_JSON OUT_PNG [--pixels]
 //
 // The pages become OUT-1.png, OUT-2.png ... With --pixels the enlargement repeats the pixels of the real
-// size, which shows blur. Rendered by the toolkit's own SVG renderer: what is seen here is what the product
-// shows.
+// size, which shows blur. The images are rendered by Qt's SVG renderer, as in the product.
 
 #include <QCoreApplication>
 #include <QDir>

@@ -5,7 +5,7 @@
     make_icons.py --list             the relative paths of the images, one per line
     make_icons.py --logo-out DIR     the application icon as logo_16.png ... logo_1024.png (needs rsvg-convert)
 
-A file that already has the right content is left untouched. The output depends on nothing but the sources.
+A file that already has the right content is left untouched. The output depends only on the sources.
 """
 
 import argparse

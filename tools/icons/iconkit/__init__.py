@@ -1,1 +1,1 @@
-"""The drawings of the product's icons and what turns them into SVG files."""
+"""The drawings of the product's icons and their conversion to SVG files."""

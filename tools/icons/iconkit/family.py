@@ -1,4 +1,4 @@
-"""The whole family: which images there are, folder by folder."""
+"""The images of the whole family, folder by folder."""
 
 from . import drawings, svg
 
@@ -47,7 +47,7 @@ class Family:
 
 
 def build():
-    """All images by relative path; raises when a folder does not hold what it must."""
+    """All images by relative path; raises ValueError if a folder has a wrong number of images."""
     family = Family()
     for module in drawings.MODULES:
         module.draw(family)

@@ -1,4 +1,4 @@
-"""Colours: the palette shared with the style sheets, and what each state makes of it."""
+"""The palette, shared with the style sheets, and the tones of each state."""
 
 import json
 from pathlib import Path
@@ -9,9 +9,8 @@ PALETTE_FILE = RESOURCES / "palette.json"
 
 COLOURS = json.loads(PALETTE_FILE.read_text(encoding="utf-8"))
 
-# What a drawing's layers look like in each state: outline, the stroke of a glyph without second tone, second tone,
-# and the tint of closed bodies with its opacity. Hover lights the second tone, pressed turns the whole
-# glyph to the accent, checked fills the bodies; so no two states rest on a shade of grey alone.
+# The colours of a drawing's layers in each state: outline, stroke of a glyph without second tone, second tone, tint of
+# closed bodies with its opacity. Two states never differ by a shade of grey only.
 STATES = {
     "": {"main": "glyph", "lone": "glyph", "detail": "glyph_soft", "body": ("glyph", 0.1)},
     "hover": {"main": "glyph_bright", "lone": "accent_bright", "detail": "accent", "body": ("glyph_bright", 0.16)},

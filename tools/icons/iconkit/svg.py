@@ -1,4 +1,4 @@
-"""Turns a drawing into SVG text, within the SVG Tiny 1.2 that the toolkit renders.
+"""Turns a drawing into SVG text, within the SVG Tiny 1.2 that Qt renders.
 
 A drawing is a text of one shape per line: a layer, a blank, a shape.
 

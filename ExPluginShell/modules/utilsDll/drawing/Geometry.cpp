@@ -12,13 +12,13 @@ namespace
 
 constexpr double tiny = 1e-12;
 
-/// The rule of qFuzzyCompare(), written out: the results may not change with the toolkit's.
+/// The rule of qFuzzyCompare(), written out so that the results stay the same with every version of Qt.
 bool areRelativelyEqual(double a, double b)
 {
     return std::abs(a - b) * 1e12 <= std::min(std::abs(a), std::abs(b));
 }
 
-/// The rule of qRound(), for every double: qRound() itself is undefined beyond the integers.
+/// The rule of qRound() for every double; qRound() itself is undefined beyond the range of int.
 int roundToInteger(double value)
 {
     constexpr double lowest = std::numeric_limits<int>::min();

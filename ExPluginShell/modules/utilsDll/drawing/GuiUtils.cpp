@@ -37,7 +37,7 @@ void moveCursorThereAndBack(const QPoint& position)
 
 void chooseActiveAction(QMenu& menu, const QPoint& globalPos)
 {
-    constexpr int moves = 2; // a menu takes the first move after it was shown as noise
+    constexpr int moves = 2; // QMenu ignores the first move after it was shown
     for (int i = 0; i < moves; ++i) {
         QMouseEvent move(QEvent::MouseMove, menu.mapFromGlobal(globalPos), globalPos, Qt::NoButton,
                          QGuiApplication::mouseButtons(), QGuiApplication::keyboardModifiers());
@@ -81,7 +81,7 @@ void moveWindowToScreenCenter(QWidget* window, QWidget* parent)
     if (!screen.isValid()) {
         return;
     }
-    // While a window manager takes a window over, an X server may tell a frame smaller than what it encloses.
+    // While a window manager takes a window over, an X server may report a frame smaller than the window.
     const QSize frame = window->frameGeometry().size().expandedTo(window->size());
     window->move(screen.x() + (screen.width() - frame.width()) / 2,
                  screen.y() + (screen.height() - frame.height()) / 2);

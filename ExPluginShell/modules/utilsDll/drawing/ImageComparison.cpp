@@ -61,7 +61,7 @@ quint64 rowDifference(const uchar* first, const uchar* second, int width)
 }
 #endif
 
-/// The pixels are read as 32-bit values; what has fewer bits would be read past its end.
+/// Converts images of less than 32 bits a pixel, because every pixel is read as a 32-bit value.
 QImage withWholePixels(const QImage& image)
 {
     return image.depth() < 32 ? image.convertToFormat(QImage::Format_RGB32) : image;

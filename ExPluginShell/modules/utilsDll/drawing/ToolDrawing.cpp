@@ -21,8 +21,8 @@ bool isFinite(const QPointF& point)
     return std::isfinite(point.x()) && std::isfinite(point.y());
 }
 
-/// Puts \a outside, one end of \a line, where the line first meets an edge of \a clip; the order of the edges
-/// decides in a corner. \return false when there is nothing to replace, which is reported for \a sourceLine
+/// Moves \a outside, one end of \a line, to the first edge of \a clip that the line meets.
+/// \return false if that end is inside, which is reported with \a sourceLine
 bool cutAtEdge(const QLineF& line, QPointF& outside, const QRectF& clip, int sourceLine)
 {
     if (clip.contains(outside)) {
@@ -43,7 +43,8 @@ bool cutAtEdge(const QLineF& line, QPointF& outside, const QRectF& clip, int sou
     return true;
 }
 
-/// Cuts the line from-to to \a clip. \return false when nothing of it is to be drawn
+/// Cuts the line from-to to \a clip.
+/// \return false if nothing of the line is to be drawn
 bool clipLine(QPointF& from, QPointF& to, const QRectF& clip)
 {
     if (clip.width() <= 0.0 || clip.height() <= 0.0) {

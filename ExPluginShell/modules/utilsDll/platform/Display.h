@@ -1,12 +1,9 @@
 #pragma once
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
-/// Horizontal logical dots per inch of the screen; 96 where the system does not tell.
+/// Horizontal logical dots per inch of the screen; 96 if the system doesn't report them.
 double logicalDotsPerInch();
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

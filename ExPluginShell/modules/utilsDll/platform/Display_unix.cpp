@@ -3,9 +3,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 double logicalDotsPerInch()
@@ -15,5 +13,4 @@ double logicalDotsPerInch()
     return screen ? screen->logicalDotsPerInchX() : unscaled;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 double logicalDotsPerInch()
@@ -18,5 +16,4 @@ double logicalDotsPerInch()
     return dotsPerInch;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -1,5 +1,5 @@
-# The nine fonts, from Debian's font packages: none is kept in this tree. THIRD-PARTY.md names their licences. Where a
-# family is not packaged, one of a similar design takes its place under the name that callers know.
+# The nine fonts come from Debian's font packages; THIRD-PARTY.md names their licences. Where a family isn't packaged,
+# one of a similar design takes its place under the file name that callers know. README.md lists the family names.
 
 set(font_root "/usr/share/fonts" CACHE PATH "Folder of the installed fonts")
 set(roboto "${font_root}/truetype/roboto/unhinted/RobotoTTF")

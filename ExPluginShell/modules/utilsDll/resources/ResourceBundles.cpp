@@ -1,6 +1,6 @@
 #include <QtCore/qglobal.h>
 
-// Qt's resource compiler writes calls of these two into its output; no header has them.
+// The output of Qt's resource compiler calls these two functions; no header of Qt declares them.
 Q_CORE_EXPORT bool qRegisterResourceData(int version, const unsigned char* tree, const unsigned char* names,
                                          const unsigned char* data);
 Q_CORE_EXPORT bool qUnregisterResourceData(int version, const unsigned char* tree, const unsigned char* names,

@@ -1,4 +1,4 @@
-"""Tools of the geometric corrections (24 pixels), their handles, and the small signs that tell which are applied."""
+"""Tools of the geometric corrections (24 pixels), their handles, and the small signs of applied corrections."""
 
 from .. import svg
 

@@ -1,4 +1,4 @@
-"""The signs at the left of a message box, 34 pixels: the sign's colour says how grave it is, its outline what it is."""
+"""The signs at the left of a message box, 34 pixels: the colour shows the severity, the outline the kind of message."""
 
 HEXAGON = "M12.2 4.5h9.6l7.7 7.7v9.6l-7.7 7.7h-9.6l-7.7-7.7v-9.6z"
 TRIANGLE = "M15.1 5.6L3.3 26.1a2.2 2.2 0 0 0 1.9 3.4h23.6a2.2 2.2 0 0 0 1.9-3.4L18.9 5.6a2.2 2.2 0 0 0-3.8 0z"
