@@ -16,14 +16,16 @@ QString quoted(const QString& what, const QString& text)
 QVector<int> bracketed(const QString& text)
 {
     QVector<int> result;
-    if (text.size() < 2 || !text.startsWith(QLatin1Char('[')) || !text.endsWith(QLatin1Char(']')))
+    if (text.size() < 2 || !text.startsWith(QLatin1Char('[')) || !text.endsWith(QLatin1Char(']'))) {
         return result;
+    }
     const auto places = text.midRef(1, text.size() - 2).split(QLatin1Char(','));
     for (const QStringRef& place : places) {
         bool ok = false;
         const int number = place.trimmed().isEmpty() ? -1 : place.trimmed().toInt(&ok);
-        if (!place.trimmed().isEmpty() && (!ok || number < 0))
+        if (!place.trimmed().isEmpty() && (!ok || number < 0)) {
             return {};
+        }
         result.append(number);
     }
     return result;
@@ -37,18 +39,20 @@ SoapArrayType SoapArrayType::fromAttribute(const QString& text)
     const int bracket = text.lastIndexOf(QLatin1Char('['));
     result.itemType = soapLocalPart(bracket < 0 ? text : text.left(bracket));
     result.sizes = bracketed(bracket < 0 ? QString() : text.mid(bracket));
-    if (result.sizes.isEmpty())
+    if (result.sizes.isEmpty()) {
         result.error = quoted(QStringLiteral("The size of an array is not readable"), text);
-    else if (result.sizes.size() > SoapLimits::ArrayDimensions)
+    } else if (result.sizes.size() > SoapLimits::ArrayDimensions) {
         result.error = quoted(QStringLiteral("An array has more than five dimensions"), text);
-    else if (result.sizes.indexOf(-1, 1) > 0)
+    } else if (result.sizes.indexOf(-1, 1) > 0) {
         result.error = quoted(QStringLiteral("An array leaves the size of an inner dimension open"), text);
+    }
     qint64 items = 1;
     for (int k = 0; k < result.sizes.size() && result.error.isEmpty(); ++k) {
         items *= result.sizes.at(k) < 0 ? 1 : result.sizes.at(k);
-        if (items > SoapLimits::ArrayItems) // checked at each factor: the product cannot overflow
+        if (items > SoapLimits::ArrayItems) { // checked at each factor: the product cannot overflow
             result.error = quoted(
                 QStringLiteral("An array claims more than %1 items").arg(SoapLimits::ArrayItems), text);
+        }
     }
     return result;
 }

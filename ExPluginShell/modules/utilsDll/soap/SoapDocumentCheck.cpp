@@ -23,10 +23,12 @@ const char* behind(const char* at, const char* end, const char* text)
     const auto length = std::strlen(text);
     while (at < end) {
         at = static_cast<const char*>(std::memchr(at, text[0], static_cast<std::size_t>(end - at)));
-        if (!at)
+        if (!at) {
             break;
-        if (startsWith(at, end, text))
+        }
+        if (startsWith(at, end, text)) {
             return at + length;
+        }
         ++at;
     }
     return end;
@@ -37,10 +39,11 @@ const char* behindTag(const char* at, const char* end)
 {
     char quote = 0;
     for (; at < end; ++at) {
-        if (quote ? *at == quote : (*at == '"' || *at == '\''))
+        if (quote ? *at == quote : (*at == '"' || *at == '\'')) {
             quote = quote ? 0 : *at;
-        else if (!quote && *at == '>')
+        } else if (!quote && *at == '>') {
             return at + 1;
+        }
     }
     return end;
 }
@@ -50,8 +53,9 @@ QString checkTags(const QByteArray& document)
     const char* const end = document.constData() + document.size();
     for (const char* at = document.constData(); at < end;) {
         at = static_cast<const char*>(std::memchr(at, '<', static_cast<std::size_t>(end - at)));
-        if (!at)
+        if (!at) {
             break;
+        }
         if (startsWith(at, end, "<!--")) {
             at = behind(at + 4, end, "-->");
         } else if (startsWith(at, end, "<![CDATA[")) {
@@ -63,8 +67,9 @@ QString checkTags(const QByteArray& document)
         } else {
             const char* const limit = end - at > SoapLimits::TagBytes ? at + SoapLimits::TagBytes : end;
             at = behindTag(at, limit);
-            if (at == limit && limit != end)
+            if (at == limit && limit != end) {
                 return QStringLiteral("A tag is longer than %1 bytes").arg(SoapLimits::TagBytes);
+            }
         }
     }
     return QString();
@@ -80,11 +85,13 @@ bool isWide(const QByteArray& document)
 
 QString checkSoapDocument(const QByteArray& document, QString* unicode)
 {
-    if (document.size() > SoapLimits::DocumentBytes)
+    if (document.size() > SoapLimits::DocumentBytes) {
         return QStringLiteral("The document is larger than %1 MiB")
             .arg(SoapLimits::DocumentBytes / (1024 * 1024));
-    if (!isWide(document))
+    }
+    if (!isWide(document)) {
         return checkTags(document);
+    }
     // without a byte order mark the first character is '<', so the zero tells the order
     QTextCodec* const fallback = QTextCodec::codecForName(document.at(0) == 0 ? "UTF-16BE" : "UTF-16LE");
     *unicode = QTextCodec::codecForUtfText(document, fallback)->toUnicode(document);

@@ -15,8 +15,9 @@ namespace
 /// The next text or element among \a node and its later siblings; null when there is none.
 QDomNode relevant(QDomNode node)
 {
-    while (!node.isNull() && !node.isElement() && !node.isText())
+    while (!node.isNull() && !node.isElement() && !node.isText()) {
         node = node.nextSibling();
+    }
     return node;
 }
 
@@ -29,13 +30,16 @@ QString localName(const QDomNode& node)
 /// known.
 QString uriOf(const QDomAttr& attribute)
 {
-    if (!attribute.namespaceURI().isEmpty())
+    if (!attribute.namespaceURI().isEmpty()) {
         return attribute.namespaceURI();
+    }
     const QString name = attribute.nodeName();
-    if (name.startsWith(QLatin1String("SOAP-ENC:")))
+    if (name.startsWith(QLatin1String("SOAP-ENC:"))) {
         return SoapUris::Encoding;
-    if (name.startsWith(QLatin1String("xsi:")))
+    }
+    if (name.startsWith(QLatin1String("xsi:"))) {
         return SoapUris::SchemaInstance;
+    }
     return name.startsWith(QLatin1String("SOAP-ENV:")) ? QString(SoapUris::Envelope) : QString();
 }
 
@@ -45,18 +49,21 @@ SoapDomCursor::SoapDomCursor(const QDomNode& root)
     : m_root(root)
 {
     if (root.isDocument()) {
-        if (!root.toDocument().doctype().isNull() && !root.toDocument().doctype().name().isEmpty())
+        if (!root.toDocument().doctype().isNull() && !root.toDocument().doctype().name().isEmpty()) {
             fail(QStringLiteral("A document type declaration is not allowed in a SOAP message"));
+        }
         m_root = root.toDocument().documentElement();
     }
-    if (!m_root.isElement())
+    if (!m_root.isElement()) {
         fail(QStringLiteral("There is no element to read"));
+    }
 }
 
 SoapXmlCursor::Token SoapDomCursor::start(const QDomElement& element)
 {
-    if (!enter())
+    if (!enter()) {
         return Token::Error;
+    }
     m_current = element;
     m_inside = true;
     m_element = SoapElement();
@@ -72,23 +79,28 @@ SoapXmlCursor::Token SoapDomCursor::start(const QDomElement& element)
 
 SoapXmlCursor::Token SoapDomCursor::next()
 {
-    if (!m_error.isEmpty())
+    if (!m_error.isEmpty()) {
         return Token::Error;
-    if (m_finished)
+    }
+    if (m_finished) {
         return Token::End;
-    if (m_current.isNull())
+    }
+    if (m_current.isNull()) {
         return start(m_root.toElement());
+    }
     const QDomNode following = relevant(m_inside ? m_current.firstChild() : m_current.nextSibling());
-    if (following.isElement())
+    if (following.isElement()) {
         return start(following.toElement());
+    }
     if (following.isText()) { // CDATA sections are texts, too
         m_current = following;
         m_inside = false;
         m_text = following.nodeValue();
         return Token::Text;
     }
-    if (!m_inside)
+    if (!m_inside) {
         m_current = m_current.parentNode();
+    }
     m_inside = false;
     leave();
     m_finished = m_current == m_root;

@@ -23,8 +23,9 @@ constexpr SoapAttributeName positionAttribute{encodingPrefix, SoapUris::literal(
 QString bracketed(const QVector<int>& numbers)
 {
     QStringList texts;
-    for (const int number : numbers)
+    for (const int number : numbers) {
         texts.append(QString::number(number));
+    }
     return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
 }
 
@@ -34,12 +35,15 @@ void SoapEncoder::open(const QtSoapType& value, const QString* position)
 {
     const QtSoapQName name = value.name();
     m_sink.open(SoapText::elementName(name.name(), QStringLiteral("item")), name.uri());
-    if (position)
+    if (position) {
         m_sink.attribute(positionAttribute, *position);
-    if (const QString id = value.id(); !id.isEmpty())
+    }
+    if (const QString id = value.id(); !id.isEmpty()) {
         m_sink.plainAttribute(QLatin1String("id"), id);
-    if (const QString href = value.href(); !href.isEmpty())
+    }
+    if (const QString href = value.href(); !href.isEmpty()) {
         m_sink.plainAttribute(QLatin1String("href"), href);
+    }
 }
 
 void SoapEncoder::encode(const QtSoapSimpleType& value, const QString* position)
@@ -48,8 +52,9 @@ void SoapEncoder::encode(const QtSoapSimpleType& value, const QString* position)
     const QVariant content = value.value();
     if (content.isValid()) {
         const QString typeName = QtSoapType::typeToName(value.type());
-        if (!typeName.isEmpty())
+        if (!typeName.isEmpty()) {
             m_sink.attribute(typeAttribute, QLatin1String("xsd:") + typeName);
+        }
         m_sink.text(value.toString());
     } else if (value.href().isEmpty()) {
         m_sink.attribute(nilAttribute, QStringLiteral("true"));
@@ -66,8 +71,9 @@ void SoapEncoder::encode(const QtSoapStruct& value, const QString* position)
 
 void SoapEncoder::writeChildren(const QtSoapStruct& value)
 {
-    for (const auto& child : value.dict)
+    for (const auto& child : value.dict) {
         write(*child);
+    }
 }
 
 void SoapEncoder::encode(const QtSoapArray& value, const QString* position)
@@ -100,8 +106,9 @@ void SoapEncoder::write(const QtSoapType& value, const QString* position)
         encode(static_cast<const QtSoapArray&>(value), position);
     } else {
         QDomElement element = value.toDomElement(m_sink.document());
-        if (position && !element.isNull())
+        if (position && !element.isNull()) {
             element.setAttributeNS(positionAttribute.uri, QStringLiteral("SOAP-ENC:position"), *position);
+        }
         m_sink.tree(element);
     }
 }

@@ -51,8 +51,9 @@ SoapHttpExchange* SoapHttpExchange::of(QNetworkReply* reply)
 
 void SoapHttpExchange::onProgress()
 {
-    if (m_idle.isActive())
+    if (m_idle.isActive()) {
         m_idle.start();
+    }
 }
 
 /// What does not fit stays on the way.
@@ -70,13 +71,15 @@ void SoapHttpExchange::onHead()
 void SoapHttpExchange::onReceived()
 {
     onProgress();
-    if (!m_reason.isEmpty())
+    if (!m_reason.isEmpty()) {
         return;
+    }
     m_body += m_reply->readAll();
     const qint64 announced = m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
-    if (qMax<qint64>(m_body.size(), announced) > SoapLimits::DocumentBytes)
+    if (qMax<qint64>(m_body.size(), announced) > SoapLimits::DocumentBytes) {
         giveUp(QStringLiteral("The answer is larger than %1 MiB")
                    .arg(SoapLimits::DocumentBytes / (1024 * 1024)));
+    }
 }
 
 void SoapHttpExchange::onTimeout()
@@ -88,8 +91,9 @@ void SoapHttpExchange::onTimeout()
 
 void SoapHttpExchange::giveUp(const QString& reason)
 {
-    if (!m_reason.isEmpty() || m_reply->isFinished())
+    if (!m_reason.isEmpty() || m_reply->isFinished()) {
         return;
+    }
     m_reason = reason;
     m_body.clear();
     m_idle.stop();
@@ -106,8 +110,9 @@ QByteArray SoapHttpExchange::declared(const QByteArray& body) const
     const auto match = charset.match(m_reply->header(QNetworkRequest::ContentTypeHeader).toString());
     const bool decided = !body.startsWith('<') || body.startsWith("<?xml");
     if (decided || !match.hasMatch() ||
-        match.captured(1).startsWith(QLatin1String("utf"), Qt::CaseInsensitive))
+        match.captured(1).startsWith(QLatin1String("utf"), Qt::CaseInsensitive)) {
         return body;
+    }
     return "<?xml version=\"1.0\" encoding=\"" + match.captured(1).toLatin1() + "\"?>" + body;
 }
 
@@ -118,17 +123,19 @@ QString SoapHttpExchange::failure(const QByteArray& body, const QString& notSoap
     const QString phrase = m_reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
     if (status >= 200 && status < 300) {
-        if (m_reply->error() != QNetworkReply::NoError)
+        if (m_reply->error() != QNetworkReply::NoError) {
             return QStringLiteral("The answer is not complete: %1").arg(m_reply->errorString());
+        }
         return QStringLiteral("The answer (%1, %2 bytes) is no SOAP message: %3")
             .arg(type.isEmpty() ? QStringLiteral("no content type") : type)
             .arg(body.size())
             .arg(notSoap);
     }
-    if (status > 0)
+    if (status > 0) {
         return QStringLiteral("The server answered with the status %1 %2 and no SOAP message")
             .arg(status)
             .arg(phrase);
+    }
     return QStringLiteral("The server could not be asked: %1").arg(m_reply->errorString());
 }
 
@@ -136,17 +143,21 @@ QtSoapMessage SoapHttpExchange::message()
 {
     m_idle.stop();
     m_whole.stop();
-    if (!m_reason.isEmpty())
+    if (!m_reason.isEmpty()) {
         return fault(QtSoapMessage::Other, m_reason);
-    if (m_reply->isOpen()) // else the caller aborted it
+    }
+    if (m_reply->isOpen()) { // else the caller aborted it
         m_body += m_reply->readAll();
+    }
     const QByteArray body = std::exchange(m_body, QByteArray());
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     QtSoapMessage message;
-    if ((status == 202 || status == 204) && body.trimmed().isEmpty())
+    if ((status == 202 || status == 204) && body.trimmed().isEmpty()) {
         return message; // taken on, nothing to say
-    if (!body.isEmpty() && message.setContent(declared(body)))
+    }
+    if (!body.isEmpty() && message.setContent(declared(body))) {
         return message;
+    }
     const bool notSoap =
         status >= 200 && status < 300 && m_reply->error() == QNetworkReply::NoError && !body.isEmpty();
     const QString reason = body.isEmpty() ? QStringLiteral("it is empty") : message.errorString();

@@ -9,12 +9,10 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * Internal: watches one reply while it comes in, and reads it piece by piece.
- *
- * Belongs to the reply. Aborts one that stands still, that takes too long or that grows too large; however
- * busy the caller is, no more than the limit and one piece is held.
- */
+/// Internal: watches one reply while it comes in, and reads it piece by piece.
+///
+/// Belongs to the reply. Aborts one that stands still, that takes too long or that grows too large; however
+/// busy the caller is, no more than the limit and one piece is held.
 class SoapHttpExchange : public QObject
 {
     Q_OBJECT

@@ -9,19 +9,22 @@ using Token = SoapXmlCursor::Token;
 
 bool SoapMessageReader::fail(const QString& error)
 {
-    if (errorString().isEmpty())
+    if (errorString().isEmpty()) {
         m_error = error;
+    }
     return false;
 }
 
 bool SoapMessageReader::envelope()
 {
-    if (m_cursor.next() != Token::StartElement)
+    if (m_cursor.next() != Token::StartElement) {
         return fail(QStringLiteral("The document is empty"));
+    }
     const SoapElement root = m_cursor.element();
-    if (root.name != QLatin1String("Envelope"))
+    if (root.name != QLatin1String("Envelope")) {
         return fail(
             QStringLiteral("The document is no SOAP message: its root is \"%1\"").arg(root.name.left(80)));
+    }
     m_values.note(root);
     m_otherVersion = root.uri != SoapUris::Envelope;
     return !m_otherVersion ||
@@ -34,8 +37,9 @@ bool SoapMessageReader::entries(QList<QtSmartPtr<QtSoapType>>& target)
         switch (m_cursor.next()) {
         case Token::StartElement:
             target.append(m_values.value());
-            if (target.last().isNull())
+            if (target.last().isNull()) {
                 return false;
+            }
             break;
         case Token::Text: // between entries there is only layout
             break;
@@ -53,15 +57,17 @@ bool SoapMessageReader::entry()
     const SoapElement element = m_cursor.element();
     m_values.note(element);
     if (element.uri == SoapUris::Envelope && element.name == QLatin1String("Header")) {
-        if (m_hasHeader || m_hasBody)
+        if (m_hasHeader || m_hasBody) {
             return fail(m_hasBody ? QStringLiteral("The header comes behind the body")
                                   : QStringLiteral("The envelope has two headers"));
+        }
         m_hasHeader = true;
         return entries(m_header);
     }
     if (element.uri == SoapUris::Envelope && element.name == QLatin1String("Body")) {
-        if (m_hasBody)
+        if (m_hasBody) {
             return fail(QStringLiteral("The envelope has two bodies"));
+        }
         m_hasBody = true;
         return entries(m_body);
     }
@@ -70,14 +76,17 @@ bool SoapMessageReader::entry()
 
 bool SoapMessageReader::read()
 {
-    if (!envelope())
+    if (!envelope()) {
         return false;
-    for (Token token = m_cursor.next(); token != Token::EndElement; token = m_cursor.next()) {
-        if (token == Token::StartElement ? !entry() : token != Token::Text)
-            return fail(QStringLiteral("The document ends too early"));
     }
-    if (m_cursor.next() != Token::End) // what follows the envelope must be well-formed, too
+    for (Token token = m_cursor.next(); token != Token::EndElement; token = m_cursor.next()) {
+        if (token == Token::StartElement ? !entry() : token != Token::Text) {
+            return fail(QStringLiteral("The document ends too early"));
+        }
+    }
+    if (m_cursor.next() != Token::End) { // what follows the envelope must be well-formed, too
         return fail(QStringLiteral("Something follows the envelope"));
+    }
     return (m_hasBody || fail(QStringLiteral("The envelope has no body"))) && m_values.checkIdentities();
 }
 

@@ -12,12 +12,13 @@ SoapStreamCursor::SoapStreamCursor(const QByteArray& document)
 {
     QString unicode;
     const QString refused = checkSoapDocument(document, &unicode);
-    if (!refused.isEmpty())
+    if (!refused.isEmpty()) {
         fail(refused);
-    else if (m_decoded = !unicode.isNull(); m_decoded)
+    } else if (m_decoded = !unicode.isNull(); m_decoded) {
         m_reader.addData(unicode);
-    else
+    } else {
         m_reader.addData(document);
+    }
 }
 
 SoapXmlCursor::Token SoapStreamCursor::failHere(const QString& error)
@@ -33,23 +34,27 @@ QString SoapStreamCursor::shared(const QStringRef& name)
     constexpr int MaximumShared = 4096; // a document of ever new names shall not fill the table
     const QString key = QString::fromRawData(name.unicode(), name.size());
     const auto known = m_names.constFind(key);
-    if (known != m_names.constEnd())
+    if (known != m_names.constEnd()) {
         return *known;
+    }
     const QString copy = name.toString();
-    if (m_names.size() < MaximumShared)
+    if (m_names.size() < MaximumShared) {
         m_names.insert(copy, copy);
+    }
     return copy;
 }
 
 SoapXmlCursor::Token SoapStreamCursor::start()
 {
-    if (!enter())
+    if (!enter()) {
         return Token::Error;
+    }
     const int declared = m_reader.namespaceDeclarations().size();
     m_declarations.append(declared);
     m_namespaces += declared;
-    if (m_namespaces > SoapLimits::Namespaces)
+    if (m_namespaces > SoapLimits::Namespaces) {
         return failHere(QStringLiteral("More than %1 namespaces are declared").arg(SoapLimits::Namespaces));
+    }
     return Token::StartElement;
 }
 
@@ -69,9 +74,10 @@ SoapXmlCursor::Token SoapStreamCursor::advance()
         case QXmlStreamReader::EndDocument:
             return Token::End;
         case QXmlStreamReader::StartDocument:
-            if (!m_decoded && !isSoapEncoding(m_reader.documentEncoding()))
+            if (!m_decoded && !isSoapEncoding(m_reader.documentEncoding())) {
                 return failHere(
                     QStringLiteral("The encoding \"%1\" is not supported").arg(m_reader.documentEncoding()));
+            }
             break;
         case QXmlStreamReader::DTD:
             return failHere(QStringLiteral("A document type declaration is not allowed in a SOAP message"));
@@ -89,15 +95,17 @@ SoapXmlCursor::Token SoapStreamCursor::advance()
 SoapXmlCursor::Token SoapStreamCursor::next()
 {
     const Token token = advance();
-    if (token != Token::StartElement)
+    if (token != Token::StartElement) {
         return token;
+    }
     m_element = SoapElement();
     m_element.name = shared(m_reader.name());
     m_element.uri = shared(m_reader.namespaceUri());
     const QXmlStreamAttributes attributes = m_reader.attributes();
-    for (const QXmlStreamAttribute& attribute : attributes)
+    for (const QXmlStreamAttribute& attribute : attributes) {
         m_element.setAttribute(shared(attribute.namespaceUri()), shared(attribute.name()),
                                shared(attribute.value()));
+    }
     return token;
 }
 
@@ -115,9 +123,10 @@ QDomElement SoapStreamCursor::takeElement()
         QDomElement element =
             document.createElementNS(m_reader.namespaceUri().toString(), m_reader.qualifiedName().toString());
         const QXmlStreamAttributes attributes = m_reader.attributes();
-        for (const QXmlStreamAttribute& attribute : attributes)
+        for (const QXmlStreamAttribute& attribute : attributes) {
             element.setAttributeNS(attribute.namespaceUri().toString(), attribute.qualifiedName().toString(),
                                    attribute.value().toString());
+        }
         return element;
     };
     QDomElement top = open();

@@ -18,12 +18,15 @@ QVariant number(const QString& text, bool ok, const QVariant& value)
 QVariant toDouble(const QString& text)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed == QLatin1String("INF") || trimmed == QLatin1String("+INF"))
+    if (trimmed == QLatin1String("INF") || trimmed == QLatin1String("+INF")) {
         return std::numeric_limits<double>::infinity();
-    if (trimmed == QLatin1String("-INF"))
+    }
+    if (trimmed == QLatin1String("-INF")) {
         return -std::numeric_limits<double>::infinity();
-    if (trimmed == QLatin1String("NaN"))
+    }
+    if (trimmed == QLatin1String("NaN")) {
         return std::numeric_limits<double>::quiet_NaN();
+    }
     bool ok = false;
     const double value = trimmed.toDouble(&ok);
     return number(text, ok && std::isfinite(value), value); // "inf" is a number for Qt, not for XML Schema
@@ -32,10 +35,12 @@ QVariant toDouble(const QString& text)
 QVariant toBool(const QString& text)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed == QLatin1String("true") || trimmed == QLatin1String("1"))
+    if (trimmed == QLatin1String("true") || trimmed == QLatin1String("1")) {
         return true;
-    if (trimmed == QLatin1String("false") || trimmed == QLatin1String("0"))
+    }
+    if (trimmed == QLatin1String("false") || trimmed == QLatin1String("0")) {
         return false;
+    }
     return text;
 }
 
@@ -43,19 +48,23 @@ QVariant toBool(const QString& text)
 bool isCarriable(const QString& text, int at)
 {
     const QChar c = text.at(at);
-    if (c.unicode() < 0x20)
+    if (c.unicode() < 0x20) {
         return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
-    if (c.isHighSurrogate())
+    }
+    if (c.isHighSurrogate()) {
         return at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
-    if (c.isLowSurrogate())
+    }
+    if (c.isLowSurrogate()) {
         return at > 0 && text.at(at - 1).isHighSurrogate();
+    }
     return c.unicode() < 0xFFFE;
 }
 
 bool isNameCharacter(QChar c, bool first)
 {
-    if (c.isLetter() || c == QLatin1Char('_'))
+    if (c.isLetter() || c == QLatin1Char('_')) {
         return c.unicode() < 0x80 || (c.unicode() >= 0xC0 && c.unicode() < 0x2000 && c.unicode() != 0xD7);
+    }
     return !first && (c == QLatin1Char('-') || c == QLatin1Char('.') ||
                       (c >= QLatin1Char('0') && c <= QLatin1Char('9')));
 }
@@ -101,26 +110,31 @@ QString fromVariant(const QVariant& value)
     const auto type = static_cast<QMetaType::Type>(value.type());
     if (type == QMetaType::Double || type == QMetaType::Float) {
         const double number = value.toDouble();
-        if (std::isnan(number))
+        if (std::isnan(number)) {
             return QStringLiteral("NaN");
-        if (std::isinf(number))
+        }
+        if (std::isinf(number)) {
             return number > 0 ? QStringLiteral("INF") : QStringLiteral("-INF");
+        }
     }
     return value.toString();
 }
 
 QString elementName(const QString& name, const QString& fallback)
 {
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return fallback;
-    if (isElementName(name))
+    }
+    if (isElementName(name)) {
         return name;
+    }
     QString safe;
     for (int at = 0; at < name.size(); ++at) {
-        if (isNameCharacter(name.at(at), at == 0))
+        if (isNameCharacter(name.at(at), at == 0)) {
             safe += name.at(at);
-        else
+        } else {
             safe += QStringLiteral("_x%1_").arg(name.at(at).unicode(), 4, 16, QLatin1Char('0'));
+        }
     }
     return safe;
 }
@@ -128,8 +142,9 @@ QString elementName(const QString& name, const QString& fallback)
 bool isElementName(const QString& name)
 {
     for (int at = 0; at < name.size(); ++at) {
-        if (!isNameCharacter(name.at(at), at == 0))
+        if (!isNameCharacter(name.at(at), at == 0)) {
             return false;
+        }
     }
     return !name.isEmpty();
 }
@@ -144,17 +159,17 @@ void appendEscaped(QString& xml, const QString& text)
     };
     for (int at = 0; at < text.size(); ++at) {
         const ushort c = text.at(at).unicode();
-        if (c == '&')
+        if (c == '&') {
             replace(at, QLatin1String("&amp;"));
-        else if (c == '<')
+        } else if (c == '<') {
             replace(at, QLatin1String("&lt;"));
-        else if (c == '>')
+        } else if (c == '>') {
             replace(at, QLatin1String("&gt;"));
-        else if (c == '"')
+        } else if (c == '"') {
             replace(at, QLatin1String("&quot;"));
-        else if (c == '\r') // a plain one would come back as a line feed
+        } else if (c == '\r') { // a plain one would come back as a line feed
             replace(at, QLatin1String("&#13;"));
-        else if ((c < 0x20 || c >= 0xD800) && !isCarriable(text, at)) {
+        } else if ((c < 0x20 || c >= 0xD800) && !isCarriable(text, at)) {
             replace(at, QLatin1String());
             xml.append(QChar(QChar::ReplacementCharacter));
         }
@@ -166,8 +181,9 @@ QString carriable(const QString& text)
 {
     QString result = text;
     for (int at = 0; at < text.size(); ++at) {
-        if (!isCarriable(text, at))
+        if (!isCarriable(text, at)) {
             result[at] = QChar(QChar::ReplacementCharacter);
+        }
     }
     return result;
 }

@@ -22,8 +22,9 @@ QString shown(const QString& name)
 bool isBlank(const QString& text)
 {
     for (const QChar c : text) {
-        if (!c.isSpace())
+        if (!c.isSpace()) {
             return false;
+        }
     }
     return true;
 }
@@ -43,28 +44,33 @@ bool isArray(const SoapElement& element)
 
 bool SoapValueReader::fail(const QString& error)
 {
-    if (errorString().isEmpty())
+    if (errorString().isEmpty()) {
         m_error = error;
+    }
     return false;
 }
 
 void SoapValueReader::note(const SoapElement& element)
 {
     m_encoded = m_encoded || element.encoded;
-    if (!element.id.isEmpty() && m_ids.contains(element.id))
+    if (!element.id.isEmpty() && m_ids.contains(element.id)) {
         m_repeatedIds.insert(element.id);
-    if (!element.id.isEmpty())
+    }
+    if (!element.id.isEmpty()) {
         m_ids.insert(element.id);
-    if (element.href.startsWith(QLatin1Char('#')))
+    }
+    if (element.href.startsWith(QLatin1Char('#'))) {
         m_references.insert(element.href.mid(1));
+    }
 }
 
 bool SoapValueReader::checkIdentities()
 {
     // in messages that are not encoded "id" is a name like any other, unless something refers to it
     for (const QString& id : qAsConst(m_repeatedIds)) {
-        if (m_encoded || m_references.contains(id))
+        if (m_encoded || m_references.contains(id)) {
             return fail(QStringLiteral("The id \"%1\" is given to several elements").arg(shown(id)));
+        }
     }
     return true;
 }
@@ -95,8 +101,9 @@ bool SoapValueReader::contents(QString* text, Values* children)
             break;
         case Token::StartElement:
             children->append(value());
-            if (children->last().isNull())
+            if (children->last().isNull()) {
                 return false;
+            }
             break;
         case Token::EndElement:
             return true;
@@ -114,9 +121,10 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
     if (QtSoapTypeConstructorBase* const handler = QtSoapTypeFactory::instance().handler(typeName)) {
         const QDomElement tree = m_cursor.takeElement();
         QtSmartPtr<QtSoapType> made(tree.isNull() ? nullptr : handler->createObject(tree));
-        if (made.isNull())
+        if (made.isNull()) {
             fail(QStringLiteral("\"%1\" cannot be read as %2: %3")
                      .arg(shown(element.name), shown(typeName), handler->errorString()));
+        }
         return made;
     }
     if (isArray(element) || (untyped == QtSoapType::Array && typeName.isEmpty())) {
@@ -125,8 +133,9 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
     }
     QString text;
     Values children;
-    if (!contents(&text, &children))
+    if (!contents(&text, &children)) {
         return {};
+    }
     const QtSoapType::Type known = QtSoapType::nameToType(typeName);
     const QtSoapType::Type type = known == QtSoapType::Other ? untyped : known;
     if (children.isEmpty() && (type != QtSoapType::Struct || !isBlank(text))) {
@@ -146,32 +155,39 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
     const qint64 capacity = result.capacity() < 0 ? SoapLimits::ArrayItems : result.capacity();
     if (!m_cursor.element().offset.isEmpty()) {
         next = result.absolute(SoapArrayType::numbers(m_cursor.element().offset));
-        if (next < 0 || next >= capacity)
+        if (next < 0 || next >= capacity) {
             return fail(QStringLiteral("The offset %1 is outside the array \"%2\"")
                             .arg(shown(m_cursor.element().offset), shown(result.n.name())));
+        }
     }
     for (;;) {
         const Token token = m_cursor.next();
-        if (token == Token::EndElement)
+        if (token == Token::EndElement) {
             return true;
-        if (token == Token::Text && isBlank(m_cursor.text()))
+        }
+        if (token == Token::Text && isBlank(m_cursor.text())) {
             continue;
-        if (token != Token::StartElement)
+        }
+        if (token != Token::StartElement) {
             return fail(token == Token::Text
                             ? QStringLiteral("The array \"%1\" holds a text beside its items")
                                   .arg(shown(result.n.name()))
                             : QStringLiteral("The document ends too early"));
+        }
         const QString position = m_cursor.element().position;
-        if (!position.isEmpty())
+        if (!position.isEmpty()) {
             next = result.absolute(SoapArrayType::numbers(position));
-        if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next)))
+        }
+        if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next))) {
             return fail(QStringLiteral("The array \"%1\" has no place for an item %2")
                             .arg(shown(result.n.name()), position.isEmpty()
                                                              ? QStringLiteral("more")
                                                              : QStringLiteral("at ") + shown(position)));
+        }
         const QtSmartPtr<QtSoapType> item = value(itemType);
-        if (item.isNull())
+        if (item.isNull()) {
             return false;
+        }
         result.store(static_cast<int>(next++), item);
     }
 }
@@ -180,12 +196,14 @@ bool SoapValueReader::array(QtSoapArray& result)
 {
     const SoapElement element = m_cursor.element();
     SoapArrayType type;
-    if (element.arrayType.isEmpty())
+    if (element.arrayType.isEmpty()) {
         type.sizes = {-1};
-    else
+    } else {
         type = SoapArrayType::fromAttribute(element.arrayType);
-    if (!type.error.isEmpty())
+    }
+    if (!type.error.isEmpty()) {
         return fail(type.error);
+    }
     name(result, element);
     result.t = QtSoapType::Array;
     result.array.clear();
@@ -204,34 +222,41 @@ bool SoapValueReader::start()
 
 bool SoapValueReader::fill(QtSoapSimpleType& result)
 {
-    if (!start())
+    if (!start()) {
         return false;
+    }
     const SoapElement element = m_cursor.element();
     const QtSoapType::Type type = QtSoapType::nameToType(typeNameOf(element));
     QString text;
     Values children;
-    if (isArray(element) || type == QtSoapType::Struct)
+    if (isArray(element) || type == QtSoapType::Struct) {
         return fail(QStringLiteral("\"%1\" is not a simple value").arg(shown(element.name)));
-    if (!contents(&text, &children))
+    }
+    if (!contents(&text, &children)) {
         return false;
-    if (!children.isEmpty())
+    }
+    if (!children.isEmpty()) {
         return fail(
             QStringLiteral("\"%1\" has child elements and is not a simple value").arg(shown(element.name)));
+    }
     simple(result, element, type, text);
     return true;
 }
 
 bool SoapValueReader::fill(QtSoapStruct& result)
 {
-    if (!start())
+    if (!start()) {
         return false;
+    }
     const SoapElement element = m_cursor.element();
     QString text;
     Values children;
-    if (!contents(&text, &children))
+    if (!contents(&text, &children)) {
         return false;
-    if (children.isEmpty() && !isBlank(text))
+    }
+    if (children.isEmpty() && !isBlank(text)) {
         return fail(QStringLiteral("\"%1\" holds a text and is not a struct").arg(shown(element.name)));
+    }
     name(result, element);
     result.dict = children;
     return true;

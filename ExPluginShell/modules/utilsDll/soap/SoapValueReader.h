@@ -19,12 +19,10 @@ public:
     {
     }
 
-    /**
-     * The value of the element on whose start tag the cursor stands; the cursor is on its end tag afterwards.
-     *
-     * \param untyped type of a value that bears none itself
-     * @return null on an error
-     */
+    /// The value of the element on whose start tag the cursor stands; the cursor is on its end tag afterwards.
+    ///
+    /// \param untyped type of a value that bears none itself
+    /// \return null on an error
     QtSmartPtr<QtSoapType> value(QtSoapType::Type untyped = QtSoapType::Other);
 
     /// Fill a value from the element at the start of the cursor; false on an error.

@@ -15,22 +15,25 @@ QString soapLocalPart(const QString& qualifiedName)
 void SoapElement::setAttribute(const QString& attributeUri, const QString& attribute, const QString& value)
 {
     if (attributeUri.isEmpty()) {
-        if (attribute == QLatin1String("id"))
+        if (attribute == QLatin1String("id")) {
             id = value;
-        else if (attribute == QLatin1String("href"))
+        } else if (attribute == QLatin1String("href")) {
             href = value;
+        }
     } else if (SoapUris::isSchemaInstance(attributeUri)) {
-        if (attribute == QLatin1String("type"))
+        if (attribute == QLatin1String("type")) {
             typeName = soapLocalPart(value.trimmed());
-        else if (attribute == QLatin1String("nil") || attribute == QLatin1String("null"))
+        } else if (attribute == QLatin1String("nil") || attribute == QLatin1String("null")) {
             nil = value.trimmed() == QLatin1String("true") || value.trimmed() == QLatin1String("1");
+        }
     } else if (attributeUri == SoapUris::Encoding) {
-        if (attribute == QLatin1String("arrayType"))
+        if (attribute == QLatin1String("arrayType")) {
             arrayType = value.trimmed();
-        else if (attribute == QLatin1String("offset"))
+        } else if (attribute == QLatin1String("offset")) {
             offset = value.trimmed();
-        else if (attribute == QLatin1String("position"))
+        } else if (attribute == QLatin1String("position")) {
             position = value.trimmed();
+        }
     } else if (attributeUri == SoapUris::Envelope && attribute == QLatin1String("encodingStyle")) {
         encoded = value.contains(SoapUris::Encoding);
     }
@@ -38,18 +41,20 @@ void SoapElement::setAttribute(const QString& attributeUri, const QString& attri
 
 bool SoapXmlCursor::enter()
 {
-    if (++m_depth > SoapLimits::Depth)
+    if (++m_depth > SoapLimits::Depth) {
         fail(QStringLiteral("Elements are nested more than %1 levels deep").arg(SoapLimits::Depth));
-    else if (++m_elements > SoapLimits::Elements)
+    } else if (++m_elements > SoapLimits::Elements) {
         fail(QStringLiteral("There are more than %1 elements").arg(SoapLimits::Elements));
+    }
     return m_error.isEmpty();
 }
 
 SoapXmlCursor::Token SoapXmlCursor::fail(const QString& error)
 {
     constexpr int longest = 400; // the reader's own texts quote what they complain of
-    if (m_error.isEmpty())
+    if (m_error.isEmpty()) {
         m_error = error.left(longest);
+    }
     return Token::Error;
 }
 

@@ -23,12 +23,10 @@ struct SoapElement {
     void setAttribute(const QString& uri, const QString& name, const QString& value);
 };
 
-/**
- * Internal: walks the elements and texts of a document; behind it is either a byte stream or a tree.
- *
- * Refuses document types, too deep nesting and too many elements. Comments and processing instructions are
- * passed over.
- */
+/// Internal: walks the elements and texts of a document; behind it is either a byte stream or a tree.
+///
+/// Refuses document types, too deep nesting and too many elements. Comments and processing instructions are
+/// passed over.
 class SoapXmlCursor
 {
 public:

@@ -16,15 +16,17 @@ bool SoapTextSink::isDeclared(const QString& uri) const
 
 void SoapTextSink::finishTag()
 {
-    if (m_tagOpen)
+    if (m_tagOpen) {
         m_xml += QLatin1Char('>');
+    }
     m_tagOpen = false;
 }
 
 void SoapTextSink::newLine(int level)
 {
-    if (m_indent > 0 && !m_xml.isEmpty())
+    if (m_indent > 0 && !m_xml.isEmpty()) {
         m_xml += QLatin1Char('\n') + QString(level * m_indent, QLatin1Char(' '));
+    }
 }
 
 void SoapTextSink::open(const QString& name, const QString& uri)
@@ -44,18 +46,20 @@ void SoapTextSink::open(const QString& name, const QString& uri)
         declares = level.prefix.isEmpty() || !isDeclared(uri);
     }
     m_xml += QLatin1Char('<');
-    if (!level.prefix.isEmpty())
+    if (!level.prefix.isEmpty()) {
         m_xml += level.prefix + QLatin1Char(':');
+    }
     m_xml += name;
     if (declares) {
         m_xml += level.prefix.isEmpty() ? QStringLiteral(" xmlns") : QLatin1String(" xmlns:") + level.prefix;
         m_xml += QLatin1String("=\"");
         SoapText::appendEscaped(m_xml, uri);
         m_xml += QLatin1Char('"');
-        if (level.prefix.isEmpty())
+        if (level.prefix.isEmpty()) {
             level.defaultUri = uri;
-        else
+        } else {
             m_declared.append(uri);
+        }
     }
     m_tagOpen = true;
     m_levels.append(level);
@@ -63,8 +67,9 @@ void SoapTextSink::open(const QString& name, const QString& uri)
 
 void SoapTextSink::declare(QLatin1String prefix, QLatin1String uri)
 {
-    if (isDeclared(uri))
+    if (isDeclared(uri)) {
         return;
+    }
     m_xml += QLatin1String(" xmlns:") + prefix + QLatin1String("=\"") + uri + QLatin1Char('"');
     m_declared.append(uri);
 }
@@ -93,8 +98,9 @@ void SoapTextSink::appendAttribute(QLatin1String name, const QString& value)
 
 void SoapTextSink::text(const QString& text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return;
+    }
     finishTag();
     SoapText::appendEscaped(m_xml, text);
 }
@@ -108,23 +114,27 @@ void SoapTextSink::close()
         m_tagOpen = false;
         return;
     }
-    if (level.hasElements)
+    if (level.hasElements) {
         newLine(m_levels.size());
+    }
     m_xml += QLatin1String("</");
-    if (!level.prefix.isEmpty())
+    if (!level.prefix.isEmpty()) {
         m_xml += level.prefix + QLatin1Char(':');
+    }
     m_xml += level.name;
     m_xml += QLatin1Char('>');
 }
 
 void SoapTextSink::tree(const QDomElement& element)
 {
-    if (element.isNull())
+    if (element.isNull()) {
         return;
+    }
     finishTag();
     newLine(m_levels.size());
-    if (!m_levels.isEmpty())
+    if (!m_levels.isEmpty()) {
         m_levels.last().hasElements = true;
+    }
     QTextStream stream(&m_xml, QIODevice::Append);
     element.save(stream, -1);
 }

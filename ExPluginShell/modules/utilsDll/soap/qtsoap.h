@@ -1,12 +1,10 @@
 #pragma once
 
-/**
- * @file qtsoap.h
- * @brief The SOAP 1.1 client classes, under the header name that web-service clients include.
- *
- * Messages and values on Qt Xml, the HTTP transport on Qt Network. All classes are in `TOLVAN_NAMESPACE`.
- * Each class has a header of its own as well, named after it (`<QtSoapMessage>`).
- */
+/// \file qtsoap.h
+/// \brief The SOAP 1.1 client classes, under the header name that web-service clients include.
+///
+/// Messages and values on Qt Xml, the HTTP transport on Qt Network. All classes are in `TOLVAN_NAMESPACE`.
+/// Each class has a header of its own as well, named after it (`<QtSoapMessage>`).
 
 #include "qtsoaparray.h"
 #include "qtsoaparrayiterator.h"

@@ -20,8 +20,9 @@ QHash<int, QtSmartPtr<QtSoapType>> copied(const QHash<int, QtSmartPtr<QtSoapType
 {
     QHash<int, QtSmartPtr<QtSoapType>> copies;
     copies.reserve(items.size());
-    for (auto item = items.cbegin(); item != items.cend(); ++item)
+    for (auto item = items.cbegin(); item != items.cend(); ++item) {
         copies.insert(item.key(), copySoapValue(item.value()));
+    }
     return copies;
 }
 
@@ -41,12 +42,14 @@ QtSoapArray::QtSoapArray(const QtSoapQName& name, QtSoapType::Type type, int siz
 {
     QVector<int> sizes;
     for (const int size : {size0, size1, size2, size3, size4}) {
-        if (size < 0)
+        if (size < 0) {
             break;
+        }
         sizes.append(size);
     }
-    if (!sizes.isEmpty())
+    if (!sizes.isEmpty()) {
         m_sizes = sizes;
+    }
 }
 
 QtSoapArray::QtSoapArray(const QtSoapArray& copy)
@@ -101,26 +104,31 @@ int QtSoapArray::count() const
 
 qint64 QtSoapArray::capacity() const
 {
-    if (m_sizes.first() < 0)
+    if (m_sizes.first() < 0) {
         return m_sizes.contains(0) ? 0 : -1;
+    }
     qint64 product = 1;
-    for (const int size : m_sizes)
+    for (const int size : m_sizes) {
         product = std::min<qint64>(product * size, std::numeric_limits<int>::max());
+    }
     return product;
 }
 
 int QtSoapArray::absolute(const QVector<int>& coordinates) const
 {
-    if (coordinates.size() != m_sizes.size())
+    if (coordinates.size() != m_sizes.size()) {
         return -1;
+    }
     qint64 position = 0;
     for (int k = 0; k < coordinates.size(); ++k) {
         const int size = m_sizes.at(k);
-        if (coordinates.at(k) < 0 || (size >= 0 && coordinates.at(k) >= size))
+        if (coordinates.at(k) < 0 || (size >= 0 && coordinates.at(k) >= size)) {
             return -1;
+        }
         position = (size < 0 ? 0 : position * size) + coordinates.at(k);
-        if (position >= std::numeric_limits<int>::max())
+        if (position >= std::numeric_limits<int>::max()) {
             return -1;
+        }
     }
     return static_cast<int>(position);
 }
@@ -170,21 +178,23 @@ void QtSoapArray::place(int position, QtSoapType* item)
 {
     const QtSmartPtr<QtSoapType> owned(item);
     const qint64 size = capacity();
-    if (!item)
+    if (!item) {
         errorStr = QStringLiteral("An array cannot take a null item");
-    else if (position < 0 || (size >= 0 && position >= size))
+    } else if (position < 0 || (size >= 0 && position >= size)) {
         errorStr = QStringLiteral("The array \"%1\" has no such position").arg(n.name());
-    else if (!m_mixed && m_itemType != Other && item->type() != m_itemType)
+    } else if (!m_mixed && m_itemType != Other && item->type() != m_itemType) {
         errorStr = QStringLiteral("The array \"%1\" holds items of type %2, not %3")
                        .arg(n.name(), typeToName(m_itemType), item->typeName());
-    else
+    } else {
         errorStr.clear();
+    }
     if (!errorStr.isEmpty()) {
         SoapText::warn(errorStr);
         return;
     }
-    if (!m_mixed && m_itemType == Other)
+    if (!m_mixed && m_itemType == Other) {
         m_itemType = item->type();
+    }
     store(position, owned);
 }
 
@@ -197,10 +207,12 @@ void QtSoapArray::store(int position, const QtSmartPtr<QtSoapType>& item)
 QString QtSoapArray::arraySizeString() const
 {
     QStringList sizes;
-    for (const int size : m_sizes)
+    for (const int size : m_sizes) {
         sizes.append(QString::number(size < 0 ? static_cast<qint64>(lastIndex) + 1 : size));
-    if (m_sizes.size() > 1 && m_sizes.first() < 0)
+    }
+    if (m_sizes.size() > 1 && m_sizes.first() < 0) {
         sizes[0] = QString::number(lastIndex < 0 ? 0 : coordinates(lastIndex).first() + 1);
+    }
     return QLatin1Char('[') + sizes.join(QLatin1Char(',')) + QLatin1Char(']');
 }
 

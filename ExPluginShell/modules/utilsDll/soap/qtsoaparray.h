@@ -8,27 +8,23 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Items of one type at the positions of 1 to 5 dimensions; positions may be left empty.
- *
- * Next to its coordinates every item has an absolute position, row-major: the last coordinate runs fastest,
- * and a 3x2 array holds row 0 at 0 and 1. Memory is used for items present, not for the size claimed. All
- * items have one type: that given to the constructor, or else that of the first item. An item that does not
- * fit (another type, outside the size) is refused: it is deleted, errorString() says why and a warning is
- * written. Only an array read from a message that declares its items to be of any type may mix them.
- */
+/// \brief Items of one type at the positions of 1 to 5 dimensions; positions may be left empty.
+///
+/// Next to its coordinates every item has an absolute position, row-major: the last coordinate runs fastest,
+/// and a 3x2 array holds row 0 at 0 and 1. Memory is used for items present, not for the size claimed. All
+/// items have one type: that given to the constructor, or else that of the first item. An item that does not
+/// fit (another type, outside the size) is refused: it is deleted, errorString() says why and a warning is
+/// written. Only an array read from a message that declares its items to be of any type may mix them.
 class UTILSDLL_EXPORT QtSoapArray : public QtSoapType
 {
 public:
     /// One dimension without size, which grows; the first item decides the type.
     QtSoapArray();
 
-    /**
-     * @brief An array called \a name of items of \a type.
-     *
-     * As many dimensions as sizes are given; -1 ends the list. Without any there is one dimension, which
-     * grows.
-     */
+    /// \brief An array called \a name of items of \a type.
+    ///
+    /// As many dimensions as sizes are given; -1 ends the list. Without any there is one dimension, which
+    /// grows.
     QtSoapArray(const QtSoapQName& name, QtSoapType::Type type = Other, int size0 = -1, int size1 = -1,
                 int size2 = -1, int size3 = -1, int size4 = -1);
 
@@ -54,18 +50,18 @@ public:
 
     /// The item at an absolute position, which belongs to the array; an invalid value where there is none.
     QtSoapType& at(int pos0);
-    const QtSoapType& at(int pos0) const; ///< @copydoc at(int)
+    const QtSoapType& at(int pos0) const; ///< \copydoc at(int)
 
     /// The item at two coordinates of a two-dimensional array, and so on up to five; an invalid value where
     /// there is none, and for an array of another rank.
     QtSoapType& at(int pos0, int pos1);
-    const QtSoapType& at(int pos0, int pos1) const;                               ///< @copydoc at(int,int)
-    QtSoapType& at(int pos0, int pos1, int pos2);                                 ///< @copydoc at(int,int)
-    const QtSoapType& at(int pos0, int pos1, int pos2) const;                     ///< @copydoc at(int,int)
-    QtSoapType& at(int pos0, int pos1, int pos2, int pos3);                       ///< @copydoc at(int,int)
-    const QtSoapType& at(int pos0, int pos1, int pos2, int pos3) const;           ///< @copydoc at(int,int)
-    QtSoapType& at(int pos0, int pos1, int pos2, int pos3, int pos4);             ///< @copydoc at(int,int)
-    const QtSoapType& at(int pos0, int pos1, int pos2, int pos3, int pos4) const; ///< @copydoc at(int,int)
+    const QtSoapType& at(int pos0, int pos1) const;                               ///< \copydoc at(int,int)
+    QtSoapType& at(int pos0, int pos1, int pos2);                                 ///< \copydoc at(int,int)
+    const QtSoapType& at(int pos0, int pos1, int pos2) const;                     ///< \copydoc at(int,int)
+    QtSoapType& at(int pos0, int pos1, int pos2, int pos3);                       ///< \copydoc at(int,int)
+    const QtSoapType& at(int pos0, int pos1, int pos2, int pos3) const;           ///< \copydoc at(int,int)
+    QtSoapType& at(int pos0, int pos1, int pos2, int pos3, int pos4);             ///< \copydoc at(int,int)
+    const QtSoapType& at(int pos0, int pos1, int pos2, int pos3, int pos4) const; ///< \copydoc at(int,int)
 
     QtSoapType& operator[](int i) override;
     const QtSoapType& operator[](int i) const override;
@@ -83,11 +79,11 @@ public:
 
     /// Puts \a item at two coordinates of a two-dimensional array, and so on up to five; takes ownership.
     void insert(int pos0, int pos1, QtSoapType* item);
-    void insert(int pos0, int pos1, int pos2, QtSoapType* item); ///< @copydoc insert(int,int,QtSoapType*)
+    void insert(int pos0, int pos1, int pos2, QtSoapType* item); ///< \copydoc insert(int,int,QtSoapType*)
     void insert(int pos0, int pos1, int pos2, int pos3,
-                QtSoapType* item); ///< @copydoc insert(int,int,QtSoapType*)
+                QtSoapType* item); ///< \copydoc insert(int,int,QtSoapType*)
     void insert(int pos0, int pos1, int pos2, int pos3, int pos4,
-                QtSoapType* item); ///< @copydoc insert(int,int,QtSoapType*)
+                QtSoapType* item); ///< \copydoc insert(int,int,QtSoapType*)
 
     /// The element with `arrayType` and the items; an array with gaps gives every item its `position`.
     QDomElement toDomElement(QDomDocument doc) const override;

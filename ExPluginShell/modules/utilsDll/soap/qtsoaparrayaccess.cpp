@@ -70,8 +70,9 @@ const QtSoapType* QtSoapArray::named(const QtSoapQName& name) const
     const QVector<int> order = positions();
     for (const int position : order) {
         const auto item = array.constFind(position);
-        if (item.value()->name() == name)
+        if (item.value()->name() == name) {
             return item.value().ptr();
+        }
     }
     return nullptr;
 }

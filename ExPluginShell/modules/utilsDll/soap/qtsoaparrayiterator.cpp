@@ -20,13 +20,15 @@ int QtSoapArrayIterator::pos() const
 
 void QtSoapArrayIterator::pos(int* pos0, int* pos1, int* pos2, int* pos3, int* pos4) const
 {
-    if (atEnd())
+    if (atEnd()) {
         return;
+    }
     int* const targets[] = {pos0, pos1, pos2, pos3, pos4};
     const QVector<int> coordinates = m_array->coordinates(pos());
     for (int k = 0; k < coordinates.size(); ++k) {
-        if (targets[k])
+        if (targets[k]) {
             *targets[k] = coordinates.at(k);
+        }
     }
 }
 
@@ -42,8 +44,9 @@ const QtSoapType* QtSoapArrayIterator::current() const
 
 void QtSoapArrayIterator::operator++()
 {
-    if (!atEnd())
+    if (!atEnd()) {
         ++m_index;
+    }
 }
 
 bool QtSoapArrayIterator::operator!=(const QtSoapArrayIterator& j) const

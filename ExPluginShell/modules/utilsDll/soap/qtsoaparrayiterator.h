@@ -7,12 +7,10 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Visits the items of an array in ascending absolute position; gaps are passed over.
- *
- * `for (QtSoapArrayIterator it(a); !it.atEnd(); ++it)`. The array must outlive the iterator and must not
- * change meanwhile.
- */
+/// \brief Visits the items of an array in ascending absolute position; gaps are passed over.
+///
+/// `for (QtSoapArrayIterator it(a); !it.atEnd(); ++it)`. The array must outlive the iterator and must not
+/// change meanwhile.
 class UTILSDLL_EXPORT QtSoapArrayIterator
 {
 public:
@@ -36,7 +34,7 @@ public:
     /// The item; null past the end. It belongs to the array.
     QtSoapType* data();
 
-    /// @copydoc data
+    /// \copydoc data
     const QtSoapType* current() const;
 
     /// Goes on to the next item; stays past the end.

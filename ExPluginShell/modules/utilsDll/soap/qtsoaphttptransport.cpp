@@ -32,8 +32,9 @@ QtSoapHttpTransport::~QtSoapHttpTransport()
     const auto pending = m_pending;
     m_pending.clear(); // nobody waits any more
     for (const auto& reply : pending) {
-        if (reply)
+        if (reply) {
             reply->abort();
+        }
     }
 }
 
@@ -42,8 +43,9 @@ void QtSoapHttpTransport::setHost(const QString& host, bool useSecureHTTP, int p
     m_url = QUrl();
     m_url.setScheme(useSecureHTTP ? QStringLiteral("https") : QStringLiteral("http"));
     m_url.setHost(host);
-    if (port > 0)
+    if (port > 0) {
         m_url.setPort(port);
+    }
 }
 
 void QtSoapHttpTransport::setHost(const QString& host, int port)
@@ -77,8 +79,9 @@ void QtSoapHttpTransport::submitRequest(QtSoapMessage& request, const QString& p
     post.setRawHeader("SOAPAction", quoted(m_action));
     post.setRawHeader("Accept-Encoding", "identity"); // a packed answer could unfold to any size
 
-    if (m_reply && !m_pending.contains(m_reply))
+    if (m_reply && !m_pending.contains(m_reply)) {
         m_reply->deleteLater();
+    }
     m_reply = m_manager.post(post, request.toXmlString().toUtf8());
     m_pending.append(m_reply);
     new SoapHttpExchange(m_reply, m_timeout);
@@ -101,8 +104,9 @@ QNetworkReply* QtSoapHttpTransport::networkReply()
 
 void QtSoapHttpTransport::readResponse(QNetworkReply* reply)
 {
-    if (!m_pending.contains(reply)) // a request that somebody else made with the manager
+    if (!m_pending.contains(reply)) { // a request that somebody else made with the manager
         return;
+    }
     // later: what answers may destroy the transport, which the manager would not survive inside its own
     // signal
     const auto later = [this, finished = QPointer<QNetworkReply>(reply)] { deliver(finished); };
@@ -111,17 +115,20 @@ void QtSoapHttpTransport::readResponse(QNetworkReply* reply)
 
 void QtSoapHttpTransport::deliver(QNetworkReply* reply)
 {
-    if (!reply || !m_pending.removeOne(reply))
+    if (!reply || !m_pending.removeOne(reply)) {
         return;
-    if (reply != m_reply)
+    }
+    if (reply != m_reply) {
         reply->deleteLater();
+    }
     const QtSoapMessage response = SoapHttpExchange::of(reply)->message();
     m_response = response;
     // a slot may submit the next request, or destroy the transport
     const QPointer<QtSoapHttpTransport> self(this);
     Q_EMIT responseReady();
-    if (self)
+    if (self) {
         Q_EMIT responseReady(response);
+    }
 }
 
 } // namespace TOLVAN_NAMESPACE

@@ -12,33 +12,31 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Sends messages to a service over HTTP or HTTPS and hands over its answers.
- *
- * Everything is asynchronous and happens in the thread of the object, which needs an event loop. Each
- * submitRequest() is answered by exactly one pair of responseReady() signals, whatever goes wrong on the way;
- * a transport destroyed before that sends none. Requests may overlap, but getResponse() and networkReply()
- * then tell of the latest one: use one transport per call where that matters.
- *
- * What cannot be read as a message becomes a fault: with the code of the failed setContent() when a 2xx
- * answer is not SOAP, else with the code Other; its text names the cause (the status of the server, the error
- * of the network, the time-out). An empty answer with status 202 or 204 is an empty message, no fault.
- * Redirections are not followed. An answer of more than 64 MiB is given up, and no more than 1 MiB beyond
- * what was read is received meanwhile, however busy the thread is.
- *
- * Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
- * the request fail unless a slot on that manager's `sslErrors` ignores them. HTTPS is the system's on Windows
- * and that of OpenSSL elsewhere; where its libraries are missing, requests over HTTPS fail.
- *
- * @code
- * QtSoapMessage request;
- * request.setMethod("convertLength", "urn:example:units");
- * request.addMethodArgument("amount", "", 12);
- * transport.setAction("urn:example:units#convertLength");
- * transport.setHost("soap.example.org", true);
- * transport.submitRequest(request, "/units");
- * @endcode
- */
+/// \brief Sends messages to a service over HTTP or HTTPS and hands over its answers.
+///
+/// Everything is asynchronous and happens in the thread of the object, which needs an event loop. Each
+/// submitRequest() is answered by exactly one pair of responseReady() signals, whatever goes wrong on the way;
+/// a transport destroyed before that sends none. Requests may overlap, but getResponse() and networkReply()
+/// then tell of the latest one: use one transport per call where that matters.
+///
+/// What cannot be read as a message becomes a fault: with the code of the failed setContent() when a 2xx
+/// answer is not SOAP, else with the code Other; its text names the cause (the status of the server, the error
+/// of the network, the time-out). An empty answer with status 202 or 204 is an empty message, no fault.
+/// Redirections are not followed. An answer of more than 64 MiB is given up, and no more than 1 MiB beyond
+/// what was read is received meanwhile, however busy the thread is.
+///
+/// Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
+/// the request fail unless a slot on that manager's `sslErrors` ignores them. HTTPS is the system's on Windows
+/// and that of OpenSSL elsewhere; where its libraries are missing, requests over HTTPS fail.
+///
+/// \code
+/// QtSoapMessage request;
+/// request.setMethod("convertLength", "urn:example:units");
+/// request.addMethodArgument("amount", "", 12);
+/// transport.setAction("urn:example:units#convertLength");
+/// transport.setHost("soap.example.org", true);
+/// transport.submitRequest(request, "/units");
+/// \endcode
 class UTILSDLL_EXPORT QtSoapHttpTransport : public QObject
 {
     Q_OBJECT
@@ -61,11 +59,9 @@ public:
     /// Sets the SOAPAction of this and later requests; quotes are added where the caller did not.
     void setAction(const QString& action);
 
-    /**
-     * @brief Posts \a request to \a path on the host, and returns at once.
-     * \param request is not kept
-     * \param path begins with a slash; what follows a question mark is the query
-     */
+    /// \brief Posts \a request to \a path on the host, and returns at once.
+    /// \param request is not kept
+    /// \param path begins with a slash; what follows a question mark is the query
     void submitRequest(QtSoapMessage& request, const QString& path);
 
     /// The latest answer, overwritten by the next one; an empty message before the first. It may be a fault.
@@ -81,14 +77,12 @@ public:
     /// The time-out in milliseconds; 60,000 unless set.
     int timeout() const;
 
-    /**
-     * @brief Sets after how many milliseconds without progress a request is given up; 0 turns the
-     * time-out off.
-     *
-     * Progress is what is sent, the complete head of the answer, each piece of its body. A request that keeps
-     * moving is given up after ten times as long, so a service that answers byte by byte cannot hold its
-     * caller for ever. Holds for requests submitted from now on.
-     */
+    /// \brief Sets after how many milliseconds without progress a request is given up; 0 turns the
+    /// time-out off.
+    ///
+    /// Progress is what is sent, the complete head of the answer, each piece of its body. A request that keeps
+    /// moving is given up after ten times as long, so a service that answers byte by byte cannot hold its
+    /// caller for ever. Holds for requests submitted from now on.
     void setTimeout(int msec);
 
 Q_SIGNALS:

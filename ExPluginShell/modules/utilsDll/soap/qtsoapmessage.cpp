@@ -48,15 +48,17 @@ void QtSoapMessage::clear()
 
 QtSoapStruct& QtSoapMessage::body() const
 {
-    if (!m_body)
+    if (!m_body) {
         m_body.emplace(QtSoapQName(QStringLiteral("Body"), SoapUris::Envelope));
+    }
     return *m_body;
 }
 
 QtSoapStruct& QtSoapMessage::header() const
 {
-    if (!m_header)
+    if (!m_header) {
         m_header.emplace(QtSoapQName(QStringLiteral("Header"), SoapUris::Envelope));
+    }
     return *m_header;
 }
 
@@ -70,16 +72,19 @@ bool QtSoapMessage::take(SoapMessageReader& reader)
         m_error = reason;
         return false;
     }
-    if (reader.hasHeader())
+    if (reader.hasHeader()) {
         header().dict = reader.header();
+    }
     body().dict = reader.body();
-    if (m_body->dict.isEmpty())
+    if (m_body->dict.isEmpty()) {
         return true;
+    }
     const QtSoapType& first = *m_body->dict.first();
-    if (isFaultElement(first))
+    if (isFaultElement(first)) {
         m_type = Fault;
-    else
+    } else {
         m_type = first.name().name().endsWith(QLatin1String("Response")) ? MethodResponse : MethodRequest;
+    }
     return true;
 }
 
@@ -179,8 +184,9 @@ QtSoapMessage::FaultCode QtSoapMessage::faultCode() const
     const QString text = faultEntry(QStringLiteral("faultcode")).toString().trimmed();
     const QString code = soapLocalPart(text).section(QLatin1Char('.'), 0, 0);
     for (int k = 0; k < Other; ++k) {
-        if (code == QLatin1String(faultCodes[k]))
+        if (code == QLatin1String(faultCodes[k])) {
             return static_cast<FaultCode>(k);
+        }
     }
     return Other;
 }
@@ -199,8 +205,9 @@ const QtSoapType& QtSoapMessage::faultDetail() const
 QtSoapStruct& QtSoapMessage::faultStruct()
 {
     auto* fault = m_type == Fault && m_body ? dynamic_cast<QtSoapStruct*>(&body()[0]) : nullptr;
-    if (fault)
+    if (fault) {
         return *fault;
+    }
     m_type = Fault;
     body().clear();
     fault = new QtSoapStruct(QtSoapQName(QStringLiteral("Fault"), SoapUris::Envelope));
@@ -228,8 +235,9 @@ void QtSoapMessage::addFaultDetail(QtSoapType* item)
 {
     QtSoapStruct& fault = faultStruct();
     const QString name = QStringLiteral("detail");
-    if (!dynamic_cast<QtSoapStruct*>(&fault[name]))
+    if (!dynamic_cast<QtSoapStruct*>(&fault[name])) {
         fault.insert(new QtSoapStruct(QtSoapQName(name)));
+    }
     static_cast<QtSoapStruct&>(fault[name]).append(item);
 }
 
@@ -244,8 +252,9 @@ QString QtSoapMessage::toXmlString(int indent) const
     sink.declare(QLatin1String("xsd"), SoapUris::Schema);
     sink.attribute(encodingStyle, SoapUris::Encoding);
     for (const auto* part : {&m_header, &m_body}) {
-        if (!*part || (part == &m_header && (*part)->count() == 0))
+        if (!*part || (part == &m_header && (*part)->count() == 0)) {
             continue;
+        }
         sink.open((*part)->name().name(), SoapUris::Envelope);
         encoder.writeChildren(**part);
         sink.close();

@@ -7,19 +7,17 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief A SOAP 1.1 message: built to be sent, or read from what a service answered.
- *
- * A copy is a message of its own. Items handed over as pointers come from `new` and belong to the message
- * from then on; null is ignored with a warning. References that are returned live until the message changes.
- * One thread at a time may use a message. Nothing waits; reading and writing take time in proportion to the
- * document.
- *
- * Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
- * 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays
- * that claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and
- * Windows 125x. The checks are made while the text is read.
- */
+/// \brief A SOAP 1.1 message: built to be sent, or read from what a service answered.
+///
+/// A copy is a message of its own. Items handed over as pointers come from `new` and belong to the message
+/// from then on; null is ignored with a warning. References that are returned live until the message changes.
+/// One thread at a time may use a message. Nothing waits; reading and writing take time in proportion to the
+/// document.
+///
+/// Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
+/// 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays
+/// that claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and
+/// Windows 125x. The checks are made while the text is read.
 class UTILSDLL_EXPORT QtSoapMessage
 {
 public:
@@ -33,12 +31,10 @@ public:
     /// Replaces the contents by a copy of those of \a copy.
     QtSoapMessage& operator=(const QtSoapMessage& copy);
 
-    /**
-     * @brief Replaces the message by the one in \a buffer, XML with or without declaration.
-     * @return true on success. On failure false, errorString() says what is wrong, with line and column where
-     * the XML is, and the message is a fault with that text: VersionMismatch for an envelope of another SOAP
-     * version, else Client.
-     */
+    /// \brief Replaces the message by the one in \a buffer, XML with or without declaration.
+    /// \return true on success. On failure false, errorString() says what is wrong, with line and column where
+    /// the XML is, and the message is a fault with that text: VersionMismatch for an envelope of another SOAP
+    /// version, else Client.
     bool setContent(const QByteArray& buffer);
 
     /// Replaces the message by the one in \a d, which was parsed with namespace processing; result as above.
@@ -63,11 +59,9 @@ public:
     /// Makes this a request for the method \a name in the namespace \a uri.
     void setMethod(const QString& name, const QString& uri = QString());
 
-    /**
-     * @brief Appends \a arg to the arguments of the method.
-     *
-     * setMethod() comes first; without it the argument becomes an item of the body, and a warning is written.
-     */
+    /// \brief Appends \a arg to the arguments of the method.
+    ///
+    /// setMethod() comes first; without it the argument becomes an item of the body, and a warning is written.
     void addMethodArgument(QtSoapType* arg);
 
     /// Appends a String argument \a name in the namespace \a uri.
@@ -112,13 +106,11 @@ public:
     /// Makes this an envelope with neither header nor body.
     void clear();
 
-    /**
-     * @brief The message as XML, without declaration.
-     * \param indent number of blanks per level; with 0 all is on one line
-     *
-     * Characters that XML cannot carry at all (U+0000 to U+001F but for tab and line ends, U+FFFE, U+FFFF,
-     * half surrogate pairs) are written as U+FFFD. Send the text as UTF-8.
-     */
+    /// \brief The message as XML, without declaration.
+    /// \param indent number of blanks per level; with 0 all is on one line
+    ///
+    /// Characters that XML cannot carry at all (U+0000 to U+001F but for tab and line ends, U+FFFE, U+FFFF,
+    /// half surrogate pairs) are written as U+FFFD. Send the text as UTF-8.
     QString toXmlString(int indent = 0) const;
 
     /// Why the latest setContent() failed; empty when it did not.

@@ -29,8 +29,9 @@ void QtSoapNamespaces::registerNamespace(const QString& prefix, const QString& u
     static const QStringList fixed{QStringLiteral("SOAP-ENV"), QStringLiteral("SOAP-ENC"),
                                    QStringLiteral("xsi"), QStringLiteral("xsd"), QStringLiteral("xml")};
     const QMutexLocker lock(&m_mutex);
-    if (m_prefixes.value(uri) == prefix && !prefix.isEmpty())
+    if (m_prefixes.value(uri) == prefix && !prefix.isEmpty()) {
         return;
+    }
     if (uri.isEmpty() || !SoapText::isElementName(prefix) ||
         prefix.startsWith(QLatin1String("xml"), Qt::CaseInsensitive) || fixed.contains(prefix) ||
         fixed.contains(m_prefixes.value(uri))) {

@@ -8,8 +8,9 @@ namespace
 
 int compare(const QtSoapQName& n1, const QtSoapQName& n2)
 {
-    if (n2.uri().isEmpty())
+    if (n2.uri().isEmpty()) {
         return QString::compare(n1.name(), n2.name(), Qt::CaseInsensitive);
+    }
     return QString::compare(n1.uri() + n1.name(), n2.uri() + n2.name(), Qt::CaseInsensitive);
 }
 

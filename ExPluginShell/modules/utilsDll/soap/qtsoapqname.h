@@ -10,12 +10,10 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief A local name and the URI of its namespace; either may be empty.
- *
- * A name without URI takes the default namespace in force where it is written: an argument without URI ends
- * up in the namespace of its method.
- */
+/// \brief A local name and the URI of its namespace; either may be empty.
+///
+/// A name without URI takes the default namespace in force where it is written: an argument without URI ends
+/// up in the namespace of its method.
 class UTILSDLL_EXPORT QtSoapQName
 {
 public:
@@ -43,12 +41,10 @@ private:
     QString m_uri;
 };
 
-/**
- * @brief Whether \a n1 is what the key \a n2 asks for; case does not matter.
- *
- * The comparison is not symmetric: a key without URI matches the name in any namespace, a key with a URI is
- * compared as URI and name joined.
- */
+/// \brief Whether \a n1 is what the key \a n2 asks for; case does not matter.
+///
+/// The comparison is not symmetric: a key without URI matches the name in any namespace, a key with a URI is
+/// compared as URI and name joined.
 UTILSDLL_EXPORT bool operator==(const QtSoapQName& n1, const QtSoapQName& n2);
 
 /// The order that goes with `operator==`: by name alone when \a n2 has no URI, else by URI and name joined.

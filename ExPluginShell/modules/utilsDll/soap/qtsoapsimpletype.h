@@ -5,23 +5,21 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief A value without children: a text, a number, a date.
- *
- * What value() holds after reading, by type:
- *
- * | type | variant |
- * |---|---|
- * | Boolean | `bool`, from "true", "false", "1", "0" |
- * | Int, Short, Byte | `int` |
- * | UnsignedInt, UnsignedShort, UnsignedByte | `uint` |
- * | Long · UnsignedLong | `qlonglong` · `qulonglong` |
- * | Float, Double | `double`, also from "INF", "-INF", "NaN" |
- * | every other one, Decimal, dates and base64 among them | the text, `QString` |
- *
- * A text that is not of its type stays a text rather than being lost. A nil value, and one that only refers
- * to another by `href`, is valid and holds an invalid variant.
- */
+/// \brief A value without children: a text, a number, a date.
+///
+/// What value() holds after reading, by type:
+///
+/// | type | variant |
+/// |---|---|
+/// | Boolean | `bool`, from "true", "false", "1", "0" |
+/// | Int, Short, Byte | `int` |
+/// | UnsignedInt, UnsignedShort, UnsignedByte | `uint` |
+/// | Long · UnsignedLong | `qlonglong` · `qulonglong` |
+/// | Float, Double | `double`, also from "INF", "-INF", "NaN" |
+/// | every other one, Decimal, dates and base64 among them | the text, `QString` |
+///
+/// A text that is not of its type stays a text rather than being lost. A nil value, and one that only refers
+/// to another by `href`, is valid and holds an invalid variant.
 class UTILSDLL_EXPORT QtSoapSimpleType : public QtSoapType
 {
 public:

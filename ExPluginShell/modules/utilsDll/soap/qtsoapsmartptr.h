@@ -9,14 +9,12 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Shared ownership of one heap object; the last owner deletes it.
- *
- * Copies share the object. The count is atomic, the object itself is not guarded. There is no conversion to
- * bool, no comparison and no reset: assign an empty pointer instead.
- *
- * @tparam T type of the object; deleted through this type, so a base class needs a virtual destructor.
- */
+/// \brief Shared ownership of one heap object; the last owner deletes it.
+///
+/// Copies share the object. The count is atomic, the object itself is not guarded. There is no conversion to
+/// bool, no comparison and no reset: assign an empty pointer instead.
+///
+/// \tparam T type of the object; deleted through this type, so a base class needs a virtual destructor.
 template <class T>
 class QtSmartPtr
 {
@@ -39,11 +37,9 @@ public:
     /// The object itself, like `operator*`.
     T& ref() const { return *ptr(); }
 
-    /**
-     * @brief Ends the ownership of this pointer and of all its copies.
-     * @return the object, which the caller now deletes; null for an empty pointer. The copies go on pointing
-     * to it and know nothing of its end.
-     */
+    /// \brief Ends the ownership of this pointer and of all its copies.
+    /// \return the object, which the caller now deletes; null for an empty pointer. The copies go on pointing
+    /// to it and know nothing of its end.
     T* releasedPtr() const { return d ? (static_cast<void>(d->owner.release()), d->raw) : nullptr; }
 
     /// True when there is no object.

@@ -16,8 +16,9 @@ QList<QtSmartPtr<QtSoapType>> copied(const QList<QtSmartPtr<QtSoapType>>& childr
 {
     QList<QtSmartPtr<QtSoapType>> copies;
     copies.reserve(children.size());
-    for (const auto& child : children)
+    for (const auto& child : children) {
         copies.append(copySoapValue(child));
+    }
     return copies;
 }
 
@@ -78,12 +79,15 @@ int QtSoapStruct::indexOf(const QtSoapQName& key) const
     int match = -1;
     for (int k = 0; k < dict.size(); ++k) {
         const QtSoapQName name = dict.at(k)->name();
-        if (!(name == key))
+        if (!(name == key)) {
             continue;
-        if (name.name() == key.name())
+        }
+        if (name.name() == key.name()) {
             return k;
-        if (match < 0)
+        }
+        if (match < 0) {
             match = k;
+        }
     }
     return match;
 }
@@ -147,10 +151,11 @@ void QtSoapStruct::insert(QtSoapType* item)
 
 void QtSoapStruct::append(QtSoapType* item)
 {
-    if (item)
+    if (item) {
         dict.append(item);
-    else
+    } else {
         SoapText::warn(QStringLiteral("A null item is ignored"));
+    }
 }
 
 QDomElement QtSoapStruct::toDomElement(QDomDocument doc) const

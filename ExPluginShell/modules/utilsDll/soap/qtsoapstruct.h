@@ -7,12 +7,10 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief A collection of named values of any type.
- *
- * Children are kept in the order in which they came. A struct read from a message keeps repeated children
- * too, as services write lists that way; use positions or the iterator to see them all.
- */
+/// \brief A collection of named values of any type.
+///
+/// Children are kept in the order in which they came. A struct read from a message keeps repeated children
+/// too, as services write lists that way; use positions or the iterator to see them all.
 class UTILSDLL_EXPORT QtSoapStruct : public QtSoapType
 {
 public:
@@ -45,7 +43,7 @@ public:
     /// The child called \a key, see `operator[](const QtSoapQName&)` of the base class.
     QtSoapType& at(const QtSoapQName& key);
 
-    /// @copydoc at(const QtSoapQName&)
+    /// \copydoc at(const QtSoapQName&)
     const QtSoapType& at(const QtSoapQName& key) const;
     QtSoapType& operator[](int i) override;
     const QtSoapType& operator[](int i) const override;
@@ -54,11 +52,9 @@ public:
     QtSoapType& operator[](const QString& key) override;
     const QtSoapType& operator[](const QString& key) const override;
 
-    /**
-     * @brief Adds \a item, which comes from `new`, and takes ownership of it.
-     *
-     * The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
-     */
+    /// \brief Adds \a item, which comes from `new`, and takes ownership of it.
+    ///
+    /// The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
     void insert(QtSoapType* item);
 
     /// The element with the children in order.

@@ -27,8 +27,9 @@ const QtSoapType* QtSoapStructIterator::current() const
 
 void QtSoapStructIterator::operator++()
 {
-    if (m_index < m_struct->dict.size())
+    if (m_index < m_struct->dict.size()) {
         ++m_index;
+    }
 }
 
 bool QtSoapStructIterator::operator!=(const QtSoapStructIterator& j) const

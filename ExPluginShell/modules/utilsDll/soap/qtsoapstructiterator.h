@@ -5,12 +5,10 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Visits the children of a struct in their order.
- *
- * `for (QtSoapStructIterator it(s); it.current(); ++it)`. The struct must outlive the iterator and must not
- * change meanwhile.
- */
+/// \brief Visits the children of a struct in their order.
+///
+/// `for (QtSoapStructIterator it(s); it.current(); ++it)`. The struct must outlive the iterator and must not
+/// change meanwhile.
 class UTILSDLL_EXPORT QtSoapStructIterator
 {
 public:
@@ -30,7 +28,7 @@ public:
     /// The child; null past the end. It belongs to the struct.
     QtSoapType* data();
 
-    /// @copydoc data
+    /// \copydoc data
     const QtSoapType* current() const;
 
     /// Goes on to the next child; stays past the end.

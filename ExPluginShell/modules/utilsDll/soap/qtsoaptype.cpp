@@ -59,8 +59,9 @@ static_assert(std::size(typeNames) == QtSoapType::Other, "one name per type");
 QHash<QString, QtSoapType::Type> typesByName()
 {
     QHash<QString, QtSoapType::Type> types;
-    for (int k = 0; k < QtSoapType::Other; ++k)
+    for (int k = 0; k < QtSoapType::Other; ++k) {
         types.insert(QLatin1String(typeNames[k]), static_cast<QtSoapType::Type>(k));
+    }
     types.insert(QStringLiteral("base64"), QtSoapType::Base64Binary);
     types.insert(QStringLiteral("timeInstant"), QtSoapType::DateTime);
     return types;
@@ -104,10 +105,11 @@ QtSoapType::~QtSoapType() = default;
 
 QtSoapType& QtSoapType::missing()
 {
-    if (m_missing)
+    if (m_missing) {
         *m_missing = QtSoapType();
-    else
+    } else {
         m_missing = std::make_unique<QtSoapType>();
+    }
     return *m_missing;
 }
 

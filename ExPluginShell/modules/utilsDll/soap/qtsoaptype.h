@@ -9,18 +9,16 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/**
- * @brief Base class of all SOAP values: the type through which the tree of a message is inspected.
- *
- * A lookup that fails returns a reference to an empty value whose isValid() is false, so a chain such as
- * `answer["person"]["children"][0].toString()` is always safe. That empty value belongs to the object asked,
- * is emptied again before each lookup that fails, and what is written into it is lost.
- *
- * Values are value types: a copy has children of its own. Only a child of a class derived outside this
- * library cannot be copied by the library and is shared between the copies. Values are not locked: one thread
- * at a time may use a tree; several may read one that nobody changes, through constant references (a lookup
- * that is not constant and fails writes to the empty value). No call blocks.
- */
+/// \brief Base class of all SOAP values: the type through which the tree of a message is inspected.
+///
+/// A lookup that fails returns a reference to an empty value whose isValid() is false, so a chain such as
+/// `answer["person"]["children"][0].toString()` is always safe. That empty value belongs to the object asked,
+/// is emptied again before each lookup that fails, and what is written into it is lost.
+///
+/// Values are value types: a copy has children of its own. Only a child of a class derived outside this
+/// library cannot be copied by the library and is shared between the copies. Values are not locked: one thread
+/// at a time may use a tree; several may read one that nobody changes, through constant references (a lookup
+/// that is not constant and fails writes to the empty value). No call blocks.
 class UTILSDLL_EXPORT QtSoapType
 {
 public:
@@ -88,11 +86,9 @@ public:
     /// Drops the contents; here it does nothing.
     virtual void clear();
 
-    /**
-     * @brief Replaces this value by what \a node holds.
-     * \param node an element of a document that was parsed with namespace processing
-     * @return false, and errorString() says why, when the node is no value of this class; here always false.
-     */
+    /// \brief Replaces this value by what \a node holds.
+    /// \param node an element of a document that was parsed with namespace processing
+    /// \return false, and errorString() says why, when the node is no value of this class; here always false.
     virtual bool parse(QDomNode node);
 
     /// True for a struct, an array and a simple value, also an empty one; false here: "there is no such
@@ -115,20 +111,18 @@ public:
     /// The first child with the local name \a key, in any namespace.
     virtual QtSoapType& operator[](const QString& key);
 
-    /// @copydoc operator[](int)
+    /// \copydoc operator[](int)
     virtual const QtSoapType& operator[](int pos) const;
 
-    /// @copydoc operator[](const QtSoapQName&)
+    /// \copydoc operator[](const QtSoapQName&)
     virtual const QtSoapType& operator[](const QtSoapQName& key) const;
 
-    /// @copydoc operator[](const QString&)
+    /// \copydoc operator[](const QString&)
     virtual const QtSoapType& operator[](const QString& key) const;
 
-    /**
-     * @brief Makes an element for this value.
-     * \param document the document that makes the element
-     * @return the element, not inserted anywhere; a null element here.
-     */
+    /// \brief Makes an element for this value.
+    /// \param document the document that makes the element
+    /// \return the element, not inserted anywhere; a null element here.
     virtual QDomElement toDomElement(QDomDocument document) const;
 
     /// The type of this value.
@@ -171,11 +165,9 @@ public:
     /// Other.
     static QString typeToName(QtSoapType::Type t);
 
-    /**
-     * @brief The type of that name, without prefix; case matters.
-     * @return Other for an unknown name. "base64" of the SOAP encoding and "timeInstant" of the older schema
-     * are known too.
-     */
+    /// \brief The type of that name, without prefix; case matters.
+    /// \return Other for an unknown name. "base64" of the SOAP encoding and "timeInstant" of the older schema
+    /// are known too.
     static Type nameToType(const QString& name);
 
 protected:

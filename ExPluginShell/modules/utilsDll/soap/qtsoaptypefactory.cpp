@@ -23,8 +23,9 @@ bool QtSoapTypeFactory::registerHandler(const QString& name, QtSoapTypeConstruct
 {
     const QMutexLocker lock(&m_mutex);
     if (name.isEmpty() || !handler || m_handlers.contains(name) ||
-        QtSoapType::nameToType(name) != QtSoapType::Other)
+        QtSoapType::nameToType(name) != QtSoapType::Other) {
         return false;
+    }
     m_handlers.insert(name, handler);
     return true;
 }
@@ -40,8 +41,9 @@ QtSmartPtr<QtSoapType> QtSoapTypeFactory::soapType(QDomNode node) const
     SoapDomCursor cursor(node);
     SoapValueReader reader(cursor);
     QtSmartPtr<QtSoapType> value;
-    if (cursor.next() == SoapXmlCursor::Token::StartElement)
+    if (cursor.next() == SoapXmlCursor::Token::StartElement) {
         value = reader.value();
+    }
     const QMutexLocker lock(&m_mutex);
     m_error = reader.errorString();
     return value;

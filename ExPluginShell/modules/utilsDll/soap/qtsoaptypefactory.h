@@ -23,18 +23,16 @@ public:
     virtual QString errorString() const = 0;
 };
 
-/**
- * @brief Makes values of the class \a T, which has a default constructor, `parse()` and `errorString()`.
- *
- * Keeps the error of the latest call: one object serves one thread at a time.
- */
+/// \brief Makes values of the class \a T, which has a default constructor, `parse()` and `errorString()`.
+///
+/// Keeps the error of the latest call: one object serves one thread at a time.
 template <class T>
 class QtSoapTypeConstructor : public QtSoapTypeConstructorBase
 {
 public:
     QtSoapTypeConstructor() = default;
 
-    /// @copydoc QtSoapTypeConstructorBase::createObject
+    /// \copydoc QtSoapTypeConstructorBase::createObject
     QtSoapType* createObject(QDomNode node) override
     {
         auto object = std::make_unique<T>();
@@ -43,23 +41,21 @@ public:
         return parsed ? object.release() : nullptr;
     }
 
-    /// @copydoc QtSoapTypeConstructorBase::errorString
+    /// \copydoc QtSoapTypeConstructorBase::errorString
     QString errorString() const override { return m_error; }
 
 private:
     QString m_error;
 };
 
-/**
- * @brief Chooses the class of the values that messages are read into.
- *
- * By its `xsi:type` an element becomes what the handler of that type name makes of it; the built-in types
- * have handlers of their own. Without a known type it becomes an array when it has an `arrayType`, a struct
- * when it has child elements, and else a simple value of type String.
- *
- * One object for the process; handlers may be registered from any thread. A handler is called in the thread
- * that reads, so in several at a time when several read.
- */
+/// \brief Chooses the class of the values that messages are read into.
+///
+/// By its `xsi:type` an element becomes what the handler of that type name makes of it; the built-in types
+/// have handlers of their own. Without a known type it becomes an array when it has an `arrayType`, a struct
+/// when it has child elements, and else a simple value of type String.
+///
+/// One object for the process; handlers may be registered from any thread. A handler is called in the thread
+/// that reads, so in several at a time when several read.
 class UTILSDLL_EXPORT QtSoapTypeFactory
 {
 public:
@@ -68,12 +64,10 @@ public:
     /// The factory of this process.
     static QtSoapTypeFactory& instance();
 
-    /**
-     * @brief Has \a handler make the values whose type has the local name \a name.
-     * \param handler stays the caller's and must live as long as messages are read
-     * @return false when the name is empty or taken, by a built-in type or another handler, or the handler is
-     * null.
-     */
+    /// \brief Has \a handler make the values whose type has the local name \a name.
+    /// \param handler stays the caller's and must live as long as messages are read
+    /// \return false when the name is empty or taken, by a built-in type or another handler, or the handler is
+    /// null.
     bool registerHandler(const QString& name, QtSoapTypeConstructorBase* handler);
 
     /// The value of the element \a node; an empty pointer, and errorString() says why, on failure.

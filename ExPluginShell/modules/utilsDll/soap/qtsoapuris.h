@@ -1,13 +1,11 @@
 #pragma once
 
-/**
- * @file qtsoapuris.h
- * @brief The namespace URIs under which the SOAP 1.1 classes name things.
- *
- * The macros keep the names and values that clients know. `XML_SCHEMA` and `XML_SCHEMA_INSTANCE` are the
- * schema of 1999; messages are *written* with the recommendation of 2001, the only one that today's services
- * type values by, and *read* with the schemas of 1999, 2000 and 2001 alike.
- */
+/// \file qtsoapuris.h
+/// \brief The namespace URIs under which the SOAP 1.1 classes name things.
+///
+/// The macros keep the names and values that clients know. `XML_SCHEMA` and `XML_SCHEMA_INSTANCE` are the
+/// schema of 1999; messages are *written* with the recommendation of 2001, the only one that today's services
+/// type values by, and *read* with the schemas of 1999, 2000 and 2001 alike.
 
 /// Namespace of `Envelope`, `Header`, `Body` and `Fault`; any other one is a version mismatch.
 #define SOAPv11_ENVELOPE "http://schemas.xmlsoap.org/soap/envelope/"
