@@ -30,10 +30,12 @@ const QString names[] = {QStringLiteral("identifier"), QStringLiteral("title"), 
 QtSoapSimpleType* field(int column, int row)
 {
     const QtSoapQName name(names[column]);
-    if (column == 0 || column == 4 || column == 5 || column == 6)
+    if (column == 0 || column == 4 || column == 5 || column == 6) {
         return new QtSoapSimpleType(name, row * 10 + column);
-    if (column == 7)
+    }
+    if (column == 7) {
         return new QtSoapSimpleType(name, row % 2 == 0, 0);
+    }
     return new QtSoapSimpleType(name,
                                 QStringLiteral("%1 of picture %2 & others").arg(names[column]).arg(row));
 }
@@ -46,8 +48,9 @@ QtSoapMessage answer(int structs)
     auto* const list = new QtSoapArray(QtSoapQName(QStringLiteral("pictures")), QtSoapType::Struct, structs);
     for (int row = 0; row < structs; ++row) {
         auto* const item = new QtSoapStruct(QtSoapQName(QStringLiteral("picture")));
-        for (int column = 0; column < 10; ++column)
+        for (int column = 0; column < 10; ++column) {
             item->insert(field(column, row));
+        }
         list->append(item);
     }
     message.addMethodArgument(list);
@@ -70,8 +73,9 @@ void parseLibrary(benchmark::State& state)
     const QByteArray xml = text(state);
     for (auto _ : state) {
         QtSoapMessage message;
-        if (!message.setContent(xml) || message.returnValue().count() != state.range(0))
+        if (!message.setContent(xml) || message.returnValue().count() != state.range(0)) {
             state.SkipWithError("not read");
+        }
     }
     finish(state, xml.size());
 }
@@ -81,8 +85,9 @@ void parseTree(benchmark::State& state)
     const QByteArray xml = text(state);
     for (auto _ : state) {
         QDomDocument document;
-        if (!document.setContent(xml, true))
+        if (!document.setContent(xml, true)) {
             state.SkipWithError("not read");
+        }
     }
     finish(state, xml.size());
 }
@@ -97,8 +102,9 @@ void parseKdSoap(benchmark::State& state)
         KDSoapHeaders headers;
         if (KDSoapMessageReader().xmlToMessage(xml, &message, &messageNamespace, &headers, KDSoap::SOAP1_1) !=
                 KDSoapMessageReader::NoError ||
-            message.childValues().first().childValues().size() != state.range(0))
+            message.childValues().first().childValues().size() != state.range(0)) {
             state.SkipWithError("not read");
+        }
     }
     finish(state, xml.size());
 }
@@ -108,8 +114,9 @@ void writeLibrary(benchmark::State& state)
 {
     const QtSoapMessage message = answer(static_cast<int>(state.range(0)));
     qint64 size = 0;
-    for (auto _ : state)
+    for (auto _ : state) {
         size = message.toXmlString().size();
+    }
     finish(state, size);
 }
 
@@ -155,11 +162,13 @@ void writeQt(benchmark::State& state)
     const QtSoapMessage message = answer(static_cast<int>(state.range(0)));
     QtSoapMessage again;
     if (!again.setContent(writtenByQt(message.returnValue()).toUtf8()) ||
-        again.toXmlString() != message.toXmlString())
+        again.toXmlString() != message.toXmlString()) {
         state.SkipWithError("the peer writes another text");
+    }
     qint64 size = 0;
-    for (auto _ : state)
+    for (auto _ : state) {
         size = writtenByQt(message.returnValue()).size();
+    }
     finish(state, size);
 }
 

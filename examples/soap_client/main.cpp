@@ -26,10 +26,11 @@ public:
 private Q_SLOTS:
     void show(const QtSoapMessage& answer)
     {
-        if (answer.isFault())
+        if (answer.isFault()) {
             qWarning() << answer.faultString().toString();
-        else
+        } else {
             qInfo() << answer.returnValue()["cm"].value().toDouble() << "cm";
+        }
         QCoreApplication::exit(answer.isFault() ? 1 : 0);
     }
 

@@ -19,8 +19,9 @@ namespace
 int visit(const QtSoapType& value)
 {
     int seen = value.toString().size() + value.toInt() + int(value.toBool()) + value.name().name().size();
-    for (int k = 0; k < value.count(); ++k)
+    for (int k = 0; k < value.count(); ++k) {
         seen ^= visit(value[k]);
+    }
     return seen;
 }
 
@@ -31,16 +32,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     QtSoapMessage message;
     if (!message.setContent(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)))) {
-        if (!message.isFault() || message.errorString().isEmpty() || message.errorString().size() > 2000)
+        if (!message.isFault() || message.errorString().isEmpty() || message.errorString().size() > 2000) {
             broken("a refusal without a fault", message);
+        }
     }
     visit(message.method());
     visit(message.faultDetail());
     QtSoapMessage again;
-    if (!again.setContent(message.toXmlString().toUtf8()))
+    if (!again.setContent(message.toXmlString().toUtf8())) {
         broken("what was written cannot be read", again);
+    }
     const QString xml = again.toXmlString();
-    if (!message.setContent(xml.toUtf8()) || message.toXmlString() != xml)
+    if (!message.setContent(xml.toUtf8()) || message.toXmlString() != xml) {
         broken("what was read is written differently", message);
+    }
     return 0;
 }

@@ -76,10 +76,11 @@ void SoapArraysTest::arrayRefuses()
     QtSoapSimpleType* const item = text ? value("a", "x") : number(2);
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(QStringLiteral("^SOAP: The array \"a\" (has|holds)")));
-    if (position == -2)
+    if (position == -2) {
         array.append(item);
-    else
+    } else {
         array.insert(position, item); // deleted, which the address sanitizer sees
+    }
     QCOMPARE(array.count(), 1);
     QVERIFY(!array.errorString().isEmpty());
     array.insert(0, number(3));
@@ -89,8 +90,9 @@ void SoapArraysTest::arrayRefuses()
 void SoapArraysTest::arrayIteratorVisitsInOrder()
 {
     QtSoapArray grid(named("grid"), QtSoapType::Int, 40, 5);
-    for (int k = 199; k >= 0; k -= 3)
+    for (int k = 199; k >= 0; k -= 3) {
         grid.insert(k, number(k));
+    }
     int last = -1, visited = 0;
     QtSoapArrayIterator it(grid);
     for (; !it.atEnd(); ++it, ++visited) {

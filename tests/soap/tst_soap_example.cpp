@@ -56,8 +56,9 @@ void SoapExampleTest::runs()
     QCOMPARE(client.exitStatus(), QProcess::NormalExit);
     QCOMPARE(client.exitCode(), exitCode);
     if (QSysInfo::kernelType() !=
-        QStringLiteral("winnt")) // there, the output of programs does not reach pipes reliably
+        QStringLiteral("winnt")) { // there, the output of programs does not reach pipes reliably
         QVERIFY2(QString::fromUtf8(client.readAll()).contains(output), "the example printed something else");
+    }
     QCOMPARE(server.requests.size(), 1);
     QCOMPARE(server.requests.first().line, QByteArray("POST /units HTTP/1.1"));
     QtSoapMessage request;

@@ -25,17 +25,19 @@ QByteArray array(const char* attributes, const char* items = "")
 QByteArray numbered(const QByteArray& before, const QByteArray& behind, int times)
 {
     QByteArray text;
-    for (int k = 0; k < times; ++k)
+    for (int k = 0; k < times; ++k) {
         text += before + QByteArray::number(k) + behind;
+    }
     return text;
 }
 
 QByteArray entityBomb()
 {
     QByteArray text = "<!DOCTYPE l [<!ENTITY l0 'lol'>";
-    for (int k = 1; k < 10; ++k)
+    for (int k = 1; k < 10; ++k) {
         text += "<!ENTITY l" + QByteArray::number(k) + " '" +
                 repeated(("&l" + QByteArray::number(k - 1) + ";").constData(), 10) + "'>";
+    }
     return text + "]>" + envelope("<r>&l9;</r>");
 }
 

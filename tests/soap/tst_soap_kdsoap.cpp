@@ -19,12 +19,14 @@ QString understood(const KDSoapValue& value)
 {
     QStringList children;
     const KDSoapValueList& values = value.childValues();
-    for (const KDSoapValue& child : values)
+    for (const KDSoapValue& child : values) {
         children += understood(child);
+    }
     QString text =
         value.name() + QLatin1Char(':') + value.type() + QLatin1Char('=') + value.value().toString();
-    if (value.isNil())
+    if (value.isNil()) {
         text += QStringLiteral("nil");
+    }
     return children.isEmpty() ? text
                               : text + QLatin1Char('{') + children.join(QLatin1Char(' ')) + QLatin1Char('}');
 }

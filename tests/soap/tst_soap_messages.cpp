@@ -14,8 +14,9 @@ QDomElement written(const QtSoapMessage& message)
 {
     QDomDocument document;
     QString error;
-    if (!document.setContent(message.toXmlString(), true, &error))
+    if (!document.setContent(message.toXmlString(), true, &error)) {
         qWarning("%s", qPrintable(error));
+    }
     return document.documentElement();
 }
 
@@ -99,8 +100,9 @@ void SoapMessagesTest::namespacesAsWritten()
     message.addMethodArgument(QStringLiteral("outside"), QString(), 4);
     QStringList uris;
     const QDomElement method = written(message).firstChildElement().firstChildElement();
-    for (QDomElement e = method.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+    for (QDomElement e = method.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
         uris += e.namespaceURI();
+    }
     QCOMPARE(uris, QStringList({QStringLiteral("urn:example:grid"), QString(), QStringLiteral("urn:a&b"),
                                 QString()}));
     QCOMPARE(method.elementsByTagName(QStringLiteral("inherits")).item(0).namespaceURI(),
@@ -214,8 +216,9 @@ void SoapMessagesTest::faults()
     }
     QStringList order;
     const QDomElement fault = written(message).firstChildElement().firstChildElement();
-    for (QDomElement e = fault.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+    for (QDomElement e = fault.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
         order += e.namespaceURI() + e.localName();
+    }
     QCOMPARE(order, QStringList({QStringLiteral("faultcode"), QStringLiteral("faultstring"),
                                  QStringLiteral("detail")}));
     message.setMethod(QStringLiteral("m"));
@@ -284,8 +287,9 @@ void SoapMessagesTest::encodings()
     QFETCH(QByteArray, codec);
     QFETCH(QString, declared);
     QString text = QString::fromUtf8(envelope("<r><a>Größe</a></r>"));
-    if (!declared.isEmpty())
+    if (!declared.isEmpty()) {
         text.prepend(QStringLiteral("<?xml version='1.0' encoding='%1'?>").arg(declared));
+    }
     QtSoapMessage message;
     QVERIFY2(message.setContent(QTextCodec::codecForName(codec)->fromUnicode(text)),
              qPrintable(message.errorString()));
@@ -307,9 +311,10 @@ void SoapMessagesTest::treeOfTheCaller()
     QDomDocument deep;
     deep.createElement(QStringLiteral("first")); // a document is null before that
     QDomNode node = deep;
-    for (int k = 0; k < 2000; ++k)
+    for (int k = 0; k < 2000; ++k) {
         node = node.appendChild(deep.createElementNS(
             QStringLiteral(SOAPv11_ENVELOPE), k == 0 ? QStringLiteral("Envelope") : QStringLiteral("Body")));
+    }
     QVERIFY(!fromTree.setContent(deep));
     QVERIFY(fromTree.errorString().contains(QStringLiteral("levels")));
 }

@@ -55,13 +55,15 @@ private:
 void SoapPhpTest::initTestCase()
 {
     const QString php = QStandardPaths::findExecutable(QStringLiteral("php"));
-    if (php.isEmpty())
+    if (php.isEmpty()) {
         QSKIP("PHP (php-cli) is not installed");
+    }
     QProcess modules;
     modules.start(php, {QStringLiteral("-m")});
     QVERIFY(modules.waitForFinished());
-    if (!modules.readAllStandardOutput().contains("soap"))
+    if (!modules.readAllStandardOutput().contains("soap")) {
         QSKIP("the SOAP classes of PHP (php-soap) are not installed");
+    }
     {
         QTcpServer probe;
         QVERIFY(probe.listen(QHostAddress::LocalHost));
@@ -126,10 +128,12 @@ void SoapPhpTest::typesOfTheService_data()
     const auto row = [](const char* type, const char* text, const QVariant& value) {
         QTest::addRow("%s %s", type, text) << resultAs(type, text) << value;
     };
-    for (const char* truth : {"true", "1"})
+    for (const char* truth : {"true", "1"}) {
         row("boolean", truth, true);
-    for (const char* truth : {"false", "0"})
+    }
+    for (const char* truth : {"false", "0"}) {
         row("boolean", truth, false);
+    }
     row("float", "INF", std::numeric_limits<double>::infinity());
     row("dateTime", "2021-03-04T05:06:07.5+02:00", QStringLiteral("2021-03-04T05:06:07.5+02:00"));
     row("string", "   ", QStringLiteral("   "));
@@ -181,18 +185,21 @@ void SoapPhpTest::arraysOfRanks()
     const auto size = [rank](int dimension) { return dimension < rank ? 2 : -1; };
     QtSoapArray array(named("a"), QtSoapType::Int, size(0), size(1), size(2), size(3));
     const int items = 1 << rank;
-    for (int k = sparse ? items - 1 : 0; k < items; ++k)
+    for (int k = sparse ? items - 1 : 0; k < items; ++k) {
         array.insert(k, SoapCall::value("", k));
+    }
     const QtSoapMessage answer = ask(request("describe", {new QtSoapArray(array)}));
     QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
     QCOMPARE(answer.returnValue().toString(), understood);
 
-    if (sparse)
+    if (sparse) {
         return; // a sparse array comes back as a list of keys and values
+    }
     const QtSoapMessage echoed = ask(request("echo", {new QtSoapArray(array)})); // as arrays of arrays
     const QtSoapType* value = &echoed.returnValue();
-    for (int k = 0; k < rank; ++k)
+    for (int k = 0; k < rank; ++k) {
         value = &(*value)[value->count() - 1];
+    }
     QCOMPARE(value->value(), QVariant(items - 1));
 }
 

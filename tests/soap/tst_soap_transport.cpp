@@ -23,7 +23,7 @@ const QByteArray serverFault =
 
 const QString unasked = QStringLiteral("Other The server could not be asked: ");
 
-/// A transport, its server, and what its signals told.
+/// A transport, its server, and what its signals carried.
 struct Call : QObject {
     Q_OBJECT
 public:
@@ -56,8 +56,9 @@ public:
     QString outcome() const
     {
         const QtSoapMessage& answer = transport.getResponse();
-        if (!answer.isFault())
+        if (!answer.isFault()) {
             return QStringLiteral("value ") + answer.returnValue().toString();
+        }
         const char* const codes[] = {"VersionMismatch", "MustUnderstand", "Client", "Server", "Other"};
         return QLatin1String(codes[answer.faultCode()]) + QLatin1Char(' ') + answer.faultString().toString();
     }
@@ -153,8 +154,9 @@ void SoapTransportTest::overlappingAndFromItsSlot()
     call.server.answer.body = good;
     int left = 3;
     connect(&call.transport, qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
-        if (left-- > 0)
+        if (left-- > 0) {
             call.submit();
+        }
     });
     call.submit();
     call.submit();
@@ -239,7 +241,7 @@ void SoapTransportTest::endlessAnswerIsCutOff()
 void SoapTransportTest::unreachable_data()
 {
     QTest::addColumn<QString>("host");
-    QTest::newRow("nobody listens") << "127.0.0.1";
+    QTest::newRow("nothing listens") << "127.0.0.1";
     QTest::newRow("no such host") << "no-such-host.invalid";
     QTest::newRow("no host at all") << QString();
     QTest::newRow("no host name") << "a b";
@@ -278,8 +280,9 @@ void SoapTransportTest::destroyed()
     int first = 0, second = 0;
     connect(transport.get(), qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
         ++first;
-        if (!withArgument)
+        if (!withArgument) {
             transport.reset();
+        }
     });
     connect(transport.get(), qOverload<const QtSoapMessage&>(&QtSoapHttpTransport::responseReady), this, [&] {
         ++second;
@@ -324,8 +327,9 @@ void SoapTransportTest::proxy()
 void SoapTransportTest::secureServer()
 {
     const QString openssl = QStandardPaths::findExecutable(QStringLiteral("openssl"));
-    if (openssl.isEmpty())
+    if (openssl.isEmpty()) {
         QSKIP("the program openssl, which makes the server's certificate, is not installed");
+    }
     QTemporaryDir folder;
     const QString key = folder.filePath(QStringLiteral("key.pem")),
                   certificate = folder.filePath(QStringLiteral("cert.pem"));
@@ -344,7 +348,7 @@ void SoapTransportTest::secureServer()
     call.server.answer.body = large;
     call.server.secure(own, QSslKey(&keyFile, QSsl::Rsa));
     call.transport.setHost(QStringLiteral("localhost"), true, call.server.serverPort());
-    QVERIFY(call.ask()); // nobody vouches for the certificate
+    QVERIFY(call.ask()); // the certificate is not trusted
     QVERIFY2(call.outcome().startsWith(unasked), qPrintable(call.outcome()));
     QVERIFY(call.server.requests.isEmpty());
     connect(call.transport.networkAccessManager(), &QNetworkAccessManager::sslErrors, this,

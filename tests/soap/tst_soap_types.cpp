@@ -19,8 +19,9 @@ QDomElement parsed(const QString& attributesAndContents, const QString& end = QS
             .arg(QStringLiteral(XML_SCHEMA_INSTANCE), QStringLiteral(SOAPv11_ENCODING)) +
         attributesAndContents + end;
     QString error;
-    if (!document.setContent(text, true, &error))
+    if (!document.setContent(text, true, &error)) {
         qFatal("%s", qPrintable(error));
+    }
     return document.documentElement();
 }
 
@@ -82,8 +83,9 @@ void SoapTypesTest::namesOfTypes()
     const QHash<int, const char*> fixed{{0, "duration"},      {9, "boolean"},  {14, "anyURI"},
                                         {17, "string"},       {27, "decimal"}, {32, "int"},
                                         {40, "unsignedByte"}, {41, "Array"},   {42, "Struct"}};
-    for (auto it = fixed.begin(); it != fixed.end(); ++it)
+    for (auto it = fixed.begin(); it != fixed.end(); ++it) {
         QCOMPARE(int(QtSoapType::nameToType(QLatin1String(it.value()))), it.key());
+    }
     QCOMPARE(QtSoapType::nameToType(QStringLiteral("INT")), QtSoapType::Other);
     QCOMPARE(QtSoapType::nameToType(QStringLiteral("base64")), QtSoapType::Base64Binary);
     QCOMPARE(int(QtSoapType::Other), 43);
@@ -109,8 +111,9 @@ void SoapTypesTest::qualifiedNames()
     QFETCH(QtSoapQName, right);
     QFETCH(bool, equal);
     QCOMPARE(left == right, equal);
-    if (equal)
+    if (equal) {
         QVERIFY(!(left < right));
+    }
     QtSoapQName assigned(left);
     assigned = QStringLiteral("z");
     QCOMPARE(assigned.name() + assigned.uri(), QStringLiteral("z"));
@@ -226,8 +229,9 @@ void SoapTypesTest::structKeepsOrderAndReplaces()
         return new QtSoapSimpleType(QtSoapQName(QLatin1String(name), QStringLiteral("urn:x")), number);
     };
     QtSoapStruct s(named("s"));
-    for (QtSoapType* const item : {inX("b", 1), inX("a", 1), inX("c", 1), inX("a", 2)})
+    for (QtSoapType* const item : {inX("b", 1), inX("a", 1), inX("c", 1), inX("a", 2)}) {
         s.insert(item);
+    }
     QTest::ignoreMessage(QtWarningMsg, "SOAP: A struct cannot take a null item");
     s.insert(nullptr);
     QCOMPARE(described(s), QStringLiteral("s{b:int=1 a:int=2 c:int=1}"));
@@ -235,8 +239,9 @@ void SoapTypesTest::structKeepsOrderAndReplaces()
     QVERIFY(!s.at(QtSoapQName(QStringLiteral("a"), QStringLiteral("urn:y"))).isValid());
     QString names;
     QtSoapStructIterator it(s);
-    for (; it.current(); ++it)
+    for (; it.current(); ++it) {
         names += it.key().name();
+    }
     QCOMPARE(names, QStringLiteral("bac"));
     QVERIFY(!it.data() && it.key().name().isEmpty() && it != QtSoapStructIterator(s));
     // read, repeated names stay; of names that differ in case only the one of the same case comes first
@@ -288,8 +293,9 @@ void SoapTypesTest::elementsCanBeReadBack()
     const QString xml = document.toString(-1);
     for (const bool throughText : {false, true}) {
         QDomDocument again = document;
-        if (throughText)
+        if (throughText) {
             QVERIFY(again.setContent(xml, true));
+        }
         QtSoapArray read;
         QVERIFY2(read.parse(again.documentElement()), qPrintable(read.errorString() + xml));
         QCOMPARE(read.name().uri(), QStringLiteral("urn:x"));

@@ -9,16 +9,18 @@ QByteArray HttpLoopback::Request::header(const QByteArray& name) const
     const QList<QByteArray> lines = headers.split('\n');
     for (const QByteArray& one : lines) {
         const int colon = one.indexOf(':');
-        if (one.left(colon).trimmed().toLower() == name.toLower())
+        if (one.left(colon).trimmed().toLower() == name.toLower()) {
             return one.mid(colon + 1).trimmed();
+        }
     }
     return QByteArray();
 }
 
 HttpLoopback::HttpLoopback()
 {
-    if (!listen(QHostAddress::LocalHost))
+    if (!listen(QHostAddress::LocalHost)) {
         qFatal("no loopback port: %s", qPrintable(errorString()));
+    }
 }
 
 void HttpLoopback::secure(const QSslCertificate& certificate, const QSslKey& key)
@@ -46,14 +48,16 @@ void HttpLoopback::onReadyRead(QTcpSocket* socket)
     QByteArray received = socket->property("received").toByteArray() + socket->readAll();
     socket->setProperty("received", received);
     const int end = received.indexOf("\r\n\r\n");
-    if (end < 0)
+    if (end < 0) {
         return;
+    }
     Request request;
     request.line = received.left(received.indexOf("\r\n"));
     request.headers = received.mid(request.line.size() + 2, end - request.line.size() - 2);
     request.body = received.mid(end + 4);
-    if (request.body.size() < request.header("Content-Length").toInt())
+    if (request.body.size() < request.header("Content-Length").toInt()) {
         return;
+    }
     socket->setProperty("received", QByteArray());
     requests.append(request);
     send(socket);
@@ -61,8 +65,9 @@ void HttpLoopback::onReadyRead(QTcpSocket* socket)
 
 void HttpLoopback::send(QTcpSocket* socket)
 {
-    if (answer.silent)
+    if (answer.silent) {
         return;
+    }
     const qint64 length = answer.claimed < 0 ? answer.body.size() : answer.claimed;
     QByteArray text = "HTTP/1.1 " + answer.status + "\r\nContent-Type: " + answer.contentType +
                       "\r\nContent-Length: " + QByteArray::number(length);
@@ -73,15 +78,17 @@ void HttpLoopback::send(QTcpSocket* socket)
         text.remove(0, body);
         auto* const timer = new QTimer(socket);
         connect(timer, &QTimer::timeout, socket, [socket, text, at = 0]() mutable {
-            if (at < text.size())
+            if (at < text.size()) {
                 socket->write(text.constData() + at++, 1);
+            }
         });
         timer->start(answer.dripMs);
         return;
     }
     socket->write(answer.sent < 0 ? text : text.left(answer.sent));
-    if (answer.sent >= 0)
+    if (answer.sent >= 0) {
         socket->disconnectFromHost();
+    }
 }
 
 EndlessServer::EndlessServer()
@@ -102,13 +109,15 @@ void EndlessServer::run()
     server.listen(QHostAddress::LocalHost);
     port = server.serverPort();
     m_listening.release();
-    if (!server.waitForNewConnection(30000))
+    if (!server.waitForNewConnection(30000)) {
         return;
+    }
     QTcpSocket* const socket = server.nextPendingConnection();
     socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n\r\n");
     while (socket->state() == QAbstractSocket::ConnectedState && !isInterruptionRequested()) {
-        if (socket->bytesToWrite() < 1024 * 1024)
+        if (socket->bytesToWrite() < 1024 * 1024) {
             socket->write(QByteArray(1024 * 1024, ' '));
+        }
         socket->waitForBytesWritten(100);
     }
 }

@@ -67,16 +67,18 @@ inline QtSoapSimpleType* typed(const char* name, const char* type, const char* t
 inline QtSoapStruct* structure(const char* name, std::initializer_list<QtSoapType*> children)
 {
     auto* const made = new QtSoapStruct(named(name));
-    for (QtSoapType* const child : children)
+    for (QtSoapType* const child : children) {
         made->insert(child);
+    }
     return made;
 }
 
 inline QtSoapArray* list(const char* name, std::initializer_list<QtSoapType*> items)
 {
     auto* const made = new QtSoapArray(named(name));
-    for (QtSoapType* const item : items)
+    for (QtSoapType* const item : items) {
         made->append(item);
+    }
     return made;
 }
 
@@ -84,8 +86,9 @@ inline QtSoapMessage request(const char* method, std::initializer_list<QtSoapTyp
 {
     QtSoapMessage message;
     message.setMethod(QString::fromUtf8(method), QStringLiteral("urn:example:peer"));
-    for (QtSoapType* const argument : arguments)
+    for (QtSoapType* const argument : arguments) {
         message.addMethodArgument(argument);
+    }
     return message;
 }
 
@@ -93,19 +96,22 @@ inline QtSoapMessage request(const char* method, std::initializer_list<QtSoapTyp
 /// an array, "-" for what is not there.
 inline QString described(const QtSoapType& value)
 {
-    if (!value.isValid())
+    if (!value.isValid()) {
         return QStringLiteral("-");
+    }
     QString text = value.name().name();
     QStringList parts;
     if (const auto* const array = dynamic_cast<const QtSoapArray*>(&value)) {
         QtSoapArray items(*array);
-        for (QtSoapArrayIterator it(items); !it.atEnd(); ++it)
+        for (QtSoapArrayIterator it(items); !it.atEnd(); ++it) {
             parts += QStringLiteral("%1:%2").arg(it.pos()).arg(described(*it.current()));
+        }
         return text + QLatin1Char('[') + parts.join(QLatin1Char(' ')) + QLatin1Char(']');
     }
     if (value.type() == QtSoapType::Struct) {
-        for (int k = 0; k < value.count(); ++k)
+        for (int k = 0; k < value.count(); ++k) {
             parts += described(value[k]);
+        }
         return text + QLatin1Char('{') + parts.join(QLatin1Char(' ')) + QLatin1Char('}');
     }
     text += QLatin1Char(':') + value.typeName();
@@ -123,8 +129,9 @@ inline QtSoapMessage ask(quint16 port, const QString& path, QtSoapMessage reques
     transport.setAction(action);
     QSignalSpy answered(&transport, SIGNAL(responseReady()));
     transport.submitRequest(request, path);
-    if (answered.isEmpty())
+    if (answered.isEmpty()) {
         answered.wait(30000);
+    }
     return transport.getResponse();
 }
 

@@ -2,70 +2,87 @@
 
 #include <QXmlStreamReader>
 
+#include <cstring>
+#include <utility>
+
 namespace TOLVAN_NAMESPACE
 {
 
 namespace
 {
 
-/// Position of the ">" that ends the tag begun at \a from, which may also stand in a quoted attribute value.
-int endOfTag(const QString& xml, int from)
+bool startsWith(const char* at, const char* end, const char* text)
 {
-    QChar quote;
-    for (int at = from; at < xml.size(); ++at) {
-        const QChar c = xml.at(at);
-        if (!quote.isNull()) {
-            quote = c == quote ? QChar() : quote;
-        } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
-            quote = c;
-        } else if (c == QLatin1Char('>')) {
-            return at;
-        }
-    }
-    return xml.size();
+    const auto length = static_cast<std::ptrdiff_t>(std::strlen(text));
+    return end - at >= length && std::memcmp(at, text, static_cast<std::size_t>(length)) == 0;
 }
 
-/// Where the markup that is no element, begun at \a from, ends.
-int endOfNonElement(const QString& xml, int from)
+/// Returns the next \a character from \a at on, or \a end.
+const char* next(const char* at, const char* end, char character)
 {
-    const QStringRef rest = xml.midRef(from, 9);
-    const QLatin1String end = rest.startsWith(QLatin1String("<!--"))        ? QLatin1String("-->")
-                              : rest.startsWith(QLatin1String("<![CDATA[")) ? QLatin1String("]]>")
-                                                                            : QLatin1String("?>");
-    const int at = xml.indexOf(end, from);
-    return at < 0 ? xml.size() : at;
+    const void* const found = std::memchr(at, character, static_cast<std::size_t>(end - at));
+    return found ? static_cast<const char*>(found) : end;
 }
 
-/// Upper bound of the depth for texts without a document type, whose entities could hide elements.
-bool mayNestDeeperThan(const QString& xml, int limit)
+/// Returns the place behind the next \a text, or \a end.
+const char* behind(const char* at, const char* end, const char* text)
 {
-    int depth = 0;
-    int at = xml.indexOf(QLatin1Char('<'));
-    while (at >= 0 && at < xml.size()) {
-        const QChar next = at + 1 < xml.size() ? xml.at(at + 1) : QChar();
-        if (next == QLatin1Char('/')) {
-            depth = qMax(0, depth - 1);
-        } else if (xml.midRef(at, 9) == QLatin1String("<!DOCTYPE")) {
-            return true;
-        } else if (next == QLatin1Char('!') || next == QLatin1Char('?')) {
-            at = endOfNonElement(xml, at);
-        } else {
-            at = endOfTag(xml, at);
-            const bool isEmptyElement = xml.at(at - 1) == QLatin1Char('/');
-            if (!isEmptyElement && ++depth > limit) {
-                return true;
-            }
+    for (at = next(at, end, text[0]); at < end; at = next(at + 1, end, text[0])) {
+        if (startsWith(at, end, text)) {
+            return at + std::strlen(text);
         }
-        at = xml.indexOf(QLatin1Char('<'), at + 1);
     }
-    return false;
+    return end;
+}
+
+/// Returns the place behind the tag that begins at \a at; a '>' in quotes does not end it.
+const char* behindTag(const char* at, const char* end)
+{
+    char quote = 0;
+    for (; at < end; ++at) {
+        if (quote ? *at == quote : (*at == '"' || *at == '\'')) {
+            quote = quote ? 0 : *at;
+        } else if (!quote && *at == '>') {
+            return at + 1;
+        }
+    }
+    return end;
 }
 
 } // namespace
 
+XmlBounds XmlBounds::of(const QByteArray& xml)
+{
+    XmlBounds bounds;
+    const char* const end = xml.constData() + xml.size();
+    int depth = 0;
+    for (const char* at = next(xml.constData(), end, '<'); at < end; at = next(at, end, '<')) {
+        if (startsWith(at, end, "<!--")) {
+            at = behind(at + 4, end, "-->");
+        } else if (startsWith(at, end, "<![CDATA[")) {
+            at = behind(at, end, "]]>");
+        } else if (startsWith(at, end, "<?")) {
+            at = behind(at, end, "?>");
+        } else if (startsWith(at, end, "<!DOCTYPE")) {
+            bounds.hasDocumentType = true;
+            break;
+        } else {
+            const char* const tag = std::exchange(at, behindTag(at, end));
+            bounds.longestTag = qMax(bounds.longestTag, static_cast<int>(at - tag));
+            if (startsWith(tag, end, "</")) {
+                depth = qMax(0, depth - 1);
+            } else if (at - tag > 1 && at[-2] != '/') {
+                bounds.depth = qMax(bounds.depth, ++depth);
+            }
+        }
+    }
+    return bounds;
+}
+
 bool nestsDeeperThan(const QString& xml, int limit)
 {
-    if (!mayNestDeeperThan(xml, limit)) {
+    const XmlBounds bounds = XmlBounds::of(xml.toUtf8());
+    if (!bounds.hasDocumentType && bounds.depth <= limit) { // entities of a document type could hide elements
         return false;
     }
     QXmlStreamReader reader(xml);

@@ -6,19 +6,20 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// Internal: looks through a document before any XML reader sees it.
-///
-/// Refuses what costs a reader more than its size: documents and tags that are too long, document types.
-///
+/// Looks through a document before any XML reader sees it, and refuses what costs a reader more than its size:
+/// documents and tags that are too long, document types. Internal, not installed.
 /// \param document the bytes as received
-/// \param unicode receives the text when it is UTF-16 or UTF-32, and stays null otherwise
-/// \return what is wrong, empty when nothing is
+/// \param unicode receives the text if it is UTF-16 or UTF-32, and stays null otherwise
+/// \return what is wrong; empty if nothing is
 QString checkSoapDocument(const QByteArray& document, QString* unicode);
 
-/// Internal: whether a document that is no UTF-16 or UTF-32 may declare \a encoding; an empty one is UTF-8.
+/// Returns the error text for a document with a document type.
+QString documentTypeRefusal();
+
+/// Returns whether a document that is neither UTF-16 nor UTF-32 may declare \a encoding; an empty one is UTF-8.
 ///
-/// Only encodings in which the bytes of '<', '>' and the quotes stand for nothing else: the check above relies
-/// on it.
+/// In the encodings accepted the bytes of '<', '>' and the quotes stand for nothing else: the check above relies
+/// on that.
 bool isSoapEncoding(const QStringRef& encoding);
 
 } // namespace TOLVAN_NAMESPACE

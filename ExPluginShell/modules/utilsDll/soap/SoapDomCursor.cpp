@@ -1,5 +1,6 @@
 #include "SoapDomCursor.h"
 
+#include "SoapDocumentCheck.h"
 #include "SoapUris.h"
 
 #include <QDomAttr>
@@ -50,7 +51,7 @@ SoapDomCursor::SoapDomCursor(const QDomNode& root)
 {
     if (root.isDocument()) {
         if (!root.toDocument().doctype().isNull() && !root.toDocument().doctype().name().isEmpty()) {
-            fail(QStringLiteral("A document type declaration is not allowed in a SOAP message"));
+            fail(documentTypeRefusal());
         }
         m_root = root.toDocument().documentElement();
     }

@@ -7,28 +7,21 @@ namespace TOLVAN_NAMESPACE
 
 using Token = SoapXmlCursor::Token;
 
-bool SoapMessageReader::fail(const QString& error)
-{
-    if (errorString().isEmpty()) {
-        m_error = error;
-    }
-    return false;
-}
-
 bool SoapMessageReader::envelope()
 {
     if (m_cursor.next() != Token::StartElement) {
-        return fail(QStringLiteral("The document is empty"));
+        return m_cursor.fail(QStringLiteral("The document is empty"));
     }
     const SoapElement root = m_cursor.element();
     if (root.name != QLatin1String("Envelope")) {
-        return fail(
+        return m_cursor.fail(
             QStringLiteral("The document is no SOAP message: its root is \"%1\"").arg(root.name.left(80)));
     }
     m_values.note(root);
     m_otherVersion = root.uri != SoapUris::Envelope;
     return !m_otherVersion ||
-           fail(QStringLiteral("The envelope is of another SOAP version: \"%1\"").arg(root.uri.left(200)));
+           m_cursor.fail(
+               QStringLiteral("The envelope is of another SOAP version: \"%1\"").arg(root.uri.left(200)));
 }
 
 bool SoapMessageReader::entries(QList<QtSmartPtr<QtSoapType>>& target)
@@ -46,7 +39,7 @@ bool SoapMessageReader::entries(QList<QtSmartPtr<QtSoapType>>& target)
         case Token::EndElement:
             return true;
         default:
-            return fail(QStringLiteral("The document ends too early"));
+            return m_cursor.fail(QStringLiteral("The document ends too early"));
         }
     }
 }
@@ -58,15 +51,15 @@ bool SoapMessageReader::entry()
     m_values.note(element);
     if (element.uri == SoapUris::Envelope && element.name == QLatin1String("Header")) {
         if (m_hasHeader || m_hasBody) {
-            return fail(m_hasBody ? QStringLiteral("The header comes behind the body")
-                                  : QStringLiteral("The envelope has two headers"));
+            return m_cursor.fail(m_hasBody ? QStringLiteral("The header comes behind the body")
+                                           : QStringLiteral("The envelope has two headers"));
         }
         m_hasHeader = true;
         return entries(m_header);
     }
     if (element.uri == SoapUris::Envelope && element.name == QLatin1String("Body")) {
         if (m_hasBody) {
-            return fail(QStringLiteral("The envelope has two bodies"));
+            return m_cursor.fail(QStringLiteral("The envelope has two bodies"));
         }
         m_hasBody = true;
         return entries(m_body);
@@ -81,13 +74,14 @@ bool SoapMessageReader::read()
     }
     for (Token token = m_cursor.next(); token != Token::EndElement; token = m_cursor.next()) {
         if (token == Token::StartElement ? !entry() : token != Token::Text) {
-            return fail(QStringLiteral("The document ends too early"));
+            return m_cursor.fail(QStringLiteral("The document ends too early"));
         }
     }
     if (m_cursor.next() != Token::End) { // what follows the envelope must be well-formed, too
-        return fail(QStringLiteral("Something follows the envelope"));
+        return m_cursor.fail(QStringLiteral("Something follows the envelope"));
     }
-    return (m_hasBody || fail(QStringLiteral("The envelope has no body"))) && m_values.checkIdentities();
+    return (m_hasBody || m_cursor.fail(QStringLiteral("The envelope has no body"))) &&
+           m_values.checkIdentities();
 }
 
 } // namespace TOLVAN_NAMESPACE

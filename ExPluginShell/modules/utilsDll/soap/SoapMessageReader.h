@@ -18,7 +18,7 @@ public:
     /// Reads the whole document; false on an error.
     bool read();
 
-    QString errorString() const { return m_error.isEmpty() ? m_values.errorString() : m_error; }
+    QString errorString() const { return m_cursor.errorString(); }
 
     /// Whether the error is an envelope of another version.
     bool isOtherVersion() const { return m_otherVersion; }
@@ -31,11 +31,9 @@ private:
     bool envelope();
     bool entry();
     bool entries(QList<QtSmartPtr<QtSoapType>>& target);
-    bool fail(const QString& error);
 
     SoapXmlCursor& m_cursor;
     SoapValueReader m_values;
-    QString m_error;
     QList<QtSmartPtr<QtSoapType>> m_header;
     QList<QtSmartPtr<QtSoapType>> m_body;
     bool m_otherVersion = false;

@@ -12,9 +12,10 @@ SoapStreamCursor::SoapStreamCursor(const QByteArray& document)
 {
     QString unicode;
     const QString refused = checkSoapDocument(document, &unicode);
+    m_decoded = !unicode.isNull();
     if (!refused.isEmpty()) {
         fail(refused);
-    } else if (m_decoded = !unicode.isNull(); m_decoded) {
+    } else if (m_decoded) {
         m_reader.addData(unicode);
     } else {
         m_reader.addData(document);
@@ -23,10 +24,11 @@ SoapStreamCursor::SoapStreamCursor(const QByteArray& document)
 
 SoapXmlCursor::Token SoapStreamCursor::failHere(const QString& error)
 {
-    return fail(QStringLiteral("Line %1, column %2: %3")
-                    .arg(m_reader.lineNumber())
-                    .arg(m_reader.columnNumber())
-                    .arg(error));
+    fail(QStringLiteral("Line %1, column %2: %3")
+             .arg(m_reader.lineNumber())
+             .arg(m_reader.columnNumber())
+             .arg(error));
+    return Token::Error;
 }
 
 QString SoapStreamCursor::shared(const QStringRef& name)
@@ -80,7 +82,7 @@ SoapXmlCursor::Token SoapStreamCursor::advance()
             }
             break;
         case QXmlStreamReader::DTD:
-            return failHere(QStringLiteral("A document type declaration is not allowed in a SOAP message"));
+            return failHere(documentTypeRefusal());
         case QXmlStreamReader::EntityReference:
             return failHere(QStringLiteral("The entity \"%1\" is not defined").arg(m_reader.name()));
         case QXmlStreamReader::Invalid:

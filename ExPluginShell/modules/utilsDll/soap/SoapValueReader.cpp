@@ -42,14 +42,6 @@ bool isArray(const SoapElement& element)
 
 } // namespace
 
-bool SoapValueReader::fail(const QString& error)
-{
-    if (errorString().isEmpty()) {
-        m_error = error;
-    }
-    return false;
-}
-
 void SoapValueReader::note(const SoapElement& element)
 {
     m_encoded = m_encoded || element.encoded;
@@ -69,7 +61,7 @@ bool SoapValueReader::checkIdentities()
     // in messages that are not encoded "id" is a name like any other, unless something refers to it
     for (const QString& id : qAsConst(m_repeatedIds)) {
         if (m_encoded || m_references.contains(id)) {
-            return fail(QStringLiteral("The id \"%1\" is given to several elements").arg(shown(id)));
+            return m_cursor.fail(QStringLiteral("The id \"%1\" is given to several elements").arg(shown(id)));
         }
     }
     return true;
@@ -108,7 +100,7 @@ bool SoapValueReader::contents(QString* text, Values* children)
         case Token::EndElement:
             return true;
         default:
-            return fail(QStringLiteral("The document ends too early"));
+            return m_cursor.fail(QStringLiteral("The document ends too early"));
         }
     }
 }
@@ -122,8 +114,8 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
         const QDomElement tree = m_cursor.takeElement();
         QtSmartPtr<QtSoapType> made(tree.isNull() ? nullptr : handler->createObject(tree));
         if (made.isNull()) {
-            fail(QStringLiteral("\"%1\" cannot be read as %2: %3")
-                     .arg(shown(element.name), shown(typeName), handler->errorString()));
+            m_cursor.fail(QStringLiteral("\"%1\" cannot be read as %2: %3")
+                              .arg(shown(element.name), shown(typeName), handler->errorString()));
         }
         return made;
     }
@@ -156,8 +148,8 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
     if (!m_cursor.element().offset.isEmpty()) {
         next = result.absolute(SoapArrayType::numbers(m_cursor.element().offset));
         if (next < 0 || next >= capacity) {
-            return fail(QStringLiteral("The offset %1 is outside the array \"%2\"")
-                            .arg(shown(m_cursor.element().offset), shown(result.n.name())));
+            return m_cursor.fail(QStringLiteral("The offset %1 is outside the array \"%2\"")
+                                     .arg(shown(m_cursor.element().offset), shown(result.n.name())));
         }
     }
     for (;;) {
@@ -169,19 +161,19 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
             continue;
         }
         if (token != Token::StartElement) {
-            return fail(token == Token::Text
-                            ? QStringLiteral("The array \"%1\" holds a text beside its items")
-                                  .arg(shown(result.n.name()))
-                            : QStringLiteral("The document ends too early"));
+            return m_cursor.fail(token == Token::Text
+                                     ? QStringLiteral("The array \"%1\" holds a text beside its items")
+                                           .arg(shown(result.n.name()))
+                                     : QStringLiteral("The document ends too early"));
         }
         const QString position = m_cursor.element().position;
         if (!position.isEmpty()) {
             next = result.absolute(SoapArrayType::numbers(position));
         }
         if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next))) {
-            return fail(QStringLiteral("The array \"%1\" has no place for an item %2")
-                            .arg(shown(result.n.name()), position.isEmpty()
-                                                             ? QStringLiteral("more")
+            return m_cursor.fail(QStringLiteral("The array \"%1\" has no place for an item %2")
+                                     .arg(shown(result.n.name()),
+                                          position.isEmpty() ? QStringLiteral("more")
                                                              : QStringLiteral("at ") + shown(position)));
         }
         const QtSmartPtr<QtSoapType> item = value(itemType);
@@ -202,7 +194,7 @@ bool SoapValueReader::array(QtSoapArray& result)
         type = SoapArrayType::fromAttribute(element.arrayType);
     }
     if (!type.error.isEmpty()) {
-        return fail(type.error);
+        return m_cursor.fail(type.error);
     }
     name(result, element);
     result.t = QtSoapType::Array;
@@ -217,7 +209,8 @@ bool SoapValueReader::array(QtSoapArray& result)
 
 bool SoapValueReader::start()
 {
-    return m_cursor.next() == Token::StartElement || fail(QStringLiteral("There is no element to read"));
+    return m_cursor.next() == Token::StartElement ||
+           m_cursor.fail(QStringLiteral("There is no element to read"));
 }
 
 bool SoapValueReader::fill(QtSoapSimpleType& result)
@@ -230,13 +223,13 @@ bool SoapValueReader::fill(QtSoapSimpleType& result)
     QString text;
     Values children;
     if (isArray(element) || type == QtSoapType::Struct) {
-        return fail(QStringLiteral("\"%1\" is not a simple value").arg(shown(element.name)));
+        return m_cursor.fail(QStringLiteral("\"%1\" is not a simple value").arg(shown(element.name)));
     }
     if (!contents(&text, &children)) {
         return false;
     }
     if (!children.isEmpty()) {
-        return fail(
+        return m_cursor.fail(
             QStringLiteral("\"%1\" has child elements and is not a simple value").arg(shown(element.name)));
     }
     simple(result, element, type, text);
@@ -255,7 +248,8 @@ bool SoapValueReader::fill(QtSoapStruct& result)
         return false;
     }
     if (children.isEmpty() && !isBlank(text)) {
-        return fail(QStringLiteral("\"%1\" holds a text and is not a struct").arg(shown(element.name)));
+        return m_cursor.fail(
+            QStringLiteral("\"%1\" holds a text and is not a struct").arg(shown(element.name)));
     }
     name(result, element);
     result.dict = children;

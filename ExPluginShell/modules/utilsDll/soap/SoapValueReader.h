@@ -3,7 +3,7 @@
 #include "qtsoaparray.h"
 #include "qtsoapsimpletype.h"
 #include "qtsoapstruct.h"
-#include "SoapXmlCursor.h"
+#include "SoapDomCursor.h"
 
 #include <QSet>
 
@@ -30,6 +30,16 @@ public:
     bool fill(QtSoapStruct& value);
     bool fill(QtSoapArray& value);
 
+    /// Fills \a value from the element \a node; false, with the reason in \a error, on failure.
+    template <class Value>
+    static bool fill(Value& value, const QDomNode& node, QString* error)
+    {
+        SoapDomCursor cursor(node);
+        const bool filled = SoapValueReader(cursor).fill(value);
+        *error = cursor.errorString();
+        return filled;
+    }
+
     /// Notes the identity of a start tag, here of one that holds no value.
     void note(const SoapElement& element);
 
@@ -37,7 +47,7 @@ public:
     bool checkIdentities();
 
     /// What went wrong; empty when nothing did.
-    QString errorString() const { return m_error.isEmpty() ? m_cursor.errorString() : m_error; }
+    QString errorString() const { return m_cursor.errorString(); }
 
 private:
     using Values = QList<QtSmartPtr<QtSoapType>>;
@@ -49,10 +59,8 @@ private:
     void name(QtSoapType& value, const SoapElement& element) const;
     void simple(QtSoapSimpleType& value, const SoapElement& element, QtSoapType::Type type,
                 const QString& text) const;
-    bool fail(const QString& error);
 
     SoapXmlCursor& m_cursor;
-    QString m_error;
     QSet<QString> m_ids;
     QSet<QString> m_repeatedIds;
     QSet<QString> m_references;

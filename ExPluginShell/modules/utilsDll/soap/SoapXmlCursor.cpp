@@ -49,13 +49,13 @@ bool SoapXmlCursor::enter()
     return m_error.isEmpty();
 }
 
-SoapXmlCursor::Token SoapXmlCursor::fail(const QString& error)
+bool SoapXmlCursor::fail(const QString& error)
 {
     constexpr int longest = 400; // the reader's own texts quote what they complain of
     if (m_error.isEmpty()) {
         m_error = error.left(longest);
     }
-    return Token::Error;
+    return false;
 }
 
 } // namespace TOLVAN_NAMESPACE

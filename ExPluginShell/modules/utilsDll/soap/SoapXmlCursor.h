@@ -49,11 +49,13 @@ public:
     /// What went wrong, with the place.
     QString errorString() const { return m_error; }
 
+    /// Ends the walk with \a error, unless there is one already. Returns false.
+    bool fail(const QString& error);
+
 protected:
     /// Counts an element and a level; false, with an error, when there are too many.
     bool enter();
     void leave() { --m_depth; }
-    Token fail(const QString& error);
 
     SoapElement m_element;
     QString m_error;

@@ -1,7 +1,6 @@
 #include "qtsoaparray.h"
 
 #include "SoapCopy.h"
-#include "SoapDomCursor.h"
 #include "SoapEncoder.h"
 #include "SoapText.h"
 #include "SoapValueReader.h"
@@ -85,11 +84,7 @@ void QtSoapArray::clear()
 
 bool QtSoapArray::parse(QDomNode node)
 {
-    SoapDomCursor cursor(node);
-    SoapValueReader reader(cursor);
-    const bool parsed = reader.fill(*this);
-    errorStr = reader.errorString();
-    return parsed;
+    return SoapValueReader::fill(*this, node, &errorStr);
 }
 
 bool QtSoapArray::isValid() const

@@ -24,7 +24,7 @@ public:
     /// Goes where \a j stands.
     QtSoapArrayIterator& operator=(const QtSoapArrayIterator& j);
 
-    /// Absolute position of the item, whatever the rank; -1 past the end.
+    /// Absolute position of the item, for an array of any rank; -1 past the end.
     int pos() const;
 
     /// Fills one coordinate per dimension; null pointers are passed over, those beyond the rank left alone.

@@ -30,7 +30,7 @@ QtSoapHttpTransport::QtSoapHttpTransport(QObject* parent)
 QtSoapHttpTransport::~QtSoapHttpTransport()
 {
     const auto pending = m_pending;
-    m_pending.clear(); // nobody waits any more
+    m_pending.clear();
     for (const auto& reply : pending) {
         if (reply) {
             reply->abort();
@@ -104,11 +104,11 @@ QNetworkReply* QtSoapHttpTransport::networkReply()
 
 void QtSoapHttpTransport::readResponse(QNetworkReply* reply)
 {
-    if (!m_pending.contains(reply)) { // a request that somebody else made with the manager
+    if (!m_pending.contains(reply)) { // a request of the client's own, made with the manager
         return;
     }
-    // later: what answers may destroy the transport, which the manager would not survive inside its own
-    // signal
+    // Queued: a slot of the client may delete the transport, and QNetworkAccessManager must not be deleted
+    // inside its own signal.
     const auto later = [this, finished = QPointer<QNetworkReply>(reply)] { deliver(finished); };
     QMetaObject::invokeMethod(this, later, Qt::QueuedConnection);
 }

@@ -15,26 +15,26 @@ namespace TOLVAN_NAMESPACE
 /// \brief Sends messages to a service over HTTP or HTTPS and hands over its answers.
 ///
 /// Everything is asynchronous and happens in the thread of the object, which needs an event loop. Each
-/// submitRequest() is answered by exactly one pair of responseReady() signals, whatever goes wrong on the way;
-/// a transport destroyed before that sends none. Requests may overlap, but getResponse() and networkReply()
-/// then tell of the latest one: use one transport per call where that matters.
+/// submitRequest() is answered by exactly one pair of responseReady() signals, also if the request fails; a
+/// transport that is destroyed before that sends none. Requests may overlap, but getResponse() and
+/// networkReply() then return the latest one: use one transport per call where that matters.
 ///
-/// What cannot be read as a message becomes a fault: with the code of the failed setContent() when a 2xx
-/// answer is not SOAP, else with the code Other; its text names the cause (the status of the server, the error
-/// of the network, the time-out). An empty answer with status 202 or 204 is an empty message, no fault.
-/// Redirections are not followed. An answer of more than 64 MiB is given up, and no more than 1 MiB beyond
-/// what was read is received meanwhile, however busy the thread is.
+/// An answer that cannot be read as a message becomes a fault: with the code of the failed setContent() if a
+/// 2xx answer is not SOAP, else with the code Other. Its text names the cause: the status of the server, the
+/// error of the network, the time-out. An empty answer with status 202 or 204 is an empty message, no fault.
+/// Redirections are not followed. An answer of more than 64 MiB is given up. At most 1 MiB beyond what was
+/// read is received while the thread is busy.
 ///
 /// Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
 /// the request fail unless a slot on that manager's `sslErrors` ignores them. HTTPS is the system's on Windows
-/// and that of OpenSSL elsewhere; where its libraries are missing, requests over HTTPS fail.
+/// and that of OpenSSL on Unix. If its libraries are missing, requests over HTTPS fail.
 ///
 /// \code
-/// QtSoapMessage request;
-/// request.setMethod("convertLength", "urn:example:units");
-/// request.addMethodArgument("amount", "", 12);
-/// transport.setAction("urn:example:units#convertLength");
-/// transport.setHost("soap.example.org", true);
+/// QtSoapMessage request; // is not kept by the transport
+/// request.setMethod("convertLength", "urn:example:units"); // the name and its namespace
+/// request.addMethodArgument("amount", "", 12); // the argument takes the namespace of the method
+/// transport.setAction("urn:example:units#convertLength"); // sent in the SOAPAction header
+/// transport.setHost("soap.example.org", true); // over HTTPS
 /// transport.submitRequest(request, "/units");
 /// \endcode
 class UTILSDLL_EXPORT QtSoapHttpTransport : public QObject

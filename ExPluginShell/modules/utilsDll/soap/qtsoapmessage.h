@@ -49,7 +49,7 @@ public:
     /// The method element of a request or an answer: the first item of the body; invalid in a fault.
     const QtSoapType& method() const;
 
-    /// The result that an answer carries: the first child of method(), whatever its name; invalid when there
+    /// The result that an answer carries: the first child of method(), under any name; invalid when there
     /// is none.
     const QtSoapType& returnValue() const;
 
@@ -117,10 +117,10 @@ public:
     QString errorString() const;
 
 protected:
-    /// What the message is, as far as its contents tell.
+    /// What the message is, judged by its contents.
     enum MessageType { Fault, MethodRequest, MethodResponse, OtherType };
 
-    /// Whether \a candidate is a SOAP 1.1 message that setContent() would take; errorString() tells why not.
+    /// Whether \a candidate is a SOAP 1.1 message that setContent() would take; errorString() returns why not.
     bool isValidSoapMessage(const QDomDocument& candidate);
 
     /// The items of the body, which is made when there is none; it belongs to the message.

@@ -1,6 +1,5 @@
 #include "qtsoapsimpletype.h"
 
-#include "SoapDomCursor.h"
 #include "SoapEncoder.h"
 #include "SoapText.h"
 #include "SoapValueReader.h"
@@ -42,11 +41,7 @@ void QtSoapSimpleType::clear()
 
 bool QtSoapSimpleType::parse(QDomNode node)
 {
-    SoapDomCursor cursor(node);
-    SoapValueReader reader(cursor);
-    const bool parsed = reader.fill(*this);
-    errorStr = reader.errorString();
-    return parsed;
+    return SoapValueReader::fill(*this, node, &errorStr);
 }
 
 bool QtSoapSimpleType::isValid() const

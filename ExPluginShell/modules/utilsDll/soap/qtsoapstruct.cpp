@@ -1,7 +1,6 @@
 #include "qtsoapstruct.h"
 
 #include "SoapCopy.h"
-#include "SoapDomCursor.h"
 #include "SoapEncoder.h"
 #include "SoapText.h"
 #include "SoapValueReader.h"
@@ -57,11 +56,7 @@ void QtSoapStruct::clear()
 
 bool QtSoapStruct::parse(QDomNode node)
 {
-    SoapDomCursor cursor(node);
-    SoapValueReader reader(cursor);
-    const bool parsed = reader.fill(*this);
-    errorStr = reader.errorString();
-    return parsed;
+    return SoapValueReader::fill(*this, node, &errorStr);
 }
 
 bool QtSoapStruct::isValid() const

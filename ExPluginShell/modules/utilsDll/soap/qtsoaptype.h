@@ -17,7 +17,7 @@ namespace TOLVAN_NAMESPACE
 ///
 /// Values are value types: a copy has children of its own. Only a child of a class derived outside this
 /// library cannot be copied by the library and is shared between the copies. Values are not locked: one thread
-/// at a time may use a tree; several may read one that nobody changes, through constant references (a lookup
+/// at a time may use a tree; several may read one that none changes, through constant references (a lookup
 /// that is not constant and fails writes to the empty value). No call blocks.
 class UTILSDLL_EXPORT QtSoapType
 {
