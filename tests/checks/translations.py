@@ -17,7 +17,8 @@ import tempfile
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
-LANGUAGES = ("de", "en", "fr", "ja", "zh-CN")
+# Every language with the number of its plural forms.
+LANGUAGES = {"de": 2, "en": 2, "fr": 2, "ja": 1, "zh-CN": 1}
 
 
 def sources(folder):
@@ -25,25 +26,46 @@ def sources(folder):
 
 
 def messages(path):
+    """Each text with its state and its translations: one, or the plural forms."""
     for context in ElementTree.parse(path).getroot().iter("context"):
         for message in context.iter("message"):
             translation = message.find("translation")
-            yield context.findtext("name"), message.findtext("source"), translation.get("type"), translation.text or ""
+            forms = [form.text or "" for form in translation.findall("numerusform")]
+            numbered = message.get("numerus") == "yes"
+            yield (context.findtext("name"), message.findtext("source"), translation.get("type"), numbered,
+                   forms or [translation.text or ""])
+
+
+def placeholders(text):
+    return set(re.findall(r"%\d|%n", text))
+
+
+def problem_of(source, translation, language):
+    """What is wrong with one translation, or nothing."""
+    if not translation.strip():
+        return "has an empty translation"
+    if placeholders(source) != placeholders(translation):
+        return "does not keep the placeholders"
+    if source.endswith(".") and not translation.endswith((".", "。")):
+        return "does not end as a sentence"
+    if language == "fr" and re.search(" [:;?!»]|« ", translation):
+        return "may break before its punctuation: no-break space"
+    if language in ("ja", "zh-CN") and re.search(r"[^\x00-\x7f][:,;?!]", translation):
+        return "has half-width punctuation after a full-width character"
+    return None
 
 
 def problems_of(path):
-    for context, source, state, translation in messages(path):
+    language = path.stem.removeprefix("tolvan_")
+    for context, source, state, numbered, translations in messages(path):
         name = f"{path.name}: {context}: \"{source}\""
         if state:
             yield f"{name} is {state}"  # unfinished: also a text that is missing from the file; vanished, obsolete
-        elif not translation.strip():
-            yield f"{name} has an empty translation"
-        elif set(re.findall(r"%\d", source)) != set(re.findall(r"%\d", translation)):
-            yield f"{name} does not keep the placeholders"
-        elif source.endswith(".") and not translation.endswith((".", "。")):
-            yield f"{name} does not end as a sentence"
-        elif path.stem.endswith("_fr") and re.search(" [:;?!»]|« ", translation):
-            yield f"{name} may break before its punctuation: no-break space"
+        elif numbered and len(translations) != LANGUAGES[language]:
+            yield f"{name} has {len(translations)} plural forms instead of {LANGUAGES[language]}"
+        else:
+            found = (problem_of(source, translation, language) for translation in translations)
+            yield from (f"{name} {problem}" for problem in found if problem)
 
 
 def main():

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Rotate</source>
-        <translation>Pivoter</translation>
+        <translation>Faire pivoter</translation>
     </message>
     <message>
         <source>Don&apos;t quit</source>

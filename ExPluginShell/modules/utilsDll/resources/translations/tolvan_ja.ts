@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>写真の遠近感、水平、レンズのゆがみを補正します。使用しているソフトウェア:</translation>
+        <translation>写真のパースペクティブ、水平、歪曲収差を補正します。使用しているソフトウェア：</translation>
     </message>
     <message>
         <source>Close</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>校正照片的透视、水平和镜头变形。使用以下软件构建：</translation>
+        <translation>校正照片的透视、水平和镜头畸变。使用以下软件构建：</translation>
     </message>
     <message>
         <source>Close</source>
