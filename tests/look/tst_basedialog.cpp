@@ -87,6 +87,8 @@ private Q_SLOTS:
     void laterShowsKeepThePlace();
     void drag_data();
     void drag();
+    void dragFromAnUnknownPosition();
+    void derivedClassesHaveTheirFrame();
 };
 
 void BaseDialogTest::flags()
@@ -184,6 +186,33 @@ void BaseDialogTest::drag()
     sendMouse(dialog, QEvent::MouseMove, grip + QPoint(80, 80), Qt::NoButton);
     QTest::qWait(20);
     QCOMPARE(seenAt(dialog), last);
+}
+
+/// Under some window managers Qt does not know where the dialog is.
+void BaseDialogTest::dragFromAnUnknownPosition()
+{
+    Dialog dialog;
+    showAt(dialog, {200, 150});
+    const auto send = [&dialog](QEvent::Type type, const QPoint& global) {
+        QMouseEvent event(type, QPoint(50, 10), global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&dialog, &event);
+    };
+    send(QEvent::MouseButtonPress, {450, 310}); // the dialog is at 400, 300
+    send(QEvent::MouseMove, {455, 315});
+    QTRY_COMPARE(seenAt(dialog), QPoint(405, 305));
+}
+
+void BaseDialogTest::derivedClassesHaveTheirFrame()
+{
+    qApp->setStyleSheet(
+        QStringLiteral("TOLVAN_NAMESPACE--CBaseDialog { background: #102030; border: 2px solid #405060 }"));
+    struct Derived : CBaseDialog {
+    } dialog;
+    dialog.resize(40, 40);
+    const QImage image = dialog.grab().toImage();
+    QCOMPARE(image.pixelColor(20, 20).name(), QStringLiteral("#102030"));
+    QCOMPARE(image.pixelColor(1, 20).name(), QStringLiteral("#405060"));
+    qApp->setStyleSheet(QString());
 }
 
 TOLVAN_GUI_TEST_MAIN(BaseDialogTest)

@@ -12,11 +12,23 @@ namespace TOLVAN_NAMESPACE
 /// sheet draws everything. The user moves it by its body. The first show centres it on the screen of its
 /// parent.
 ///
+/// \par Style sheet
+/// The selector `TOLVAN_NAMESPACE--CBaseDialog` addresses every class derived from this one; the product's
+/// sheets give it the ground and the frame of a dialog. A selector with the object name, such as
+/// `#exportDialog`, addresses a single dialog. The dialog paints the background and border of these rules
+/// itself, also where Qt would leave out the background of a translucent window. Without any rule it is
+/// transparent. A border takes part of the dialog's area: leave it free with the margins of the layout.
+///
 /// \code
 /// class ExportDialog : public TOLVAN_NAMESPACE::CBaseDialog
 /// {
 /// public:
-///     explicit ExportDialog(QWidget* parent) : CBaseDialog(parent) { setHeaderHeight(32); }
+///     explicit ExportDialog(QWidget* parent)
+///         : CBaseDialog(parent)
+///     {
+///         setObjectName(QStringLiteral("exportDialog"));
+///         setHeaderHeight(32);
+///     }
 /// };
 /// \endcode
 ///

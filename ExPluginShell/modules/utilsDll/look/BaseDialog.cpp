@@ -3,10 +3,37 @@
 #include "GuiUtils.h"
 
 #include <QMouseEvent>
+#include <QPainter>
 #include <QShowEvent>
+#include <QStyleOption>
 
 namespace TOLVAN_NAMESPACE
 {
+
+namespace
+{
+
+/// Paints the style sheet's background and border before the dialog paints itself. Qt does not paint them,
+/// because a translucent window has no system background.
+class FramePainter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            auto* const dialog = static_cast<QWidget*>(watched);
+            QStyleOption option;
+            option.initFrom(dialog);
+            QPainter painter(dialog);
+            dialog->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, dialog);
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 CBaseDialog::CBaseDialog(QWidget* parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
@@ -14,6 +41,7 @@ CBaseDialog::CBaseDialog(QWidget* parent, Qt::WindowFlags flags)
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground, true);
     setWindowFlags(windowFlags() & ~(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint));
+    installEventFilter(new FramePainter(this));
 }
 
 CBaseDialog::~CBaseDialog() = default;
@@ -38,7 +66,7 @@ void CBaseDialog::mousePressEvent(QMouseEvent* event)
         return;
     }
     m_dragging = true;
-    m_dragOffset = event->globalPos() - pos();
+    m_dragOffset = event->pos(); // not from pos(): under some window managers Qt does not know the position
 }
 
 void CBaseDialog::mouseReleaseEvent(QMouseEvent* event)
