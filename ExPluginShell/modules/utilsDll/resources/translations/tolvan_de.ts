@@ -125,6 +125,54 @@
     </message>
 </context>
 <context>
+    <name>CProgressBox</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Wird angehalten …</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation>Noch wenige Sekunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>Noch etwa %n Sekunde</numerusform>
+            <numerusform>Noch etwa %n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>Noch etwa %n Minute</numerusform>
+            <numerusform>Noch etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>Noch etwa %n Stunde</numerusform>
+            <numerusform>Noch etwa %n Stunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The work could not be completed.</source>
+        <translation>Der Vorgang konnte nicht abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>

@@ -125,6 +125,54 @@
     </message>
 </context>
 <context>
+    <name>CProgressBox</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation>A few seconds left</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>About %n second left</numerusform>
+            <numerusform>About %n seconds left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>About %n minute left</numerusform>
+            <numerusform>About %n minutes left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>About %n hour left</numerusform>
+            <numerusform>About %n hours left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The work could not be completed.</source>
+        <translation>The work could not be completed.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>

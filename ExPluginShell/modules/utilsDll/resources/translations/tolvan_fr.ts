@@ -125,6 +125,54 @@
     </message>
 </context>
 <context>
+    <name>CProgressBox</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Arrêt en cours…</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation>Encore quelques secondes</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>Encore environ %n seconde</numerusform>
+            <numerusform>Encore environ %n secondes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>Encore environ %n minute</numerusform>
+            <numerusform>Encore environ %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>Encore environ %n heure</numerusform>
+            <numerusform>Encore environ %n heures</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The work could not be completed.</source>
+        <translation>L’opération n’a pas pu être terminée.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>

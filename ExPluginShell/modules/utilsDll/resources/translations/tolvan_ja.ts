@@ -125,6 +125,51 @@
     </message>
 </context>
 <context>
+    <name>CProgressBox</name>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>停止しています…</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation>残り数秒</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>残り約%n秒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>残り約%n分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>残り約%n時間</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The work could not be completed.</source>
+        <translation>処理を完了できませんでした。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>

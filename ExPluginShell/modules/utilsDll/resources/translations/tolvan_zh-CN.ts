@@ -125,6 +125,51 @@
     </message>
 </context>
 <context>
+    <name>CProgressBox</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>正在停止…</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation>还剩几秒</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>还剩约 %n 秒</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>还剩约 %n 分钟</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>还剩约 %n 小时</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The work could not be completed.</source>
+        <translation>操作未能完成。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>
