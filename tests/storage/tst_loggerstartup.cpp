@@ -67,7 +67,7 @@ private Q_SLOTS:
                  QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
         QCOMPARE(outcome.out, QByteArray());
         QCOMPARE(outcome.err, err);
-        QCOMPARE(outcome.loggerCalls, QByteArray("(unreadable)")); // nobody made the file
+        QCOMPARE(outcome.loggerCalls, QByteArray("(unreadable)")); // there is no such file
     }
 
     void startUpLines()

@@ -57,7 +57,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("persistentOnly");
         QTest::newRow("native store") << false << false;
         QTest::newRow("temporary file") << true << false;
-        QTest::newRow("native store whatever the mode") << false << true;
+        QTest::newRow("native store in every mode") << false << true;
     }
 
     void operationsReachTheStore()

@@ -7,28 +7,27 @@
 /// \file
 /// Small pieces of state that the plug-in, its host connector and its crash reporter share.
 ///
-/// Each call makes its own short-lived CSettings, so the values follow the temporary mode unless a function
-/// says otherwise. Nothing is reported: a store that can't be written loses the value. Made for the main
-/// thread; the values themselves are not locked between processes.
+/// Each call constructs a CSettings of its own, so the values follow the temporary mode unless a function's
+/// description says otherwise. No function reports a failure: a store that can't be written loses the value.
+/// Call them on the main thread; the values are not locked between processes.
 
 namespace TOLVAN_NAMESPACE
 {
 
-/// Whether the product was never started by this user: no value at all under "app_launched".
+/// Whether this user never started the product: there is no value under "app_launched".
 UTILSDLL_EXPORT bool isFirstLaunch();
-/// Notes that the product was started ("app_launched" = 1).
+/// Stores that the product was started ("app_launched" = 1).
 UTILSDLL_EXPORT void setNotFirstLaunch();
 
-/// Mode of the last start ("app_launchMode"); empty when there was none.
+/// Mode of the last start ("app_launchMode"); empty if there was none.
 UTILSDLL_EXPORT QString getLastLaunchMode();
-/// Notes the mode of this start.
+/// Stores the mode of this start.
 UTILSDLL_EXPORT void setLastLaunchMode(const QString& mode);
 
-/// Counts one more start of a risky phase, under "crashCounter_" and the mode noted with setLastLaunchMode().
-/// The host resets the counter when the phase ended well, so that it tells how many runs ended abnormally in
-/// a row.
+/// Counts one more start of a risky phase, under "crashCounter_" and the mode of setLastLaunchMode(). The
+/// host resets the counter when the phase ended well; its value is then the number of abnormal ends in a row.
 UTILSDLL_EXPORT void incrementCrashCounter();
-/// Abnormal ends in a row of \a mode; 0 when there is no counter.
+/// Number of abnormal ends in a row of \a mode; 0 if there is no counter.
 UTILSDLL_EXPORT int crashCounterForPlugin(const QString& mode);
 /// Sets the counter of \a mode to 0 and removes it.
 UTILSDLL_EXPORT void crashCounterReset(const QString& mode);
@@ -37,16 +36,16 @@ UTILSDLL_EXPORT void crashCounterReset(const QString& mode);
 /// own store, never in temporary settings.
 UTILSDLL_EXPORT QString getUserID();
 
-/// Always "Tolvan", whatever setResellerID() stored.
+/// Always "Tolvan"; the text stored by setResellerID() is not read.
 UTILSDLL_EXPORT QString getResellerID();
 /// Stores \a id under "resellerId", for other programs.
 UTILSDLL_EXPORT void setResellerID(const QString& id);
 
-/// Least important level letter that the log takes ("loggerLevel"); "D" when none is stored.
+/// Lowest level letter that is logged ("loggerLevel"); "D" if none is stored.
 UTILSDLL_EXPORT QString getLogLevel();
 /// Stores the log level.
 UTILSDLL_EXPORT void setLogLevel(const QString& level);
-/// Whether there is to be a log: false only for a stored "0" under "loggerEnabled".
+/// Whether logging is switched on: false only for a stored "0" under "loggerEnabled".
 UTILSDLL_EXPORT bool isLoggerEnabled();
 /// Stores the logging switch, as the text "1" or "0".
 UTILSDLL_EXPORT void setLoggerEnabled(bool enabled);
@@ -55,25 +54,25 @@ UTILSDLL_EXPORT void setLoggerEnabled(bool enabled);
 /// value means true, and so does a stored boolean false.
 UTILSDLL_EXPORT bool useActionSave();
 
-/// Always true, whatever setStatisticSent() stored.
+/// Always true; the value stored by setStatisticSent() is not read.
 UTILSDLL_EXPORT bool isStatisticSent();
 /// Writes the permission for statistics to the machine-wide suite configuration file: group
-/// "Instrumentation", key "AllowSending", type "bool". A failure is only logged.
+/// "Instrumentation", key "AllowSending", type "bool". A failure is logged.
 UTILSDLL_EXPORT void setStatisticSent(bool allowed);
 
 /// Whether crash reports may be sent: false only for a stored "0" under "TolvanSentCrashReport".
 UTILSDLL_EXPORT bool crashReportSendingAllowed();
 /// Stores the permission for crash reports, as the text "1" or "0".
 UTILSDLL_EXPORT void allowCrashReportSending(bool allowed);
-/// Runs the companion program "CrashSender" and blocks until it ends. It is looked for as programs usually
-/// are; how it ended, or that it is missing, is not told.
+/// Runs the companion program "CrashSender" and blocks until it ends. The system's search path is used. Its
+/// exit code, or that it is missing, is not reported.
 UTILSDLL_EXPORT void startCrashSender();
 
-/// Folder of the Qt plug-ins that belong to the product. The first answer is kept for the life of the
-/// process, whatever later calls ask for.
+/// Folder of the Qt plug-ins that belong to the product. The first non-empty result is kept for the life of
+/// the process; later calls return it for every argument.
 /// \param fromConnector true for the folder of the loaded connector module (native separators, one at the
 ///        end), false for the folder of the program (no separator at the end)
-/// \return empty when the connector module is asked for and not loaded; that is not kept
+/// \return empty if \a fromConnector is true and the connector module is not loaded
 UTILSDLL_EXPORT QString getQtPluginsDir(bool fromConnector);
 
 } // namespace TOLVAN_NAMESPACE

@@ -3,14 +3,14 @@
 #include <string>
 
 /// \file
-/// What libraries of the product log through.
+/// The logger of the product's libraries.
 
 /// Level letters of log lines, in rising order of importance.
 namespace LogLevel
 {
 constexpr char Debug = 'D';       ///< start-up lines and other details
 constexpr char Information = 'I'; ///< something a reader of the log should know
-constexpr char Warning = 'W';     ///< the work goes on, with less than was asked for
+constexpr char Warning = 'W';     ///< the work goes on with a fallback
 constexpr char Error = 'E';       ///< a failed operation or a failed assertion
 } // namespace LogLevel
 
@@ -24,8 +24,7 @@ constexpr char Error = 'E';       ///< a failed operation or a failed assertion
 /// process ends and never deletes it.
 ///
 /// \par Threads
-/// log() is called from any thread, without any locking by the caller: an implementation has to be
-/// thread-safe.
+/// log() is called from any thread without a lock: an implementation has to be thread-safe.
 class ILoggerInterface
 {
 public:
@@ -34,7 +33,7 @@ public:
     /// Opens the logger's output.
     /// \param folder where the output goes, UTF-8
     /// \param name   name of the log without a suffix, UTF-8
-    /// \param level  least important level letter that is written; 0 when the setting names none
+    /// \param level  lowest level letter that is written; 0 if the setting names none
     virtual void init(const std::string& folder, const std::string& name, char level) = 0;
 
     /// Writes one line.

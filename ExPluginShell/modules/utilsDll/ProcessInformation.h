@@ -7,10 +7,10 @@
 /// \file
 /// The program that the library runs inside.
 
-/// What the host plug-in wants to know of the program that it runs inside.
+/// Name and version of running programs.
 ///
-/// Nothing here reports or throws: whatever fails gives the empty name or the unknown version. Both functions
-/// may be called from any thread.
+/// No function throws: a failure returns the empty name or the unknown version. Both functions may be called
+/// from any thread.
 namespace UtilsDll
 {
 
@@ -23,17 +23,17 @@ struct BinaryVersion {
     quint32 revision = 0; ///< low 16 bits of the least significant word
 };
 
-/// Base file name of the running executable, extension included, at most 260 characters on Windows. Elsewhere
-/// the name is that of the file the process was started from. Empty when the system does not tell.
+/// Base file name of the running executable, extension included, at most 260 characters on Windows. On Unix
+/// it is the name of the file that the process was started from. Empty if the system does not report it.
 UTILSDLL_EXPORT QString currentProcessName();
 
 /// File version of the executable of the first running process whose base name equals \a processName without
 /// regard to case.
 ///
-/// Blocks while it walks all processes (at most the first 1024) and loads the executable that it finds, which
-/// stays loaded: ask once per run and keep the answer. Processes that may not be opened are skipped.
-/// \return the unknown version for an empty name, when no such process is found, when the file has no version
-///        resource, and always on systems whose executables carry none
+/// Blocks while it searches the first 1024 processes and loads the executable that it finds, which stays
+/// loaded: call it once per run and keep the result. Processes that can't be opened are skipped.
+/// \return the unknown version for an empty name, if no such process is found, if the file has no version
+///         resource, and always on Unix, where executables carry none
 UTILSDLL_EXPORT BinaryVersion binaryFileVersionByProcessName(const QString& processName);
 
 } // namespace UtilsDll

@@ -15,10 +15,9 @@
 /// definition and instantiates it in one source of that library: every module then sees the same object.
 ///
 /// \par Life
-/// The object lives from the first instance() until the library that holds it is unloaded.
+/// The object lives from the first call of instance() until the library that holds it is unloaded.
 /// \par Threads
-/// instance() may be called from several threads at once; a second thread waits until the first has built the
-/// object.
+/// instance() may be called from several threads; a second thread waits until the object is constructed.
 template <class T>
 class Singleton
 {

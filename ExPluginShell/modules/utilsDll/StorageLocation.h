@@ -7,25 +7,24 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// The single place that knows where the product keeps its files.
+/// Paths of the product's files and folders.
 ///
 /// All operations are static. Folder paths end with a separator (sessionSingleAppDirectory() alone does not),
 /// file paths do not. Paths have the system's own separators unless an operation says otherwise.
 ///
 /// \par Created
-/// Operations marked "created" make the folder, with all missing parents, on every call if it is not there. A
-/// folder that can't be created is not reported; the path is returned all the same.
+/// Operations marked "created" create the folder, with all missing parents, on every call if it does not
+/// exist. The path is returned also if the folder can't be created.
 /// \par Cached
 /// Operations marked "cached" compute their text on the first call and keep it until the library is unloaded.
-/// A later change of the environment is not seen; a created folder is still checked on every call.
+/// They do not see a later change of the environment; a created folder is checked on every call.
 /// \par Systems
-/// "Local application data" is the known folder of that name on Windows and `XDG_DATA_HOME` elsewhere;
-/// "program data" is the first folder of `XDG_CONFIG_DIRS` elsewhere; the common pictures are `pictures`
-/// under the first folder of `XDG_DATA_DIRS` elsewhere. A folder that the system does not tell gives an empty
-/// path.
+/// "Local application data", "program data" and the common pictures are known folders on Windows. On Unix
+/// they are `XDG_DATA_HOME`, the first folder of `XDG_CONFIG_DIRS`, and `pictures` under the first folder of
+/// `XDG_DATA_DIRS`. An operation returns an empty path if the system reports no such folder.
 /// \par Threads
-/// Every operation may be called from any thread. The preferences file path alone is a plain text without a
-/// lock: set it once at start, before other threads read it.
+/// Every operation may be called from any thread. The preferences file path is a text without a lock: set it
+/// once at start, before other threads read it.
 class UTILSDLL_EXPORT CStorageLocation
 {
 public:
@@ -51,16 +50,15 @@ public:
     /// "Logs" in the product's data folder. Created, cached.
     static QString loggerFilesPath();
 
-    /// "Trelio Frame Samples" in the pictures of all users. Empty when the system does not tell that folder.
+    /// "Trelio Frame Samples" in the pictures of all users. Empty if the system reports none.
     static QString getSamplePicturesLocation();
 
-    /// The machine-wide "Preferences.ini" under program data. Empty when the system does not tell that
-    /// folder.
+    /// The machine-wide "Preferences.ini" under program data. Empty if the system reports no such folder.
     static QString getDefaultPreferencesFilePath();
-    /// Sets what getCurrentPreferencesFilePath() returns; the file is not looked at.
+    /// Sets what getCurrentPreferencesFilePath() returns; the file need not exist.
     static void setPreferencesFilePath(const QString& path);
     /// The path set with setPreferencesFilePath().
-    /// \throws std::runtime_error "Preferences file path not set" while that is empty
+    /// \throws std::runtime_error "Preferences file path not set" if that is empty
     static QString getCurrentPreferencesFilePath();
 
     /// The temporary folder of the system, without a separator at its end.
@@ -68,12 +66,11 @@ public:
 
     /// The user's suite configuration file, with forward slashes. Cached.
     static const QString& getOstraUserConfigFileLocation();
-    /// The machine-wide suite configuration file, with forward slashes: a fixed place below "C:/ProgramData"
-    /// on Windows that does not ask the system, below the first folder of `XDG_CONFIG_DIRS` elsewhere.
-    /// Cached.
+    /// The machine-wide suite configuration file, with forward slashes. It lies below the fixed folder
+    /// "C:/ProgramData" on Windows, and below the first folder of `XDG_CONFIG_DIRS` on Unix. Cached.
     static const QString& getOstraGlobalConfigFileLocation();
 
-    /// "Resources/BlurShapes.lua" beside the program. Cached; the file is not looked for, the path is logged
+    /// "Resources/BlurShapes.lua" beside the program. Cached. The file need not exist; the path is logged
     /// once.
     static QString miniatureBlurShapesPath();
     /// "Resources/Frames.lua" beside the program, like miniatureBlurShapesPath().
@@ -84,7 +81,7 @@ public:
     static QString defectsPackPath();
 
     /// "Modules" of the newest installed sibling photo processor: version 11, then 10, then 9 (whose product
-    /// name is written in two words). Empty when none of these folders can be read.
+    /// name is written in two words). Empty if none of these folders can be read.
     static QString cafDataPathOfBrightLabLatestVersion();
     /// "Modules" of the second sibling product, whether it is installed or not.
     static QString cafDataPathOfVantora2();

@@ -15,7 +15,7 @@ namespace TOLVAN_NAMESPACE
 class CSettings;
 }
 
-/// A throw-away settings file, for a run that must not read or change the user's own preferences.
+/// A temporary settings file, for a run that must not read or change the user's own preferences.
 ///
 /// The object makes a private temporary folder, seeds `TrelioFrame.ini` in it from
 /// "DefaultTemporarySettings.ini" beside the given program, and offers the usual settings operations on that
@@ -28,32 +28,30 @@ class CSettings;
 /// \endcode
 ///
 /// \par Ownership
-/// The start-up code of the host owns the object and deletes it at the end of the run. When it dies nothing
-/// of its folder is left, also when writes were pending.
+/// The start-up code of the host owns the object and deletes it at the end of the run. The destructor removes
+/// the folder, also if writes were pending.
 /// \par Failures
-/// Without a seed file the settings start empty. Without a usable temporary folder the failure is logged as a
-/// failed assertion, the object is built all the same and writes are lost in silence, like all write errors
-/// of the file.
+/// Without a seed file the settings start empty. Without a usable temporary folder an assertion report is
+/// logged and the object is constructed; its writes are lost. No function reports a write error.
 /// \par Threads
-/// Made for the main thread of the host; nothing is locked.
+/// Use it on the main thread of the host; nothing is locked.
 class UTILSDLL_EXPORT CTemporarySettings : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \param programPath a file (the running program or module) in whose folder the seed file lies, in the
-    /// system's
-    ///        8-bit encoding for file names; null stands for no seed file
+    /// \param programPath the running program or module, whose folder holds the seed file, in the system's
+    ///        8-bit encoding for file names; null for no seed file
     explicit CTemporarySettings(const char* programPath);
     ~CTemporarySettings() override;
 
-    /// The path set with setSharedSettingsPath(), or else the file of the object that was constructed last in
-    /// this process (native separators), which need not be this object's own.
+    /// The path set with setSharedSettingsPath(); if there is none, the file of the object that was
+    /// constructed last in this process, which need not be this object's own. Native separators.
     const QString& tempSettingsPath() const;
-    /// Changes what tempSettingsPath() reports. This object keeps working on its own file.
+    /// Changes what tempSettingsPath() returns. This object keeps working on its own file.
     void setSharedSettingsPath(const QString& path);
 
-    /// Value of \a key, or \a defaultValue when it is not there.
+    /// Value of \a key, or \a defaultValue if there is none.
     QVariant value(const QString& key, const QVariant& defaultValue = QVariant()) const;
     /// Whether \a key is there.
     bool contains(const QString& key) const;
@@ -65,14 +63,14 @@ public:
     void endArray();
     /// Chooses the array entry that the next operations work on.
     void setArrayIndex(int i);
-    /// Writes pending changes to the file and reads changes that others made.
+    /// Writes pending changes to the file and reads the changes of other programs.
     void sync();
 
     /// Sets \a key; the file on disk has the value when the call returns.
     void setValue(const QString& key, const QVariant& value);
-    /// Removes \a key and all below it; the file on disk follows at once.
+    /// Removes \a key and every key below it; the file on disk follows before the call returns.
     void remove(const QString& key);
-    /// Removes everything; the file on disk follows at once.
+    /// Removes every key; the file on disk follows before the call returns.
     void clear();
 
 private:

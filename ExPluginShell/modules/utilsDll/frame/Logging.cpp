@@ -4,9 +4,7 @@
 
 #include <charconv>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Logging
+namespace TOLVAN_NAMESPACE::Logging
 {
 
 std::atomic<ILoggerInterface*> processLogger{nullptr};
@@ -71,5 +69,4 @@ void reportAssertionX(const char* function, const char* unit, int line, const ch
     qDebug() << text.c_str() << message;
 }
 
-} // namespace Logging
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Logging

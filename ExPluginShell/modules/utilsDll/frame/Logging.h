@@ -18,15 +18,13 @@
 /// \endcode
 ///
 /// The function name is a text that other programs match on, so callers write it out. With no logger the
-/// statement costs one load and one branch: the pieces behind it are not even evaluated.
+/// statement costs one load and one branch; the pieces behind it are not evaluated.
 #define UTILSDLL_LOG(level, function)                                                                        \
     if (ILoggerInterface* const utilsDllLogger = TOLVAN_NAMESPACE::Logging::logger(); !utilsDllLogger) {     \
     } else                                                                                                   \
         TOLVAN_NAMESPACE::Logging::Line(*utilsDllLogger, level, function)
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Logging
+namespace TOLVAN_NAMESPACE::Logging
 {
 
 /// The process-wide logger; null until one is set, then the same until the process ends.
@@ -77,11 +75,10 @@ private:
 /// Reports a failed assertion and returns; the caller then takes its fallback. Logs "ASSERT in " + path + ":"
 /// + line at level "E" and writes the same text to the Qt debug stream.
 /// \param function qualified name of the reporting function
-/// \param unit name of the source unit, e.g. "SharedUtils"; its path is written with backslashes everywhere
+/// \param unit name of the source unit, e.g. "SharedUtils"; its path is written with backslashes on every system
 void reportAssertion(const char* function, const char* unit, int line);
 
 /// Like reportAssertion(), with a message: "ASSERT_X in " + path + " line " + line + ":" + message.
 void reportAssertionX(const char* function, const char* unit, int line, const char* message);
 
-} // namespace Logging
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Logging

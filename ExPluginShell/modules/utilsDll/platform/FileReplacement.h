@@ -14,13 +14,14 @@ namespace TOLVAN_NAMESPACE::Platform
 ///
 /// The content goes to a temporary file beside the target. commit() flushes it, checks every result and moves
 /// it over the target, so that a reader, a crash, a full disk or a size limit leaves the old content or the
-/// new. The new file gets the owner, the group, the mode and the access list of the old one.
+/// new one. The new file gets the owner, the group, the mode and the access list of the old one.
 ///
 /// The target is overwritten in place where it can't be replaced: the folder refuses a new file, a sticky
 /// folder or a lock protects the old one, or its owner can't be kept. The disk space is reserved first, so
 /// that a full disk leaves the old content then too; only a crash can leave a mixture.
 ///
-/// A link is followed; the file that it leads to is replaced. The position may be changed with seek().
+/// A link is followed: the file that it leads to is replaced. The position can be changed with seek().
+///
 /// \code
 /// FileReplacement file(path);
 /// const bool done = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();

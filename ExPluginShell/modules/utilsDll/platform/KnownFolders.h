@@ -2,12 +2,10 @@
 
 #include <QString>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
-/// Folders that the system hands out, in the product's words.
+/// Folders that the system assigns.
 enum class KnownFolder {
     LocalAppData,   ///< the user's data that stays on this machine
     ProgramData,    ///< data shared by all users of the machine
@@ -15,12 +13,11 @@ enum class KnownFolder {
 };
 
 /// Path of a known folder, in the system's own form, without a separator at its end.
-/// \return empty when the system does not tell
+/// \return empty if the system reports no such folder
 QString knownFolder(KnownFolder folder);
 
-/// Base folder of the machine-wide suite configuration file, with forward slashes. On Windows a fixed text
-/// that does not ask the system; elsewhere the first folder of XDG_CONFIG_DIRS.
+/// Base folder of the machine-wide suite configuration file, with forward slashes. On Windows it is a fixed
+/// text that does not ask the system; on Unix it is the first folder of XDG_CONFIG_DIRS.
 QString machineWideConfigBase();
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

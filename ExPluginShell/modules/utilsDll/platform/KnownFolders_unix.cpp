@@ -3,9 +3,7 @@
 #include <QDir>
 #include <QStandardPaths>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -44,5 +42,4 @@ QString machineWideConfigBase()
     return firstSearchFolder("XDG_CONFIG_DIRS", "/etc/xdg");
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -7,9 +7,7 @@
 
 #include <memory>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -52,5 +50,4 @@ QString machineWideConfigBase()
     return QStringLiteral("C:/ProgramData");
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <QString>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// Full path of a module that this process has loaded.
@@ -12,9 +10,8 @@ namespace Platform
 /// \return empty when no such module is loaded
 QString loadedModulePath(const QString& baseName);
 
-/// Folder that this library was loaded from, without a separator at its end; empty when the system does not
-/// tell.
+/// Folder that this library was loaded from, without a separator at its end; empty if the system does not
+/// report it.
 QString ownLibraryFolder();
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -6,9 +6,7 @@
 #include <dlfcn.h>
 #include <link.h>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -50,5 +48,4 @@ QString ownLibraryFolder()
     return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

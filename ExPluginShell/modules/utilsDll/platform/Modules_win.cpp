@@ -6,9 +6,7 @@
 
 #include <vector>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -40,5 +38,4 @@ QString ownLibraryFolder()
     return QFileInfo(fileNameOf(module)).absolutePath();
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

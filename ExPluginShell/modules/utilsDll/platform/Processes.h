@@ -4,9 +4,7 @@
 
 #include <optional>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 /// The two words of a version resource's file version.
@@ -15,7 +13,7 @@ struct FileVersionWords {
     quint32 leastSignificant = 0;
 };
 
-/// Base file name of the running executable, extension included; empty when the system does not tell.
+/// Base file name of the running executable, extension included; empty if the system does not report it.
 QString currentProcessName();
 
 /// File version of the executable of the first running process of that base name (compared without case).
@@ -23,5 +21,4 @@ QString currentProcessName();
 ///         executables have no version resource
 std::optional<FileVersionWords> fileVersionOfProcess(const QString& processName);
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -2,9 +2,7 @@
 
 #include <QFileInfo>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 QString currentProcessName()
@@ -17,5 +15,4 @@ std::optional<FileVersionWords> fileVersionOfProcess(const QString&)
     return std::nullopt; // an ELF executable carries no version resource
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -6,9 +6,7 @@
 
 #include <memory>
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 namespace
@@ -99,5 +97,4 @@ std::optional<FileVersionWords> fileVersionOfProcess(const QString& processName)
     return module ? readVersion(module) : std::nullopt;
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -1,8 +1,6 @@
 #include "platform/UserStore.h"
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 std::unique_ptr<QSettings> companyStore()
@@ -10,5 +8,4 @@ std::unique_ptr<QSettings> companyStore()
     return std::make_unique<QSettings>(QStringLiteral("Tolvan"));
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -1,8 +1,6 @@
 #include "platform/UserStore.h"
 
-namespace TOLVAN_NAMESPACE
-{
-namespace Platform
+namespace TOLVAN_NAMESPACE::Platform
 {
 
 std::unique_ptr<QSettings> companyStore()
@@ -11,5 +9,4 @@ std::unique_ptr<QSettings> companyStore()
                                        QSettings::NativeFormat);
 }
 
-} // namespace Platform
-} // namespace TOLVAN_NAMESPACE
+} // namespace TOLVAN_NAMESPACE::Platform

@@ -30,8 +30,8 @@ const QString connectorModule = QStringLiteral("PhotoshopPlugin-connectorTrelioF
 const QString yes = QStringLiteral("1");
 const QString no = QStringLiteral("0");
 
-/// Whatever is not exactly "0" means yes.
-bool isNotNo(const QString& key, const QVariant& defaultValue)
+/// \return false only if the stored text is exactly "0"
+bool readSwitch(const QString& key, const QVariant& defaultValue)
 {
     return CSettings().value(key, defaultValue).toString() != no;
 }
@@ -116,7 +116,7 @@ void setLogLevel(const QString& level)
 
 bool isLoggerEnabled()
 {
-    return isNotNo(loggerEnabledKey, yes);
+    return readSwitch(loggerEnabledKey, yes);
 }
 
 void setLoggerEnabled(bool enabled)
@@ -127,7 +127,7 @@ void setLoggerEnabled(bool enabled)
 bool useActionSave()
 {
     // The boolean default reads as the text "false", which is not "0": a missing value means yes.
-    return isNotNo(actionSaveKey, false);
+    return readSwitch(actionSaveKey, false);
 }
 
 bool isStatisticSent()
@@ -144,7 +144,7 @@ void setStatisticSent(bool allowed)
 
 bool crashReportSendingAllowed()
 {
-    return isNotNo(crashReportKey, yes);
+    return readSwitch(crashReportKey, yes);
 }
 
 void allowCrashReportSending(bool allowed)

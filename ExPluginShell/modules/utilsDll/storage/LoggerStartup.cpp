@@ -25,13 +25,12 @@ using LoggerInstance = ILoggerInterface* (*)();
 
 ILoggerInterface* loggerFrom(const QString& fileName)
 {
-    // The library object dies here; the library itself stays loaded.
+    // The static function keeps the library loaded.
     const auto instance = reinterpret_cast<LoggerInstance>(QLibrary::resolve(fileName, "loggerInstance"));
     return instance ? instance() : nullptr;
 }
 
-/// Where the logger library lies: a full path where it is found beside this library or the program, else its
-/// name.
+/// Path of the logger library beside this library or the program; its plain name if it is in neither folder.
 QString loggerLibraryPath()
 {
     const QString folders[] = {Platform::ownLibraryFolder(), QCoreApplication::instance()
@@ -43,8 +42,7 @@ QString loggerLibraryPath()
             return path;
         }
     }
-    // Qt remembers the names of loaded libraries for longer than this library's literals may live: a copy of
-    // its own.
+    // A deep copy: Qt remembers the names of loaded libraries, and may outlive this library's literals.
     return QString(loggerLibrary.constData(), loggerLibrary.size());
 }
 

@@ -18,8 +18,7 @@ const QString family = QStringLiteral("Ostra Collection");
 const QString languageKey = QStringLiteral("currentLanguage");
 constexpr int familyEnglish = 2;
 
-/// Path of the temporary file set last: the object itself can't be asked any more while it is being
-/// destroyed.
+/// Path of the temporary file set last. It is kept because the object can't be asked while it is destroyed.
 QString& temporaryPath()
 {
     static QString path;
@@ -153,8 +152,7 @@ QString CSettings::localKey(const QString& key) const
 
 void CSettings::setTemporarySettings(CTemporarySettings& settings)
 {
-    // A reference may be assumed never to be null, and a test for it removed. What is read back from a
-    // volatile pointer can't be assumed to be anything.
+    // The compiler may remove a test of a reference for null; it can't remove one of a volatile pointer.
     CTemporarySettings* const volatile address = &settings;
     switchTemporarySettings(address);
 }

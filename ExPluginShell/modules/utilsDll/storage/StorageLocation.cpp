@@ -20,13 +20,17 @@ const QString productFolder = QStringLiteral("Trelio Frame");
 const QString modulesFolder = QStringLiteral("Modules");
 const QString suiteConfigFile = QStringLiteral("/Tolvan/Ostra Collection/OstraCollection.cfg");
 
+// Locations in the two assertion reports, which are fixed texts.
+constexpr int emptyFileNameLine = 70;
+constexpr int emptyDescriptionLine = 73;
+
 QString& preferencesFilePath()
 {
     static QString path;
     return path;
 }
 
-/// Known folder / company folder / name; empty when the system does not tell the folder.
+/// Known folder / company folder / name; empty if the system reports no such folder.
 QString companyPath(Platform::KnownFolder folder, const QString& name)
 {
     const QString base = Platform::knownFolder(folder);
@@ -43,7 +47,8 @@ QString nativeAbsolute(const QString& path)
     return path.isEmpty() ? QString() : QDir::toNativeSeparators(QDir(path).absolutePath());
 }
 
-const QString& created(const QString& folder)
+/// Creates the folder with all missing parents if it does not exist. \return \a folder
+const QString& ensureFolder(const QString& folder)
 {
     if (!folder.isEmpty() && !QDir(folder).exists()) {
         QDir().mkpath(folder);
@@ -56,7 +61,7 @@ QString inCurrentData(const QString& name)
     return asFolder(CStorageLocation::currentDataLocation() + name);
 }
 
-/// "Modules" of a sibling product, or empty when its place is not known.
+/// "Modules" of a sibling product; empty if its folder is unknown.
 QString modulesOf(const QString& product)
 {
     const QString data = CStorageLocation::appDataLocation(product);
@@ -67,10 +72,10 @@ QString luaResourcePath(const QString& fileName, const QString& description)
 {
     const char* const function = "`anonymous-namespace'::luaResourcePath";
     if (fileName.isEmpty()) {
-        Logging::reportAssertion(function, "StorageLocation", __LINE__);
+        Logging::reportAssertion(function, "StorageLocation", emptyFileNameLine);
     }
     if (description.isEmpty()) {
-        Logging::reportAssertion(function, "StorageLocation", __LINE__);
+        Logging::reportAssertion(function, "StorageLocation", emptyDescriptionLine);
     }
     const QString path = QDir::toNativeSeparators(QDir::cleanPath(
         asFolder(asFolder(QCoreApplication::applicationDirPath()) + QStringLiteral("Resources")) + fileName));
@@ -88,56 +93,56 @@ QString CStorageLocation::appDataLocation(const QString& name)
 
 QString CStorageLocation::currentDataLocation()
 {
-    return created(appDataLocation(productFolder));
+    return ensureFolder(appDataLocation(productFolder));
 }
 
 QString CStorageLocation::diskCacheLocation()
 {
     static const QString path = inCurrentData(QStringLiteral("DiskCache"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::cachedTokenFilePath()
 {
     static const QString path = inCurrentData(QStringLiteral("Facebook"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::packUserStoragePath()
 {
     static const QString path = inCurrentData(QStringLiteral("PresetPack"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::favoritePresetPath()
 {
     static const QString path = inCurrentData(QStringLiteral("Favorite"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::cafDataPath()
 {
     static const QString path = inCurrentData(modulesFolder);
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::crashFilesPath()
 {
     static const QString path = inCurrentData(QStringLiteral("CrashReports"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::crashTempFilesPath()
 {
     static const QString path = asFolder(crashFilesPath() + QStringLiteral("temp"));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::loggerFilesPath()
 {
     static const QString path = asFolder(QDir::toNativeSeparators(
         companyPath(Platform::KnownFolder::LocalAppData, asFolder(productFolder) + QStringLiteral("Logs"))));
-    return created(path);
+    return ensureFolder(path);
 }
 
 QString CStorageLocation::getSamplePicturesLocation()

@@ -10,7 +10,7 @@
 
 #include <stdexcept>
 
-// The suite configuration file: the part of CSettings that all products of the family share.
+// The part of CSettings that reads and writes the suite configuration file of the product family.
 
 namespace TOLVAN_NAMESPACE
 {
@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int indentation = 4;
-constexpr int deepestNesting = 1000; // the file needs three levels; a tree is walked by recursion
+constexpr int deepestNesting = 1000; // the file has three levels; QDomDocument recurses
 
 const QString groupTag = QStringLiteral("group");
 const QString keyTag = QStringLiteral("key");
@@ -41,16 +41,15 @@ QDomDocument parsed(const QString& xml)
     return document;
 }
 
-/// Runs \a operation and logs what it throws. \return whether it went through
-template <class Operation>
-bool guarded(const char* function, const Operation& operation)
+/// Result of \a operation; \a fallback if it throws, which is logged.
+template <class Result, class Operation>
+Result resultOf(const char* function, const Result& fallback, const Operation& operation)
 {
     try {
-        operation();
-        return true;
+        return operation();
     } catch (const std::exception& error) {
         UTILSDLL_LOG(LogLevel::Error, function) << error.what();
-        return false;
+        return fallback;
     }
 }
 
@@ -59,39 +58,37 @@ bool guarded(const char* function, const Operation& operation)
 QString CSettings::getSettingFromOstraUserConfigFile(const QString& group, const QString& key,
                                                      const QString& defaultValue)
 {
-    QString value = defaultValue;
-    guarded("TOLVAN_NAMESPACE::CSettings::getSettingFromOstraUserConfigFile", [&] {
-        value = getSettingFromConfigFile(CStorageLocation::getOstraUserConfigFileLocation(), group, key,
-                                         defaultValue);
+    return resultOf("TOLVAN_NAMESPACE::CSettings::getSettingFromOstraUserConfigFile", defaultValue, [&] {
+        return getSettingFromConfigFile(CStorageLocation::getOstraUserConfigFileLocation(), group, key,
+                                        defaultValue);
     });
-    return value;
 }
 
 QString CSettings::getSettingFromOstraGlobalConfigFile(const QString& group, const QString& key,
                                                        const QString& defaultValue)
 {
-    QString value = defaultValue;
-    guarded("TOLVAN_NAMESPACE::CSettings::getSettingFromOstraGlobalConfigFile", [&] {
-        value = getSettingFromConfigFile(CStorageLocation::getOstraGlobalConfigFileLocation(), group, key,
-                                         defaultValue);
+    return resultOf("TOLVAN_NAMESPACE::CSettings::getSettingFromOstraGlobalConfigFile", defaultValue, [&] {
+        return getSettingFromConfigFile(CStorageLocation::getOstraGlobalConfigFileLocation(), group, key,
+                                        defaultValue);
     });
-    return value;
 }
 
 bool CSettings::writeSettingToOstraUserConfigFile(const QString& group, const QString& key,
                                                   const QString& value, const QString& type)
 {
-    return guarded("TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile", [&] {
+    return resultOf("TOLVAN_NAMESPACE::CSettings::writeSettingToOstraUserConfigFile", false, [&] {
         writeSettingToConfigFile(CStorageLocation::getOstraUserConfigFileLocation(), group, key, value, type);
+        return true;
     });
 }
 
 bool CSettings::writeSettingToOstraGlobalConfigFile(const QString& group, const QString& key,
                                                     const QString& value, const QString& type)
 {
-    return guarded("TOLVAN_NAMESPACE::CSettings::writeSettingToOstraGlobalConfigFile", [&] {
+    return resultOf("TOLVAN_NAMESPACE::CSettings::writeSettingToOstraGlobalConfigFile", false, [&] {
         writeSettingToConfigFile(CStorageLocation::getOstraGlobalConfigFileLocation(), group, key, value,
                                  type);
+        return true;
     });
 }
 
@@ -99,7 +96,7 @@ QString CSettings::getSettingFromConfigFile(const QString& path, const QString& 
                                             const QString& defaultValue)
 {
     QFile file(path);
-    // Opened before it is looked for: a file that is being replaced may seem not to exist for a moment.
+    // Opened before its existence is checked: a file that is being replaced may seem absent for a moment.
     if (!Platform::openSharedFile(file, QIODevice::ReadOnly | QIODevice::Text)) {
         if (file.exists()) {
             throw failure("Fail to open the Ostra Collection configuration file: ", path);
@@ -143,7 +140,7 @@ void CSettings::writeSettingToConfigFile(const QString& path, const QString& gro
                                          const QString& value, const QString& type)
 {
     const auto replace = [&path](const QString& xml, const char* message) {
-        // A character that XML can't hold would make the file unreadable for all products of the family.
+        // A character that XML can't hold would make the file unreadable for every product of the family.
         parsed(xml);
         if (!Platform::replaceSharedFile(path, xml.toUtf8())) {
             throw failure(message, path);
@@ -171,7 +168,7 @@ void CSettings::writeSettingToOstraCollectionXML(const QString& group, const QSt
     QDomDocument document = parsed(xml);
     QDomElement match = searchKeyInXML(document, group, key);
     if (match.isNull()) {
-        // Always a group of its own, also beside one of the same name: readers search all of them.
+        // A group of its own, also beside one of the same name: readers search all groups of a name.
         document.documentElement().appendChild(createOstraCollectionGroup(group, key, value, type));
     } else {
         match.setAttribute(valueAttribute, value);
