@@ -13,6 +13,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
     target_compile_options(project_options INTERFACE -fno-gnu-unique)
 endif()
 
+include(Hardening)
+
+# File names in assertions, debug information and generated sources do not depend on where the tree lies.
+target_compile_options(project_options INTERFACE
+    "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+if(UTILSDLL_SYMBOLS)
+    target_compile_options(project_options INTERFACE -g)
+endif()
+
 if(UTILSDLL_SANITIZE)
     target_compile_options(project_options INTERFACE
         -fsanitize=${UTILSDLL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
