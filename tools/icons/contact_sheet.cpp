@@ -103,18 +103,20 @@ class Image
 public:
     explicit Image(const QString& file)
     {
-        if (file.endsWith(QLatin1String(".svg")))
+        if (file.endsWith(QLatin1String(".svg"))) {
             m_drawing.load(file);
-        else
+        } else {
             m_picture.load(file);
+        }
     }
 
     QSize size() const { return m_drawing.isValid() ? m_drawing.defaultSize() : m_picture.size(); }
 
     QImage at(const QSize& size)
     {
-        if (!m_drawing.isValid())
+        if (!m_drawing.isValid()) {
             return m_picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        }
         QImage image(size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
@@ -131,12 +133,15 @@ private:
 // A long name breaks after an underscore, near its middle.
 QString inTwoLines(const QString& name)
 {
-    if (name.size() <= 20)
+    if (name.size() <= 20) {
         return name;
+    }
     int best = -1;
-    for (int at = name.indexOf(QLatin1Char('_')); at >= 0; at = name.indexOf(QLatin1Char('_'), at + 1))
-        if (best < 0 || qAbs(at - name.size() / 2) < qAbs(best - name.size() / 2))
+    for (int at = name.indexOf(QLatin1Char('_')); at >= 0; at = name.indexOf(QLatin1Char('_'), at + 1)) {
+        if (best < 0 || qAbs(at - name.size() / 2) < qAbs(best - name.size() / 2)) {
             best = at;
+        }
+    }
     return best < 0 ? name : name.left(best + 1) + QLatin1Char('\n') + name.mid(best + 1);
 }
 
@@ -153,20 +158,23 @@ bool drawCell(QPainter& painter, const QString& file, const QRect& cell, const C
 {
     Image image(file);
     const QSize real = image.size();
-    if (real.isEmpty())
+    if (real.isEmpty()) {
         return false;
+    }
     const QImage exact = image.at(real);
     const QRect area(cell.left() + 4, cell.top() + 2, cell.width() - 8, enlarged);
     QSize zoomed = real.scaled(enlarged, enlarged, Qt::KeepAspectRatio);
     const bool beside = real.width() + zoomed.width() + 8 <= area.width();
-    if (beside)
+    if (beside) {
         painter.drawImage(area.left(), area.center().y() - real.height() / 2, exact);
-    else
+    } else {
         zoomed = real.scaled(area.size(), Qt::KeepAspectRatio);
+    }
     QRect target(QPoint(0, 0), zoomed);
     target.moveCenter(area.center());
-    if (beside)
+    if (beside) {
         target.moveRight(area.right() - 6);
+    }
     painter.setPen(colour(colours, "line"));
     painter.setBrush(liesOnPictures(file) ? colour(colours, "glyph") : Qt::transparent);
     painter.drawRect(target.adjusted(-1, -1, 0, 0));
@@ -205,9 +213,11 @@ bool drawPage(const std::vector<Placed>& blocks, int page, const QDir& root, con
               bool pixels, const QString& out)
 {
     int bottom = 0;
-    for (const Placed& block : blocks)
-        if (block.page == page)
+    for (const Placed& block : blocks) {
+        if (block.page == page) {
             bottom = qMax(bottom, block.position.y() + block.block.height());
+        }
+    }
     QImage image(2 * margin + columns * cellWidth, bottom + margin, QImage::Format_RGB32);
     image.fill(colour(colours, "ground"));
     QPainter painter(&image);
@@ -215,9 +225,11 @@ bool drawPage(const std::vector<Placed>& blocks, int page, const QDir& root, con
     font.setPixelSize(10);
     painter.setFont(font);
     bool good = true;
-    for (const Placed& block : blocks)
-        if (block.page == page)
+    for (const Placed& block : blocks) {
+        if (block.page == page) {
             good = drawBlock(painter, block, root, colours, pixels) && good;
+        }
+    }
     painter.end();
     return image.save(out, "PNG", 0) && good; // 0: smallest file
 }
@@ -226,8 +238,9 @@ bool drawPage(const std::vector<Placed>& blocks, int page, const QDir& root, con
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 4) {
