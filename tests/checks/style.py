@@ -63,7 +63,8 @@ def cpp_faults(name, text):
             yield match.start(), "documentation tags are written \\tag"
     for match in re.finditer(r"^[ \t]*/\*\*", text, re.M):
         yield match.start(), "documentation is written as ///"
-    for match in re.finditer(r"^([ \t]*///?) (?!\\code)[^\n]*[^\n.:]\n\1 (?![\\-])\S+(?: \S+)?\n(?=\1 [a-z])", prose, re.M):
+    prose = re.sub(r"\\code(?:.|\n)*?\\endcode", lambda match: re.sub(r"[^\n]", "x", match.group()), text)
+    for match in re.finditer(r"^([ \t]*///?) [^\n]*[^\n.:]\n\1 (?![\\-])\S+(?: \S+)?\n(?=\1 [a-z])", prose, re.M):
         yield match.start(), "the second line of this comment holds one or two words"
 
 
