@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utilsDll/soap/qtsoap.h>
+#include <QtSoapStruct> // brings all classes, as clients expect
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -3,8 +3,9 @@
 /// \file qtsoap.h
 /// \brief The SOAP 1.1 client classes, under the header name that web-service clients include.
 ///
-/// Messages and values on Qt Xml, the HTTP transport on Qt Network. All classes are in `TOLVAN_NAMESPACE`.
-/// Each class has a header of its own as well, named after it (`<QtSoapMessage>`).
+/// Messages and values stand on Qt Xml, the HTTP transport on Qt Network. All classes are in `TOLVAN_NAMESPACE`.
+/// Each forwarding header (`<QtSoapMessage>` and so on) brings all classes as well. The target
+/// `Tolvan::UtilsDllTrelioFrame` has this folder in its include path.
 
 #include "qtsoaparray.h"
 #include "qtsoaparrayiterator.h"
@@ -21,7 +22,6 @@
 #include "qtsoapuris.h"
 
 #include <QHash>
-#include <QLinkedList>
 #include <QNetworkAccessManager>
 #include <QPointer>
 #include <QString>

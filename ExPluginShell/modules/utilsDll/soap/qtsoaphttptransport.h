@@ -89,8 +89,15 @@ Q_SIGNALS:
     /// An answer is there: see getResponse().
     void responseReady();
 
-    /// An answer is there; sent right behind the form without argument. For queued connections the client
-    /// declares the type, with `Q_DECLARE_METATYPE(QtSoapMessage)`, and registers it under that name.
+    /// An answer is there; sent right behind the form without argument.
+    ///
+    /// In string-based connections the type is written without its namespace, as it is declared here:
+    /// `SIGNAL(responseReady(const QtSoapMessage&))` and `SLOT(show(const QtSoapMessage&))`. Qt compares the
+    /// texts, so a slot declared with `TOLVAN_NAMESPACE::QtSoapMessage` does not connect that way: declare it
+    /// below `using namespace TOLVAN_NAMESPACE;`, or connect with pointers to members.
+    ///
+    /// For queued connections the client declares the type, with `Q_DECLARE_METATYPE(QtSoapMessage)`, and
+    /// registers it under that name.
     void responseReady(const QtSoapMessage& response);
 
 private Q_SLOTS:
