@@ -139,6 +139,14 @@ void SoapTextSink::tree(const QDomElement& element)
     element.save(stream, -1);
 }
 
+QDomDocument SoapTextSink::document()
+{
+    if (m_document.isNull()) { // its copies share nothing, and elements made by them die early
+        m_document.createElement(QStringLiteral("first"));
+    }
+    return m_document;
+}
+
 void SoapDomSink::open(const QString& name, const QString& uri)
 {
     QDomElement element;

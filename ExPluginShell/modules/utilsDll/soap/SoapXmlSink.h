@@ -52,7 +52,7 @@ public:
     void text(const QString& text) override;
     void close() override;
     void tree(const QDomElement& element) override;
-    QDomDocument document() override { return m_document; }
+    QDomDocument document() override;
 
     /// Declares \a prefix on the element just begun, for all it holds.
     void declare(QLatin1String prefix, QLatin1String uri);

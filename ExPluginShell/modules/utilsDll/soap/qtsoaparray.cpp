@@ -168,29 +168,36 @@ bool QtSoapArray::hasGaps() const
     return capacity() < 0 ? lastIndex != array.size() - 1 : array.size() != capacity();
 }
 
-/// Takes the item of a caller, or refuses it.
 void QtSoapArray::place(int position, QtSoapType* item)
 {
     const QtSmartPtr<QtSoapType> owned(item);
     const qint64 size = capacity();
+    errorStr.clear();
     if (!item) {
         errorStr = QStringLiteral("An array cannot take a null item");
     } else if (position < 0 || (size >= 0 && position >= size)) {
         errorStr = QStringLiteral("The array \"%1\" has no such position").arg(n.name());
-    } else if (!m_mixed && m_itemType != Other && item->type() != m_itemType) {
-        errorStr = QStringLiteral("The array \"%1\" holds items of type %2, not %3")
-                       .arg(n.name(), typeToName(m_itemType), item->typeName());
-    } else {
-        errorStr.clear();
     }
     if (!errorStr.isEmpty()) {
         SoapText::warn(errorStr);
         return;
     }
-    if (!m_mixed && m_itemType == Other) {
-        m_itemType = item->type();
-    }
+    adopt(*item);
     store(position, owned);
+}
+
+/// Fits the item type to another item; a nil item fits every type.
+void QtSoapArray::adopt(const QtSoapType& item)
+{
+    const bool nil =
+        item.isValid() && item.type() != Array && item.type() != Struct && !item.value().isValid();
+    if (nil || m_mixed) {
+        return;
+    }
+    if (m_itemType == Other) {
+        m_itemType = item.type();
+    }
+    m_mixed = m_itemType == Other || item.type() != m_itemType;
 }
 
 void QtSoapArray::store(int position, const QtSmartPtr<QtSoapType>& item)
@@ -213,7 +220,8 @@ QString QtSoapArray::arraySizeString() const
 
 QString QtSoapArray::arrayTypeString() const
 {
-    return QLatin1String("xsd:") + (m_itemType < Array ? typeToName(m_itemType) : QStringLiteral("anyType"));
+    return QLatin1String("xsd:") +
+           (!m_mixed && m_itemType < Array ? typeToName(m_itemType) : QStringLiteral("anyType"));
 }
 
 QDomElement QtSoapArray::toDomElement(QDomDocument doc) const

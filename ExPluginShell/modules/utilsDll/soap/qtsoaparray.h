@@ -8,13 +8,14 @@
 namespace TOLVAN_NAMESPACE
 {
 
-/// \brief Items of one type at the positions of 1 to 5 dimensions; positions may be left empty.
+/// \brief Items at the positions of 1 to 5 dimensions; positions may be left empty.
 ///
-/// Next to its coordinates every item has an absolute position, row-major: the last coordinate runs fastest,
-/// and a 3x2 array holds row 0 at 0 and 1. Memory is used for items present, not for the size claimed. All
-/// items have one type: that given to the constructor, or else that of the first item. An item that does not
-/// fit (another type, outside the size) is refused: it is deleted, errorString() says why and a warning is
-/// written. Only an array read from a message that declares its items to be of any type may mix them.
+/// Beside its coordinates every item has an absolute position, row-major: the last coordinate runs fastest, and
+/// a 3x2 array holds row 0 at 0 and 1. Memory is used for the items present, not for the size claimed.
+///
+/// The type of the items is that given to the constructor, or else that of the first item. Items of another type
+/// are kept, nil ones and structs among them; an array that holds some is written as one of `xsd:anyType`. An
+/// item outside the size is refused: it is deleted, errorString() returns the reason and a warning is written.
 class UTILSDLL_EXPORT QtSoapArray : public QtSoapType
 {
 public:
@@ -111,13 +112,14 @@ private:
     QVector<int> positions() const; ///< ascending
     bool hasGaps() const;
     void place(int position, QtSoapType* item);
+    void adopt(const QtSoapType& item);
     void store(int position, const QtSmartPtr<QtSoapType>& item);
     const QtSoapType* named(const QtSoapQName& name) const;
     qint64 capacity() const; ///< number of positions; -1 when the first dimension grows
 
     QVector<int> m_sizes{-1}; ///< one per dimension; only the first may be -1: it grows
     Type m_itemType = Other;
-    bool m_mixed = false; ///< read as an array of any type
+    bool m_mixed = false; ///< written as an array of any type
 };
 
 } // namespace TOLVAN_NAMESPACE

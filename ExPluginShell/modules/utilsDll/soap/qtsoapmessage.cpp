@@ -223,12 +223,12 @@ void QtSoapMessage::setFaultCode(FaultCode code)
     auto* const entry = new QtSoapSimpleType(QtSoapQName(QStringLiteral("faultcode")));
     const bool known = code >= VersionMismatch && code < Other;
     entry->v = known ? QLatin1String("SOAP-ENV:") + QLatin1String(faultCodes[code]) : QStringLiteral("Other");
-    faultStruct().insert(entry);
+    faultStruct().replace(entry);
 }
 
 void QtSoapMessage::setFaultString(const QString& fstring)
 {
-    faultStruct().insert(new QtSoapSimpleType(QtSoapQName(QStringLiteral("faultstring")), fstring));
+    faultStruct().replace(new QtSoapSimpleType(QtSoapQName(QStringLiteral("faultstring")), fstring));
 }
 
 void QtSoapMessage::addFaultDetail(QtSoapType* item)

@@ -77,7 +77,7 @@ int QtSoapStruct::indexOf(const QtSoapQName& key) const
         if (!(name == key)) {
             continue;
         }
-        if (name.name() == key.name()) {
+        if (name.name() == key.name() && (key.uri().isEmpty() || name.uri() == key.uri())) {
             return k;
         }
         if (match < 0) {
@@ -131,16 +131,6 @@ const QtSoapType& QtSoapStruct::operator[](const QString& key) const
 
 void QtSoapStruct::insert(QtSoapType* item)
 {
-    if (!item) {
-        SoapText::warn(QStringLiteral("A struct cannot take a null item"));
-        return;
-    }
-    for (int k = 0; k < dict.size(); ++k) {
-        if (dict.at(k)->name() == item->name()) {
-            dict[k] = item;
-            return;
-        }
-    }
     append(item);
 }
 
@@ -149,7 +139,17 @@ void QtSoapStruct::append(QtSoapType* item)
     if (item) {
         dict.append(item);
     } else {
-        SoapText::warn(QStringLiteral("A null item is ignored"));
+        SoapText::warn(QStringLiteral("A struct cannot take a null item"));
+    }
+}
+
+void QtSoapStruct::replace(QtSoapType* item)
+{
+    const int index = indexOf(item->name());
+    if (index < 0) {
+        append(item);
+    } else {
+        dict[index] = item;
     }
 }
 

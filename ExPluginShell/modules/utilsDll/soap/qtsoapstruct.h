@@ -9,8 +9,9 @@ namespace TOLVAN_NAMESPACE
 
 /// \brief A collection of named values of any type.
 ///
-/// Children are kept in the order in which they came. A struct read from a message keeps repeated children
-/// too, as services write lists that way; use positions or the iterator to see them all.
+/// Children are kept in the order in which they were added or read, also several of one name. A lookup by name
+/// returns the first one that is spelled exactly so, else the first one that matches regardless of case.
+/// Positions and the iterator reach every child.
 class UTILSDLL_EXPORT QtSoapStruct : public QtSoapType
 {
 public:
@@ -52,9 +53,10 @@ public:
     QtSoapType& operator[](const QString& key) override;
     const QtSoapType& operator[](const QString& key) const override;
 
-    /// \brief Adds \a item, which comes from `new`, and takes ownership of it.
+    /// Appends \a item, which comes from `new`, and takes ownership of it.
     ///
-    /// The first child that matches the item's name is replaced, at its place. Null is ignored with a warning.
+    /// A child of the same name stays: services write lists as repeated children. Null is ignored with a
+    /// warning.
     void insert(QtSoapType* item);
 
     /// The element with the children in order.
@@ -72,6 +74,7 @@ private:
     /// Index of the child for \a key, -1 when there is none.
     int indexOf(const QtSoapQName& key) const;
     void append(QtSoapType* item);
+    void replace(QtSoapType* item); ///< takes the place of the child that its name finds, if any
 };
 
 } // namespace TOLVAN_NAMESPACE
