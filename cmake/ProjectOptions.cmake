@@ -15,11 +15,10 @@ endif()
 
 include(Hardening)
 
-# File names in assertions, debug information and generated sources do not depend on where the tree lies.
-target_compile_options(project_options INTERFACE
-    "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 if(UTILSDLL_SYMBOLS)
-    target_compile_options(project_options INTERFACE -g)
+    # Symbols for a release, which name no folder of the building machine.
+    target_compile_options(project_options INTERFACE -g
+        "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 endif()
 
 if(UTILSDLL_SANITIZE)
