@@ -6,10 +6,15 @@
 
 #include <utilsDll/controls/IconViewer.h>
 
+#include <QAccessible>
+#include <QClipboard>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -19,6 +24,8 @@ namespace
 {
 
 const QString text = QStringLiteral("The picture was changed. Do you want to save the changes?");
+const QString path = QStringLiteral("C:\\Users\\Anna\\Pictures\\Hochzeit_Anna_und_Paul_im_Standesamt\\"
+                                    "Bilder_der_zweiten_Kamera\\IMG_20240617_143512.CR3");
 
 /// Shows a box of this kind and lets \a act deal with it. \return what the box returns
 template <class Act>
@@ -55,10 +62,11 @@ private Q_SLOTS:
     void answers();
     void content_data() { answers_data(); }
     void content();
-    void form();
-    void hostileTexts_data();
-    void hostileTexts();
-    void rightToLeft();
+    void texts_data();
+    void texts();
+    void boxesFitTheirText();
+    void copying();
+    void assistiveTechnology();
     void nothingIsLeftBehind();
     void scriptedAnswers();
 };
@@ -95,8 +103,9 @@ void MessageBoxTest::content()
     const Kind& it = kinds().at(kind);
     const auto check = [&it](CMessageBox& box) {
         QVERIFY(box.isModal());
+        QCOMPARE(box.objectName(), QStringLiteral("CMessageBox"));
+        QCOMPARE(box.windowTitle(), QStringLiteral("Dialog"));
         QCOMPARE(box.size(), QSize(520, it.height));
-        QCOMPARE(box.minimumSize(), box.maximumSize());
         const QList<QPushButton*> buttons = buttonsOf(box);
         QCOMPARE(buttons.size(), it.buttons.size());
         for (int i = 0; i < buttons.size(); ++i) {
@@ -105,101 +114,142 @@ void MessageBoxTest::content()
             QCOMPARE(buttons.at(i)->minimumSize(), QSize(80, 36));
             QCOMPARE(buttons.at(i)->isDefault(), i == it.defaultButton);
         }
-        const auto* const label = find<QLabel>(box, "textLabel");
-        QCOMPARE(label->text(), text);
-        QVERIFY(label->wordWrap());
-        QVERIFY(label->height() >= label->heightForWidth(label->width())); // nothing cut off
+        const auto* const content = find<QVBoxLayout>(box, "contentLayout");
+        QCOMPARE(content->itemAt(0)->widget(), find<QLabel>(box, "textLabel"));
         const auto* const viewer = find<TOLVAN_NAMESPACE::CIconViewer>(box, "iconWidget");
         QCOMPARE(viewer->sizeHint(), QSize(34, 34));
         QCOMPARE(viewer->icon().pixmap(34).toImage(),
                  QIcon(QString::fromLatin1(it.icon)).pixmap(34).toImage());
 
         const bool alone = buttons.size() == 1;
-        QWidget* const row = buttons.first()->parentWidget();
-        QCOMPARE(row->layout()->spacing(), 11);
-        QCOMPARE(row->layout()->contentsMargins(), QMargins());
         const auto* const grid = find<QGridLayout>(box, "gridLayout");
-        QPoint cell;
+        QCOMPARE(grid->contentsMargins(), QMargins(28, 24, 21, 20));
+        QRect cell;
         int rows = 0;
         int columns = 0;
-        grid->getItemPosition(grid->indexOf(row), &cell.ry(), &cell.rx(), &rows, &columns);
-        QCOMPARE(QRect(cell, QSize(columns, rows)), alone ? QRect(0, 2, 2, 2) : QRect(1, 2, 1, 1));
+        int row = 0;
+        int column = 0;
+        grid->getItemPosition(grid->indexOf(buttons.first()->parentWidget()), &row, &column, &rows, &columns);
+        cell = QRect(column, row, columns, rows);
+        QCOMPARE(cell, alone ? QRect(0, 2, 2, 2) : QRect(1, 2, 1, 1));
         const int centre = buttons.first()->mapTo(&box, buttons.first()->rect().center()).x();
         QVERIFY(!alone || qAbs(centre - (28 + 520 - 21) / 2) <= 1);
     };
     answer(it, nullptr, check);
 }
 
-void MessageBoxTest::form()
-{
-    const auto check = [](CMessageBox& box) {
-        QCOMPARE(box.objectName(), QStringLiteral("CMessageBox"));
-        QCOMPARE(box.windowTitle(), QStringLiteral("Dialog"));
-        const auto* const outer = qobject_cast<QHBoxLayout*>(box.layout());
-        QCOMPARE(outer->objectName(), QStringLiteral("horizontalLayout"));
-        QCOMPARE(outer->spacing(), 0);
-        QCOMPARE(outer->contentsMargins(), QMargins());
-        const auto* const background = find<QWidget>(box, "wBackgroundWidget");
-        QCOMPARE(background->size(), box.size());
-        const auto* const grid = qobject_cast<QGridLayout*>(background->layout());
-        QCOMPARE(grid->objectName(), QStringLiteral("gridLayout"));
-        QCOMPARE(grid->horizontalSpacing(), 35);
-        QCOMPARE(grid->verticalSpacing(), 0);
-        QCOMPARE(grid->contentsMargins(), QMargins(28, 24, 21, 20));
-        const auto* const icon = find<QWidget>(box, "iconWidget");
-        QCOMPARE(grid->itemAtPosition(0, 0)->widget(), icon);
-        QCOMPARE(icon->width(), 34); // also beside a short text
-        QCOMPARE(icon->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred));
-        const QSpacerItem* const spacer = grid->itemAtPosition(1, 1)->spacerItem();
-        QCOMPARE(spacer->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding));
-        QCOMPARE(spacer->sizeHint(), QSize(20, 40));
-        const auto* const contentWidget = find<QWidget>(box, "contentWidget");
-        QCOMPARE(grid->itemAtPosition(0, 1)->widget(), contentWidget);
-        QCOMPARE(contentWidget->layout()->objectName(), QStringLiteral("verticalLayout_2"));
-        QCOMPARE(contentWidget->layout()->contentsMargins(), QMargins());
-        const auto* const content = find<QVBoxLayout>(box, "contentLayout");
-        QCOMPARE(contentWidget->layout()->itemAt(0)->layout(), content);
-        QCOMPARE(content->itemAt(0)->widget(), find<QWidget>(box, "textLabel"));
-    };
-    answer(kinds().at(0), nullptr, check, QStringLiteral("?"));
-}
-
-void MessageBoxTest::hostileTexts_data()
+void MessageBoxTest::texts_data()
 {
     QTest::addColumn<QString>("message");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("long") << QString(QStringLiteral("A word or two and ")).repeated(500);
-    QTest::newRow("one endless word") << QString(5000, QLatin1Char('x'));
-    QTest::newRow("looks like rich text") << QStringLiteral("<b>bold</b> and <unknown>");
-    QTest::newRow("a broken tag") << QStringLiteral("a < b & c <");
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("empty") << QString() << false;
+    QTest::newRow("short") << QStringLiteral("?") << false;
+    QTest::newRow("a path") << path << false;
+    QTest::newRow("a path in rich text") << QStringLiteral("<b>%1</b>").arg(path) << false;
+    QTest::newRow("long") << QString(QStringLiteral("A word or two and ")).repeated(500) << true;
+    QTest::newRow("one endless word") << QString(5000, QLatin1Char('x')) << true;
+    QTest::newRow("a broken tag") << QStringLiteral("a < b & c <") << false;
 }
 
-void MessageBoxTest::hostileTexts()
+/// Every text can be read to its end, beside its icon and above its buttons.
+void MessageBoxTest::texts()
 {
     QFETCH(QString, message);
-    const auto check = [&message](CMessageBox& box) {
-        QCOMPARE(box.size(), QSize(520, usualHeight));
-        QCOMPARE(find<QLabel>(box, "textLabel")->text(), message);
+    QFETCH(bool, scrolls);
+    const auto check = [&](CMessageBox& box) {
+        const auto* const label = find<QLabel>(box, "textLabel");
+        QCOMPARE(label->text(), message);
+        QCOMPARE(box.findChild<QScrollArea*>() != nullptr, scrolls);
+        QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
+        QCOMPARE(label->mapTo(&box, QPoint()).y() >= 24, true); // scrolled to the top
+        box.grab();
+        const auto* const document = label->findChild<QTextDocument*>();
+        QVERIFY(!document || document->idealWidth() <= label->width());
+        const auto* const icon = find<QWidget>(box, "iconWidget");
+        QCOMPARE(icon->width(), 34);
+        QVERIFY(icon->height() >= 34);
         const QPushButton* const yes = buttonsOf(box).first();
-        QVERIFY(box.rect().contains(QRect(yes->mapTo(&box, QPoint()), yes->size()))); // it can be answered
+        QVERIFY(box.rect().contains(QRect(yes->mapTo(&box, QPoint()), yes->size())));
+        const QWidget* const content = find<QWidget>(box, "contentWidget");
+        QVERIFY(content->geometry().bottom() < yes->mapTo(&box, QPoint()).y());
     };
     QCOMPARE(answer(kinds().at(3), nullptr, check, message), int(QMessageBox::No));
 }
 
-void MessageBoxTest::rightToLeft()
+void MessageBoxTest::boxesFitTheirText()
 {
-    QApplication::setLayoutDirection(Qt::RightToLeft);
-    answer(kinds().at(4), nullptr, [](CMessageBox& box) {
-        QVERIFY(find<QWidget>(box, "iconWidget")->x() > find<QWidget>(box, "contentWidget")->x());
-        QCOMPARE(buttonsOf(box).last()->objectName(), QStringLiteral("discardButton"));
+    const int screen = QGuiApplication::primaryScreen()->availableGeometry().height();
+    for (Kind kind : kinds()) {
+        if (!kind.showFitting) {
+            continue;
+        }
+        kind.show = kind.showFitting;
+        int heights[3] = {};
+        int* height = heights;
+        for (const QString& message : {text, path.repeated(5), path.repeated(60)}) {
+            const auto check = [&](CMessageBox& box) {
+                *height++ = box.height();
+                QCOMPARE(box.width(), 520);
+                QCOMPARE(box.findChild<QScrollArea*>() != nullptr, box.height() == screen * 4 / 5);
+                buttonsOf(box).first()->click();
+            };
+            QCOMPARE(answer(kind, nullptr, check, message), kind.buttons.first().result);
+        }
+        QVERIFY(heights[0] >= 100 && heights[0] < heights[1] && heights[1] < heights[2]);
+        QCOMPARE(heights[2], screen * 4 / 5);
+    }
+}
+
+void MessageBoxTest::copying()
+{
+    const auto copied = [] { return QGuiApplication::clipboard()->text(); };
+    const auto check = [&](CMessageBox& box) {
+        box.activateWindow();
+        QTRY_VERIFY(box.isActiveWindow());
+        QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(copied(), QStringLiteral("The file is new."));
+        auto* const label = find<QLabel>(box, "textLabel");
+        label->setFocus();
+        QTest::keyClick(label, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(copied(), QStringLiteral("The "));
+        QTest::mouseDClick(label, Qt::LeftButton, {}, QPoint(label->width() - 1, label->height() / 2));
+        QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(copied() != QStringLiteral("The "));
+    };
+    answer(kinds().at(3), nullptr, check, QStringLiteral("The <b>file</b> is new."));
+}
+
+int alerts = 0;
+
+void MessageBoxTest::assistiveTechnology()
+{
+    QAccessible::setActive(true);
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        alerts += event->type() == QAccessible::Alert && qobject_cast<CMessageBox*>(event->object());
     });
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    for (const Kind& kind : kinds()) {
+        alerts = 0;
+        const auto check = [&kind](CMessageBox& box) {
+            QCOMPARE(alerts, QAccessible::isActive() ? 1 : 0); // the offscreen platform has no accessibility
+            const auto* const interface = QAccessible::queryAccessibleInterface(&box);
+            QCOMPARE(interface->role(), QAccessible::AlertMessage);
+            QCOMPARE(interface->text(QAccessible::Name), QString::fromLatin1(kind.accessibleName));
+            QCOMPARE(interface->text(QAccessible::Description), text);
+            auto* const icon = find<QWidget>(box, "iconWidget");
+            const auto* const picture = QAccessible::queryAccessibleInterface(icon);
+            QCOMPARE(picture->role(), QAccessible::Graphic);
+            QCOMPARE(picture->text(QAccessible::Name), QString::fromLatin1(kind.accessibleName));
+        };
+        answer(kind, nullptr, check);
+    }
+    QAccessible::installUpdateHandler(nullptr);
+    QAccessible::setActive(false);
 }
 
 void MessageBoxTest::nothingIsLeftBehind()
 {
-    const int rounds =
-        ScreenProbe::canSee() ? 5 : 143; // a thousand boxes and one; real windows take their time
+    const int rounds = ScreenProbe::canSee() ? 5 : 143; // offscreen a thousand boxes and one
     QWidget parent;
     const int before = QApplication::allWidgets().size();
     for (int i = 0; i < rounds; ++i) {

@@ -236,6 +236,10 @@ void ProgressBoxTest::remainingTime()
         remaining.add(i * 1000, done.at(i), 100);
     }
     QCOMPARE(remaining.seconds(), left);
+    const QString text = QStringLiteral("About %1 seconds left").arg(10);
+    QCOMPARE(remaining.text(), left < 0    ? QString()
+                               : left <= 5 ? QStringLiteral("A few seconds left")
+                                           : text);
 }
 
 TOLVAN_GUI_TEST_MAIN(ProgressBoxTest)

@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include <functional>
+#include <type_traits>
 
 /// The seven functions of the message box with what they show and return.
 namespace BoxKinds
@@ -19,36 +20,45 @@ struct Button {
     int result; // of the box when the button was clicked
 };
 
+using Show = std::function<int(QWidget* parent, const QString& text)>;
+
 /// One function of the box.
 struct Kind {
     const char* name;
-    std::function<int(QWidget* parent, const QString& text)> show;
+    Show show;
+    Show showFitting; // the overload without a height, if there is one
     const char* icon;
+    const char* accessibleName;
     QVector<Button> buttons; // from left to right
     int defaultButton;
     int otherwise; // without a choice
     int height = usualHeight;
 };
 
-template <class Function>
-auto notifying(Function function)
+template <class Result>
+Show calling(Result (*function)(QWidget*, const QString&, int))
 {
     return [function](QWidget* parent, const QString& text) {
-        function(parent, text, usualHeight);
-        return nothing;
+        if constexpr (std::is_void_v<Result>) {
+            function(parent, text, usualHeight);
+            return nothing;
+        } else {
+            return int(function(parent, text, usualHeight));
+        }
     };
 }
 
-template <class Function>
-auto asking(Function function)
+template <class Result>
+Show callingFitting(Result (*function)(QWidget*, const QString&))
 {
-    return
-        [function](QWidget* parent, const QString& text) { return int(function(parent, text, usualHeight)); };
-}
-
-inline int askToQuit(QWidget* parent, const QString& text)
-{
-    return CMessageBox::backgroundProcessingCancelMessage(parent, text);
+    return [function](QWidget* parent, const QString& text) {
+        if constexpr (std::is_void_v<Result>) {
+            function(parent, text);
+            return nothing;
+        } else {
+            return int(function(parent, text));
+        }
+    };
 }
 
 inline const QVector<Kind>& kinds()
@@ -65,15 +75,39 @@ inline const QVector<Kind>& kinds()
     const QVector<Button> rotate{{"rotateButton", "Rotate", 1}, {"cancelButton", "Cancel", 0}};
     const QVector<Button> quit{{"dontQuitButton", "Don't quit", 0x400000},
                                {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
+    using Box = CMessageBox;
+    using Notice = void (*)(QWidget*, const QString&, int);
+    using FittingNotice = void (*)(QWidget*, const QString&);
+    using Answer = QMessageBox::StandardButton;
+    using Question = Answer (*)(QWidget*, const QString&, int);
+    using FittingQuestion = Answer (*)(QWidget*, const QString&);
+    const auto notice = [](const char* name, Notice show, FittingNotice fitting, const char* icon,
+                           const char* accessible, const QVector<Button>& buttons) {
+        return Kind{name, calling(show), callingFitting(fitting), icon, accessible, buttons, 0, nothing};
+    };
+    const auto asking = [=](const char* name, Question show, FittingQuestion fitting,
+                            const QVector<Button>& buttons, int defaultButton, int otherwise) {
+        return Kind{name,       calling(show), callingFitting(fitting), question,
+                    "Question", buttons,       defaultButton,           otherwise};
+    };
     static const QVector<Kind> all{
-        {"information", notifying(&CMessageBox::information), info, ok, 0, nothing},
-        {"warning", notifying(&CMessageBox::warning), alert, close, 0, nothing},
-        {"critical", notifying(&CMessageBox::critical), alert, close, 0, nothing},
-        {"yes or no", asking(&CMessageBox::yesNoMessage), question, yesNo, 0, 0x10000},
-        {"save, discard, cancel", asking(&CMessageBox::saveDiscardCancelMessage), question, save, 1,
-         0x400000},
-        {"rotate", asking(&CMessageBox::rotateQuestion), question, rotate, 0, 0},
-        {"quit", &askToQuit, alert, quit, 1, 0x400000, 165},
+        notice("information", &Box::information, &Box::information, info, "Information", ok),
+        notice("warning", &Box::warning, &Box::warning, alert, "Warning", close),
+        notice("critical", &Box::critical, &Box::critical, alert, "Error", close),
+        asking("yes or no", &Box::yesNoMessage, &Box::yesNoMessage, yesNo, 0, 0x10000),
+        asking("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::saveDiscardCancelMessage, save,
+               1, 0x400000),
+        {"rotate", calling<bool>(&Box::rotateQuestion), callingFitting<bool>(&Box::rotateQuestion), question,
+         "Question", rotate, 0, 0},
+        {"quit",
+         callingFitting(&Box::backgroundProcessingCancelMessage),
+         {},
+         alert,
+         "Warning",
+         quit,
+         1,
+         0x400000,
+         165},
     };
     return all;
 }

@@ -33,8 +33,17 @@ class QPushButton;
 /// Enter clicks the default button. Escape and the window's close button give the answer for "no choice".
 ///
 /// \par Text
-/// Text that Qt::mightBeRichText() recognises is shown as rich text. \a height is the height of the box in
-/// pixels.
+/// Text that Qt::mightBeRichText() recognises is shown as rich text. A word that is longer than a line, such
+/// as a path, continues in the next line. The user can select text with mouse and keyboard; Ctrl+C copies the
+/// selection, or the whole text if nothing is selected.
+///
+/// \par Height
+/// \a height is the height of the box in pixels. If the text needs more, it scrolls, beginning at its top. The
+/// functions without \a height fit the box to its text, up to four fifths of the screen.
+///
+/// \par Assistive technology
+/// A box announces itself as an alert when it is shown. Its accessible name is its kind (for example "Warning"),
+/// its description the text.
 ///
 /// \par Failures
 /// None are reported. If the icon is missing, its place stays empty.
@@ -50,25 +59,41 @@ public:
 
     /// Shows a message with the button "OK".
     static void information(QWidget* parent, const QString& text, int height);
+    /// The same in a box that fits its text.
+    static void information(QWidget* parent, const QString& text);
     /// Shows a warning with the button "Close".
     static void warning(QWidget* parent, const QString& text, int height);
+    /// The same in a box that fits its text.
+    static void warning(QWidget* parent, const QString& text);
     /// Reports an error, with the button "Close".
     static void critical(QWidget* parent, const QString& text, int height);
+    /// The same in a box that fits its text.
+    static void critical(QWidget* parent, const QString& text);
     /// Asks a question: "Yes" (default) and "No".
     /// \return QMessageBox::Yes or QMessageBox::No; No without a choice
     static QMessageBox::StandardButton yesNoMessage(QWidget* parent, const QString& text, int height);
+    /// The same in a box that fits its text.
+    static QMessageBox::StandardButton yesNoMessage(QWidget* parent, const QString& text);
     /// Asks what to do with changes: "Don't save", "Save" (default) and "Cancel".
     /// \return QMessageBox::Save, Discard or Cancel; Cancel without a choice
     static QMessageBox::StandardButton saveDiscardCancelMessage(QWidget* parent, const QString& text,
                                                                 int height);
+    /// The same in a box that fits its text.
+    static QMessageBox::StandardButton saveDiscardCancelMessage(QWidget* parent, const QString& text);
     /// Asks whether to rotate: "Rotate" (default) and "Cancel".
     /// \return whether "Rotate" was chosen
     static bool rotateQuestion(QWidget* parent, const QString& text, int height);
+    /// The same in a box that fits its text.
+    static bool rotateQuestion(QWidget* parent, const QString& text);
     /// Asks whether to quit while work is running: "Don't quit" and "Quit without saving" (default). The box is
     /// always 165 pixels high.
     /// \return QMessageBox::Discard to quit, otherwise QMessageBox::Cancel; Cancel without a choice
     static QMessageBox::StandardButton backgroundProcessingCancelMessage(QWidget* parent,
                                                                          const QString& text);
+
+protected:
+    /// Announces the box to assistive technology.
+    void showEvent(QShowEvent* event) override;
 
 private Q_SLOTS:
     void onButtonClicked();
@@ -100,6 +125,7 @@ private:
                                      const QString& buttonText, int height);
 
     void setIcon(const QIcon& icon);
+    void fit(int height);
     QPushButton* addButton(QHBoxLayout* row, const QString& text, const char* name);
 
     static QScopedPointer<CMessageBox> m_scriptingInstance; // filled by scripts only

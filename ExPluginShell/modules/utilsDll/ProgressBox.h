@@ -125,7 +125,6 @@ private:
     void finishWork(bool stopped);
     void showError();
     void fitHeight();
-    static QString timeText(int seconds);
 
     const QScopedPointer<Form> m_ui;
     const QScopedPointer<State> m_state;

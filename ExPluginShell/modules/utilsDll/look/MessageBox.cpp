@@ -2,18 +2,27 @@
 
 #include "controls/IconViewer.h"
 #include "frame/Logging.h"
+#include "look/AccessibleRoles.h"
+#include "look/MessageKinds.h"
+#include "look/WrappingLabel.h"
 
+#include <QAccessible>
 #include <QGridLayout>
-#include <QHash>
 #include <QIcon>
-#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QSpacerItem>
 #include <QVBoxLayout>
 
+#include <limits>
+
 using TOLVAN_NAMESPACE::CBaseDialog;
 using TOLVAN_NAMESPACE::CIconViewer;
+using TOLVAN_NAMESPACE::messageIcon;
+using TOLVAN_NAMESPACE::MessageKind;
+using TOLVAN_NAMESPACE::WrappingLabel;
 
 namespace
 {
@@ -23,21 +32,8 @@ constexpr int quitBoxHeight = 165;
 constexpr QSize iconSize(34, 34);
 constexpr QSize smallestButton(80, 36);
 
-constexpr const char* informationIcon = "://icons/messagebox/info_dark_icon.svg";
-constexpr const char* alertIcon = "://icons/messagebox/alert_dark_icon.svg";
-constexpr const char* questionIcon = "://icons/messagebox/question_mark_dark_icon.svg";
-constexpr const char* saveQuestionIcon = ":/icons/messagebox/question_mark_dark_icon.svg";
-
-/// Returns the icon of this path. A drawing is read and rendered once for all boxes.
-QIcon iconOf(const char* path)
-{
-    static QHash<QByteArray, QIcon> icons;
-    QIcon& icon = icons[path];
-    if (icon.isNull()) {
-        icon = QIcon(QString::fromLatin1(path));
-    }
-    return icon;
-}
+constexpr int fittingHeight = std::numeric_limits<int>::min(); // stands for "as the text needs it"
+constexpr double largestShare = 0.8;                           // of the screen's height
 
 } // namespace
 
@@ -50,6 +46,7 @@ struct CMessageBox::Form {
     QGridLayout* gridLayout;
     QVBoxLayout* contentLayout;
     CIconViewer* iconWidget;
+    WrappingLabel* text = nullptr;
 
 private:
     QWidget* makeBackground(CMessageBox& box);
@@ -134,7 +131,7 @@ public:
     /// \return the clicked button, which may have been deleted; null if there was none
     const QPushButton* run(int height)
     {
-        m_box->setFixedSize(boxWidth, height);
+        m_box->fit(height);
         m_box->exec();
         return m_box ? m_box->m_clickedButton : nullptr;
     }
@@ -147,17 +144,21 @@ CMessageBox::CMessageBox(QWidget* parent)
     : CBaseDialog(parent)
     , m_ui(new Form(*this))
 {
+    TOLVAN_NAMESPACE::installAccessibleRoles();
 }
 
 CMessageBox::~CMessageBox() = default;
 
 void CMessageBox::prepareContentWidget(CMessageBox& box, const QString& text)
 {
-    auto* const label = new QLabel;
+    auto* const label = new WrappingLabel;
     label->setObjectName(QStringLiteral("textLabel"));
-    label->setWordWrap(true);
     label->setText(text);
     box.m_ui->contentLayout->addWidget(label);
+    box.m_ui->text = label;
+    box.setAccessibleDescription(label->plainText());
+    auto* const copy = new QShortcut(QKeySequence::Copy, &box);
+    connect(copy, SIGNAL(activated()), label, SLOT(copy()));
 }
 
 void CMessageBox::setIcon(const QIcon& icon)
@@ -166,6 +167,33 @@ void CMessageBox::setIcon(const QIcon& icon)
     if (!icon.isNull()) {
         m_ui->iconWidget->setIcon(icon);
     }
+    const QString name = TOLVAN_NAMESPACE::messageKindName(icon);
+    m_ui->iconWidget->setAccessibleName(name);
+    setAccessibleName(name);
+}
+
+/// Gives the box its height. A text that needs more than that scrolls.
+void CMessageBox::fit(int height)
+{
+    ensurePolished();
+    for (QWidget* const widget : findChildren<QWidget*>()) {
+        widget->ensurePolished(); // the style sheet decides on the fonts
+    }
+    const int available = int(screen()->availableGeometry().height() * largestShare);
+    const int chosen =
+        height == fittingHeight ? qMin(layout()->totalHeightForWidth(boxWidth), available) : height;
+    setFixedSize(boxWidth, chosen);
+    if (m_ui->gridLayout->minimumHeightForWidth(boxWidth) > chosen) {
+        m_ui->text->makeScrollable(*m_ui->contentLayout);
+    }
+    setTabOrder(findChildren<QPushButton*>().constLast(), m_ui->text); // the buttons come first
+}
+
+void CMessageBox::showEvent(QShowEvent* event)
+{
+    CBaseDialog::showEvent(event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 QHBoxLayout* CMessageBox::createButtonLayout(CMessageBox& box, bool besideIcon)
@@ -205,22 +233,37 @@ void CMessageBox::showSimpleMessageBox(QWidget* parent, const QString& text, con
 
 void CMessageBox::information(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, iconOf(informationIcon), tr("OK"), height);
+    showSimpleMessageBox(parent, text, messageIcon(MessageKind::Information), tr("OK"), height);
+}
+
+void CMessageBox::information(QWidget* parent, const QString& text)
+{
+    information(parent, text, fittingHeight);
 }
 
 void CMessageBox::warning(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, iconOf(alertIcon), tr("Close"), height);
+    showSimpleMessageBox(parent, text, messageIcon(MessageKind::Warning), tr("Close"), height);
+}
+
+void CMessageBox::warning(QWidget* parent, const QString& text)
+{
+    warning(parent, text, fittingHeight);
 }
 
 void CMessageBox::critical(QWidget* parent, const QString& text, int height)
 {
-    showSimpleMessageBox(parent, text, iconOf(alertIcon), tr("Close"), height);
+    showSimpleMessageBox(parent, text, messageIcon(MessageKind::Error), tr("Close"), height);
+}
+
+void CMessageBox::critical(QWidget* parent, const QString& text)
+{
+    critical(parent, text, fittingHeight);
 }
 
 QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QString& text, int height)
 {
-    Session session(parent, text, iconOf(questionIcon));
+    Session session(parent, text, messageIcon(MessageKind::Question));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     auto* const yes = session.box().addButton(row, tr("Yes"), "yesButton");
@@ -229,10 +272,15 @@ QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QSt
     return session.run(height) == yes ? QMessageBox::Yes : QMessageBox::No;
 }
 
+QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QString& text)
+{
+    return yesNoMessage(parent, text, fittingHeight);
+}
+
 QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* parent, const QString& text,
                                                                   int height)
 {
-    Session session(parent, text, iconOf(saveQuestionIcon));
+    Session session(parent, text, messageIcon(MessageKind::SaveQuestion));
     auto* const row = createButtonLayout(session.box(), true);
     auto* const discard = session.box().addButton(row, tr("Don't save"), "discardButton");
     row->addStretch();
@@ -246,9 +294,14 @@ QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* paren
     return clicked == discard ? QMessageBox::Discard : QMessageBox::Cancel;
 }
 
+QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* parent, const QString& text)
+{
+    return saveDiscardCancelMessage(parent, text, fittingHeight);
+}
+
 bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text, int height)
 {
-    Session session(parent, text, iconOf(questionIcon));
+    Session session(parent, text, messageIcon(MessageKind::Question));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     auto* const rotate = session.box().addButton(row, tr("Rotate"), "rotateButton");
@@ -257,10 +310,15 @@ bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text, int heigh
     return session.run(height) == rotate;
 }
 
+bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text)
+{
+    return rotateQuestion(parent, text, fittingHeight);
+}
+
 QMessageBox::StandardButton CMessageBox::backgroundProcessingCancelMessage(QWidget* parent,
                                                                            const QString& text)
 {
-    Session session(parent, text, iconOf(alertIcon));
+    Session session(parent, text, messageIcon(MessageKind::Warning));
     auto* const row = createButtonLayout(session.box(), true);
     row->addStretch();
     session.box().addButton(row, tr("Don't quit"), "dontQuitButton");

@@ -335,28 +335,8 @@ void CProgressBox::refresh()
         m_ui->showLine(*m_ui->time, tr("Stopping…"));
     } else if (now - state.timeShownAt >= timeInterval) {
         state.timeShownAt = now;
-        m_ui->showLine(*m_ui->time, timeText(state.remaining.seconds()));
+        m_ui->showLine(*m_ui->time, state.remaining.text());
     }
-}
-
-QString CProgressBox::timeText(int seconds)
-{
-    constexpr int few = 5;
-    constexpr int minute = 60;
-    constexpr int hour = 60 * minute;
-    if (seconds < 0) {
-        return {};
-    }
-    if (seconds <= few) {
-        return tr("A few seconds left");
-    }
-    if (seconds < minute) {
-        return tr("About %n seconds left", nullptr, (seconds + few - 1) / few * few);
-    }
-    if (seconds < hour) {
-        return tr("About %n minutes left", nullptr, (seconds + minute / 2) / minute);
-    }
-    return tr("About %n hours left", nullptr, (seconds + hour / 2) / hour);
 }
 
 void CProgressBox::appear()
@@ -369,10 +349,9 @@ void CProgressBox::appear()
 void CProgressBox::showError()
 {
     const State& state = *m_state;
-    for (QWidget* const widget : {static_cast<QWidget*>(m_ui->step), static_cast<QWidget*>(m_ui->bar),
-                                  static_cast<QWidget*>(m_ui->time)}) {
-        widget->hide();
-    }
+    m_ui->step->hide();
+    m_ui->bar->hide();
+    m_ui->time->hide();
     m_ui->error->setText(state.error.isEmpty() ? tr("The work could not be completed.") : state.error);
     m_ui->error->show();
     m_ui->icon->setIcon(QIcon(QString::fromLatin1(":/icons/messagebox/error_dark_icon.svg")));

@@ -46,4 +46,25 @@ int RemainingTime::seconds() const
     return int(std::ceil(qMin(left, longest)));
 }
 
+QString RemainingTime::text() const
+{
+    constexpr int few = 5;
+    constexpr int minute = 60;
+    constexpr int hour = 60 * minute;
+    const int left = seconds();
+    if (left < 0) {
+        return {};
+    }
+    if (left <= few) {
+        return tr("A few seconds left");
+    }
+    if (left < minute) {
+        return tr("About %n seconds left", nullptr, (left + few - 1) / few * few);
+    }
+    if (left < hour) {
+        return tr("About %n minutes left", nullptr, (left + minute / 2) / minute);
+    }
+    return tr("About %n hours left", nullptr, (left + hour / 2) / hour);
+}
+
 } // namespace TOLVAN_NAMESPACE

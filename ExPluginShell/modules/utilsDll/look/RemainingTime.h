@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtCore/qglobal.h>
+#include <QCoreApplication>
+#include <QString>
 
 #include <deque>
 
@@ -11,6 +12,8 @@ namespace TOLVAN_NAMESPACE
 /// passes the time.
 class RemainingTime
 {
+    Q_DECLARE_TR_FUNCTIONS(CProgressBox)
+
 public:
     /// Records the progress.
     /// \param milliseconds since the work began
@@ -18,6 +21,8 @@ public:
 
     /// Returns the remaining seconds; -1 while two seconds of progress are not seen, or nothing moves.
     int seconds() const;
+    /// Returns the remaining time in words; empty if it is not known.
+    QString text() const;
 
 private:
     struct Sample {

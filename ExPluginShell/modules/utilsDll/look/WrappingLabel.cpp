@@ -36,10 +36,14 @@ QTextDocument* WrappingLabel::wrappedDocument() const
     return document;
 }
 
+/// Layouts ask for the same width again and again.
 int WrappingLabel::heightForWidth(int width) const
 {
-    wrappedDocument();
-    return QLabel::heightForWidth(width);
+    if (m_known.width != width || m_known.font != font() || m_known.text != text()) {
+        wrappedDocument();
+        m_known = {width, QLabel::heightForWidth(width), font(), text()};
+    }
+    return m_known.height;
 }
 
 /// A width that any box has; the height is that of the text in this width.
@@ -73,7 +77,9 @@ void WrappingLabel::makeScrollable(QBoxLayout& layout)
     area->setFocusPolicy(Qt::NoFocus); // the label has it
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    layout.replaceWidget(this, area);
+    delete layout.replaceWidget(this, area);
+    constexpr int gap = 12; // the cut line must not touch what stands below
+    layout.setContentsMargins(0, 0, 0, gap);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     area->setWidget(this);
     setAutoFillBackground(false); // QScrollArea sets it
@@ -104,6 +110,7 @@ void WrappingLabel::focusInEvent(QFocusEvent* event)
     if (!m_focusFrame) {
         m_focusFrame = new QFocusFrame(this);
         m_focusFrame->setWidget(this); // shows itself while the label has the focus
+        setSelection(0, 0);            // the invisible cursor is at the end of the text
     }
     QLabel::focusInEvent(event);
 }

@@ -40,6 +40,14 @@ protected:
 private:
     QTextDocument* wrappedDocument() const;
 
+    struct KnownHeight {
+        int width = -1;
+        int height = 0;
+        QFont font;
+        QString text;
+    };
+
+    mutable KnownHeight m_known;
     QFocusFrame* m_focusFrame = nullptr;
 };
 

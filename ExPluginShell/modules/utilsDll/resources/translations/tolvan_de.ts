@@ -123,6 +123,22 @@
         <source>Quit without saving</source>
         <translation>Ohne Speichern beenden</translation>
     </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
 </context>
 <context>
     <name>CProgressBox</name>

@@ -123,6 +123,22 @@
         <source>Quit without saving</source>
         <translation>保存せずに終了</translation>
     </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>質問</translation>
+    </message>
 </context>
 <context>
     <name>CProgressBox</name>

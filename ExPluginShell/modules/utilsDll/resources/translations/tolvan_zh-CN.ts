@@ -123,6 +123,22 @@
         <source>Quit without saving</source>
         <translation>不保存并退出</translation>
     </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>询问</translation>
+    </message>
 </context>
 <context>
     <name>CProgressBox</name>
