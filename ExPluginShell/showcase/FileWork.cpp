@@ -1,10 +1,6 @@
 #include "FileWork.h"
 
-#include "archive/ArchiveExtraction.h"
-#include "archive/ArchivePacking.h"
-
-#include <quazip/quazip.h>
-#include <quazip/quazipfileinfo.h>
+#include <utilsDll/ArchiveJob.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,18 +21,6 @@ QStringList filesBelow(const QString& folder)
     }
     files.sort();
     return files;
-}
-
-qint64 contentSize(const QString& archive)
-{
-    QuaZip zip(archive);
-    qint64 size = 0;
-    if (zip.open(QuaZip::mdUnzip)) {
-        for (const QuaZipFileInfo64& entry : zip.getFileInfoList64()) {
-            size += static_cast<qint64>(entry.uncompressedSize);
-        }
-    }
-    return size;
 }
 
 QByteArray contentOf(const QString& path)
@@ -83,36 +67,17 @@ QString FileWork::firstDifference(const QString& a, const QString& b)
 
 void FileWork::run()
 {
-    m_succeeded = m_kind == Pack ? pack() : unpack();
+    ArchiveTask task = m_kind == Pack ? ArchiveTask::pack({m_from}, m_to) : ArchiveTask::unpack(m_from, m_to);
+    task.baseFolder = m_kind == Pack ? m_from : QString();
+    CArchiveJob job(task);
+    connect(&job, SIGNAL(progressed(qint64, qint64, QString)), this, SLOT(onProgressed(qint64, qint64)),
+            Qt::DirectConnection);
+    job.run(); // stops when the interruption of this thread is requested
+    m_succeeded = job.report().isComplete();
+    m_fileCount = filesBelow(m_kind == Pack ? m_from : m_to).size();
 }
 
-bool FileWork::report(qint64 bytes, qint64 total)
+void FileWork::onProgressed(qint64 bytes, qint64 total)
 {
-    const int percent = total > 0 ? int(qMin<qint64>(100, bytes * 100 / total)) : 100;
-    if (percent != m_percent) {
-        m_percent = percent;
-        Q_EMIT progress(percent);
-    }
-    return !isInterruptionRequested();
-}
-
-bool FileWork::pack()
-{
-    QVector<PackedFile> files;
-    qint64 total = 0;
-    for (const QString& name : filesBelow(m_from)) {
-        const QString path = QDir(m_from).filePath(name);
-        files += PackedFile{path, name};
-        total += QFileInfo(path).size();
-    }
-    m_fileCount = files.size();
-    return packFiles(files, m_to, [&](qint64 bytes) { return report(bytes, total); });
-}
-
-bool FileWork::unpack()
-{
-    const qint64 expected = contentSize(m_from);
-    const bool unpacked = extractEntries(m_from, m_to, [&](qint64 bytes) { return report(bytes, expected); });
-    m_fileCount = filesBelow(m_to).size();
-    return unpacked;
+    Q_EMIT progress(total > 0 ? int(qMin<qint64>(100, bytes * 100 / total)) : 100);
 }

@@ -33,15 +33,13 @@ Q_SIGNALS:
 protected:
     void run() override;
 
-private:
-    bool pack();
-    bool unpack();
-    bool report(qint64 bytes, qint64 total);
+private Q_SLOTS:
+    void onProgressed(qint64 bytes, qint64 total);
 
+private:
     const Kind m_kind;
     const QString m_from;
     const QString m_to;
     bool m_succeeded = false;
     int m_fileCount = 0;
-    int m_percent = -1;
 };

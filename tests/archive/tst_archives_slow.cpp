@@ -43,14 +43,14 @@ void SlowArchivesTest::seventyThousandEntries()
         QByteArray("70000 None 69999"));
     const Outcome tested = runProgram(QStringLiteral("unzip"), {QStringLiteral("-tq"), path("many.zip")});
     QVERIFY2(tested.code == 0, tested.output);
-    QVERIFY(extractEntries(path("many.zip"), path("ours")));
+    QVERIFY(DecompressFiles(path("many.zip").toStdWString(), path("ours").toStdWString()));
     QCOMPARE(FileTree::of(path("ours")), FileTree::of(path("many")));
 
     QCOMPARE(python("import sys, zipfile\nwith zipfile.ZipFile(sys.argv[1], 'w') as z:\n"
                     "  for i in range(70000): z.writestr(str(i), str(i))",
                     path("theirs.zip")),
              QByteArray());
-    QVERIFY(extractEntries(path("theirs.zip"), path("theirs")));
+    QVERIFY(DecompressFiles(path("theirs.zip").toStdWString(), path("theirs").toStdWString()));
     QCOMPARE(FileTree::of(path("theirs")), FileTree::of(path("many")));
 }
 

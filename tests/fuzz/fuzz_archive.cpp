@@ -1,4 +1,4 @@
-#include "archive/ArchiveExtraction.h"
+#include "archive/ArchiveWork.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,7 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     file.close();
 
-    TOLVAN_NAMESPACE::extractEntries(archive, out, [](qint64 bytes) { return bytes < enough; });
+    TOLVAN_NAMESPACE::ArchiveTask task = TOLVAN_NAMESPACE::ArchiveTask::unpack(archive, out);
+    task.sizeLimit = enough;
+    TOLVAN_NAMESPACE::ArchiveWork work(task, {}, {});
+    unpackArchive(work);
     if (entriesOf(box) != QStringList(QStringLiteral("out")) || entriesOf(scratch.path()).size() != 2) {
         qCritical("something was written beside the folder");
         std::abort();

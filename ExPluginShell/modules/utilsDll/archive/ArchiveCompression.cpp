@@ -1,30 +1,34 @@
 #include "ArchiveCompression.h"
 
-#include "ArchiveExtraction.h"
-#include "ArchivePacking.h"
-
-#include <QDir>
-#include <QFileInfo>
+#include "ArchiveJob.h"
 
 namespace TOLVAN_NAMESPACE
 {
 
+namespace
+{
+
+/// A job that nothing stops: the functions complete their work also in a thread that is asked to end.
+class UnstoppableJob : public CArchiveJob
+{
+public:
+    using CArchiveJob::CArchiveJob;
+    bool stopRequired() const override { return false; }
+};
+
+} // namespace
+
 bool CompressFiles(const QStringList& files, const QString& archive)
 {
-    QVector<PackedFile> entries;
-    entries.reserve(files.size());
-    for (const QString& file : files) {
-        entries += PackedFile{file, QFileInfo(file).fileName()};
-    }
-    return packFiles(entries, archive);
+    ArchiveTask task = ArchiveTask::pack(files, archive);
+    task.acceptFolders = false;
+    UnstoppableJob job(task);
+    return job.doRun();
 }
 
 void DecompressFiles(const QString& archive, const QString& folder)
 {
-    if (!QDir(folder).exists()) {
-        QDir().mkpath(folder);
-    }
-    extractEntries(archive, folder);
+    UnstoppableJob(ArchiveTask::unpack(archive, folder)).doRun();
 }
 
 } // namespace TOLVAN_NAMESPACE

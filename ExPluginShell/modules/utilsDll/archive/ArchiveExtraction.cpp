@@ -1,21 +1,22 @@
 #include "ArchiveExtraction.h"
 
+#include "ArchiveFile.h"
 #include "ArchiveNames.h"
-#include "ArchiveSource.h"
-#include "ExtractionFolder.h"
+#include "ArchiveWork.h"
+#include "ContentStream.h"
+#include "DirectoryCheck.h"
+#include "NameEncoding.h"
+#include "OrderedWork.h"
+#include "platform/FolderWriter.h"
+#include "ZipDirectory.h"
 
-#include <quazip/quazip.h>
-#include <quazip/quazipfile.h>
-#include <quazip/quazipfileinfo.h>
-
-#include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <QStorageInfo>
 
-#include <memory>
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <thread>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -23,212 +24,418 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr int blockSize = 128 * 1024;
-constexpr int longestLinkTarget = 4096;
-constexpr quint64 sizeWorthAsking = 16 * 1024 * 1024; // smaller entries don't fill a disk by themselves
-constexpr int storedMethod = 0;
-constexpr int deflatedMethod = 8;
-constexpr quint16 encryptedFlag = 0x0001;
-constexpr quint16 utf8Flag = 0x0800;
-constexpr int countOverflow = 0xFFFF; // an archive without ZIP64 can't say how many more there are
+using Platform::FolderWriter;
+using Platform::WriteResult;
 
-/// Not every file system knows permissions; a file without them is extracted as well.
-void setPermissions(QFileDevice& file, QFile::Permissions permissions)
+constexpr qint64 blockSize = 256 * 1024;
+constexpr qint64 largestInMemory = 24 * 1024 * 1024; // Larger entries are unpacked block by block.
+constexpr qint64 mostInMemory = 80 * 1024 * 1024;
+constexpr qint64 pieceSize = 256 * 1024; // Small entries are handed to a thread together.
+constexpr std::size_t mostInPiece = 64;
+constexpr qint64 longestLinkTarget = 4096;
+constexpr qint64 sizeWorthAsking = 16 * 1024 * 1024; // Smaller entries don't fill a disk by themselves.
+constexpr int mostHelpers = 15;
+
+ArchiveProblem problemOf(WriteResult result)
 {
-    if (permissions) {
-        file.setPermissions(permissions | QFile::ReadOwner);
+    switch (result) {
+    case WriteResult::Outside:
+        return ArchiveProblem::OutsideFolder;
+    case WriteResult::InTheWay:
+        return ArchiveProblem::InTheWay;
+    case WriteResult::Denied:
+        return ArchiveProblem::AccessDenied;
+    case WriteResult::Full:
+        return ArchiveProblem::DiskFull;
+    case WriteResult::Done:
+    case WriteResult::Failed:
+        break;
     }
+    return ArchiveProblem::WriteFailed;
 }
+
+/// An entry on its way from the directory to the folder.
+struct UnpackedEntry {
+    DirectoryEntry entry;
+    QString name;
+    QStringList parts;
+    bool isFolder = false;
+    qint64 position = -1;            ///< of the packed content
+    std::unique_ptr<char[]> content; ///< null if it is unpacked block by block, or has none
+    std::optional<ArchiveProblem> problem;
+
+    bool fitsMemory() const
+    {
+        return std::max(entry.size, entry.packedSize) <= largestInMemory &&
+               (entry.method == Stored || entry.method == Deflated);
+    }
+};
+
+/// Entries that one thread unpacks into memory.
+class UnpackedPiece
+{
+public:
+    UnpackedPiece(ArchiveFile& file, bool wholeEntries)
+        : m_file(file)
+        , m_wholeEntries(wholeEntries)
+    {
+    }
+    bool isFull() const { return m_memory >= pieceSize || entries.size() >= mostInPiece; }
+    void add(UnpackedEntry&& entry)
+    {
+        if (entry.fitsMemory()) {
+            m_memory += entry.entry.size + entry.entry.packedSize;
+        }
+        entries.push_back(std::move(entry));
+    }
+    qint64 memory() const { return m_memory; }
+    void work()
+    {
+        for (UnpackedEntry& entry : entries) {
+            if (m_wholeEntries && !entry.problem && !entry.isFolder && entry.fitsMemory()) {
+                entry.problem = unpack(entry);
+            }
+        }
+    }
+
+    std::vector<UnpackedEntry> entries;
+
+private:
+    std::optional<ArchiveProblem> unpack(UnpackedEntry& unpacked) const
+    {
+        const DirectoryEntry& entry = unpacked.entry;
+        const bool stored = entry.method == Stored;
+        const auto allocated = [](qint64 size) {
+            return std::unique_ptr<char[]>(new (std::nothrow) char[static_cast<std::size_t>(size) + 1]);
+        };
+        std::unique_ptr<char[]> packed = allocated(entry.packedSize);
+        if (!packed || !m_file.read(unpacked.position, packed.get(), entry.packedSize)) {
+            return ArchiveProblem::ReadFailed;
+        }
+        unpacked.content = stored ? std::move(packed) : allocated(entry.size);
+        const bool whole = stored ? entry.packedSize == entry.size
+                                  : unpacked.content && inflateWhole(packed.get(), entry.packedSize,
+                                                                     unpacked.content.get(), entry.size);
+        if (!whole || updatedChecksum(0, unpacked.content.get(), entry.size) != entry.checksum) {
+            return ArchiveProblem::Damaged;
+        }
+        return std::nullopt;
+    }
+
+    ArchiveFile& m_file;
+    const bool m_wholeEntries;
+    qint64 m_memory = 0;
+};
 
 /// Unpacks one archive into one folder.
 class Extractor
 {
 public:
-    Extractor(const QString& archive, const QString& folder, const ArchiveProgress& progress)
-        : m_source(archive)
-        , m_zip(&m_source)
-        , m_folder(folder)
-        , m_progress(progress)
+    explicit Extractor(ArchiveWork& work)
+        : m_work(work)
+        , m_task(work.task())
+        , m_file(m_task.archive)
+        , m_directory(m_file)
         , m_rules(nativeNameRules())
-        , m_block(new char[blockSize])
     {
-        m_zip.setFileNameCodec("ISO-8859-1"); // keeps the bytes of unmarked names, which are decoded here
     }
 
-    bool extractAll();
+    void extractAll();
 
 private:
-    bool extractCurrent();
-    bool extractFile(const QString& target, QFile::Permissions permissions);
-    bool extractLink(const QString& target);
-    bool replaceFile(const QString& target, QFile::Permissions permissions);
-    bool copyContent(QIODevice& target);
-    bool isReadable() const;
-    QString entryName() const;
+    std::optional<ArchiveProblem> open();
+    void run();
+    UnpackedEntry nextEntry(DirectoryEntry&& entry);
+    std::optional<ArchiveProblem> entryProblem(const UnpackedEntry& entry);
+    void finish(UnpackedPiece& piece);
+    std::optional<ArchiveProblem> finish(UnpackedEntry& entry);
+    std::optional<ArchiveProblem> makeFolder(const UnpackedEntry& entry);
+    std::optional<ArchiveProblem> makeFile(const UnpackedEntry& entry, const QString& name);
+    std::optional<ArchiveProblem> makeLink(const UnpackedEntry& entry, const QString& name);
+    template <class Write>
+    std::optional<ArchiveProblem> copyContent(const UnpackedEntry& entry, const Write& write);
 
-    ArchiveSource m_source;
-    QuaZip m_zip;
-    ExtractionFolder m_folder;
-    const ArchiveProgress& m_progress;
+    ArchiveWork& m_work;
+    const ArchiveTask& m_task;
+    ArchiveFile m_file;
+    ZipDirectory m_directory;
+    FolderWriter m_folder;
     const NameRules m_rules;
-    const std::unique_ptr<char[]> m_block;
-    QuaZipFileInfo64 m_entry;
-    qint64 m_written = 0;
-    bool m_cancelled = false;
+    DirectoryCheck m_check;
+    qint64 m_index = 0;
+    qint64 m_claimed = 0; ///< size of the entries so far
 };
 
-QString Extractor::entryName() const
+void Extractor::extractAll()
 {
-    return (m_entry.flags & utf8Flag) ? m_entry.name
-                                      : decodeUnmarkedName(m_entry.name.toLatin1(), m_entry.extra);
-}
-
-bool Extractor::extractAll()
-{
-    if (!m_zip.open(QuaZip::mdUnzip)) {
-        return false;
+    if (!m_task.dryRun) {
+        const WriteResult result = m_folder.openRoot(m_task.folder);
+        if (result != WriteResult::Done) {
+            m_work.fail(m_task.folder, problemOf(result));
+            return;
+        }
     }
-    const int expected = m_zip.getEntriesCount();
-    int seen = 0;
-    bool complete = m_zip.goToFirstFile();
-    for (bool more = complete; more && !m_cancelled; more = m_zip.goToNextFile()) {
-        complete = extractCurrent() && complete;
-        ++seen;
+    if (const auto problem = open()) {
+        m_work.fail(m_task.archive, *problem);
+        return;
     }
-    m_zip.close();
+    m_check.survey(m_directory);
+    m_work.setEntries(m_check.entries());
+    m_work.setTotal(m_check.contentSize());
+    const bool complete = m_directory.isComplete();
+    run();
     // A directory that breaks off looks like its end.
-    return complete && !m_cancelled && (seen == expected || (seen > expected && expected == countOverflow));
+    if (!complete) {
+        m_work.fail(m_task.archive, ArchiveProblem::Damaged);
+    }
 }
 
-bool Extractor::isReadable() const
+std::optional<ArchiveProblem> Extractor::open()
 {
-    const bool knownMethod = m_entry.method == storedMethod || m_entry.method == deflatedMethod;
-    return knownMethod && !(m_entry.flags & encryptedFlag);
+    const QFileInfo archive(m_task.archive);
+    if (!archive.exists()) {
+        return ArchiveProblem::NotFound;
+    }
+    if (!m_file.open()) {
+        return !archive.isFile()      ? ArchiveProblem::NotAFile
+               : archive.isReadable() ? ArchiveProblem::ReadFailed
+                                      : ArchiveProblem::AccessDenied;
+    }
+    return m_directory.locate() ? std::nullopt : std::make_optional(ArchiveProblem::NotAnArchive);
 }
 
-bool Extractor::extractCurrent()
+void Extractor::run()
 {
-    if (!m_zip.getCurrentFileInfo(&m_entry) || !isReadable()) {
-        return false;
-    }
-    const QString name = entryName();
-    const bool isFolder = name.endsWith(QLatin1Char('/')) ||
-                          (m_rules == NameRules::Windows && name.endsWith(QLatin1Char('\\')));
-    QStringList parts = safeParts(name, m_rules);
-    if (parts.isEmpty()) {
-        return isFolder && name == QLatin1String("./");
-    }
-    const QFile::Permissions permissions = m_entry.getPermissions();
-    if (isFolder) {
-        if (!m_folder.enter(parts)) {
-            return false;
+    const int processors = static_cast<int>(std::thread::hardware_concurrency());
+    const qint64 helpers = std::min<qint64>({processors - 1, mostHelpers, m_check.contentSize() / pieceSize});
+    OrderedWork<UnpackedPiece> pieces(static_cast<int>(std::max<qint64>(0, helpers)), mostInMemory);
+    m_directory.rewind();
+    std::optional<DirectoryEntry> next = m_directory.next();
+    while (next && !m_work.stopRequired()) {
+        auto piece = std::make_unique<UnpackedPiece>(m_file, !m_directory.isWrapped());
+        while (next && !piece->isFull()) {
+            piece->add(nextEntry(std::move(*next)));
+            next = m_directory.next();
         }
-        m_folder.setPermissions(permissions);
-        return true;
+        while (pieces.isFull(piece->memory())) {
+            finish(*pieces.take());
+        }
+        pieces.add(std::move(piece));
     }
-    const QString fileName = parts.takeLast();
-    if (!m_folder.enter(parts)) {
-        return false;
+    while (!pieces.isEmpty()) {
+        finish(*pieces.take());
     }
-    const QString target = m_folder.currentPath() + QLatin1Char('/') + fileName;
-    return m_entry.isSymbolicLink() ? extractLink(target) : extractFile(target, permissions);
+    for (; next; next = m_directory.next()) {
+        m_work.fail(nextEntry(std::move(*next)).name, ArchiveProblem::Stopped);
+    }
 }
 
-/// A new file is written in place and removed again on failure; the exclusive mode follows no link. An
-/// existing one is replaced at the end.
-bool Extractor::extractFile(const QString& target, QFile::Permissions permissions)
+UnpackedEntry Extractor::nextEntry(DirectoryEntry&& entry)
 {
-    if (m_entry.uncompressedSize > sizeWorthAsking) {
-        const qint64 available = QStorageInfo(m_folder.currentPath()).bytesAvailable();
-        if (available >= 0 && m_entry.uncompressedSize > static_cast<quint64>(available)) {
-            return false;
+    UnpackedEntry unpacked;
+    unpacked.entry = std::move(entry);
+    const DirectoryEntry& from = unpacked.entry;
+    unpacked.name =
+        from.hasUtf8Name() ? QString::fromUtf8(from.name) : decodeUnmarkedName(from.name, from.extra);
+    unpacked.isFolder = unpacked.name.endsWith(QLatin1Char('/')) ||
+                        (m_rules == NameRules::Windows && unpacked.name.endsWith(QLatin1Char('\\')));
+    unpacked.parts = safeParts(unpacked.name, m_rules);
+    unpacked.position = m_directory.contentPosition(from);
+    unpacked.problem = entryProblem(unpacked);
+    ++m_index;
+    return unpacked;
+}
+
+std::optional<ArchiveProblem> Extractor::entryProblem(const UnpackedEntry& unpacked)
+{
+    const DirectoryEntry& entry = unpacked.entry;
+    if (unpacked.parts.isEmpty() && unpacked.name != QLatin1String("./")) {
+        return leadsOutside(unpacked.name, m_rules) ? ArchiveProblem::OutsideFolder
+                                                    : ArchiveProblem::NameRefused;
+    }
+    if (entry.isEncrypted()) {
+        return ArchiveProblem::Encrypted;
+    }
+    if (!isReadableMethod(entry.method)) {
+        return ArchiveProblem::UnsupportedMethod;
+    }
+    if (m_check.overlaps(m_index)) {
+        return ArchiveProblem::Overlapping;
+    }
+    const qint64 room = m_directory.begin() - unpacked.position;
+    if (unpacked.position < 0 || (!m_directory.isWrapped() && entry.packedSize > room)) {
+        return ArchiveProblem::Damaged;
+    }
+    const qint64 honest = DirectoryCheck::largestContent(m_file.size());
+    const qint64 limit = m_task.sizeLimit < 0 ? honest : std::min(honest, m_task.sizeLimit);
+    if (entry.size > limit - m_claimed) {
+        return ArchiveProblem::TooLarge;
+    }
+    m_claimed += entry.size;
+    return std::nullopt;
+}
+
+void Extractor::finish(UnpackedPiece& piece)
+{
+    for (UnpackedEntry& entry : piece.entries) {
+        if (m_task.dryRun) {
+            m_work.list({entry.name, entry.entry.size, entry.entry.packedSize, entry.entry.lastModified(),
+                         entry.entry.isLink()});
+        }
+        auto problem = m_work.stopRequired() ? ArchiveProblem::Stopped : entry.problem;
+        if (!problem) {
+            problem = finish(entry);
+        }
+        if (problem) {
+            m_work.fail(entry.name, *problem);
+        } else {
+            m_work.succeed();
+        }
+        entry.content.reset();
+    }
+}
+
+std::optional<ArchiveProblem> Extractor::finish(UnpackedEntry& entry)
+{
+    if (entry.isFolder) {
+        return makeFolder(entry);
+    }
+    if (m_task.dryRun) {
+        return copyContent(entry, [](const char*, qint64) { return WriteResult::Done; });
+    }
+    const QString name = entry.parts.takeLast();
+    const WriteResult entered = m_folder.enter(entry.parts);
+    if (entered != WriteResult::Done) {
+        return problemOf(entered);
+    }
+    return entry.entry.isLink() ? makeLink(entry, name) : makeFile(entry, name);
+}
+
+std::optional<ArchiveProblem> Extractor::makeFolder(const UnpackedEntry& entry)
+{
+    if (m_task.dryRun) {
+        return std::nullopt;
+    }
+    const WriteResult entered = m_folder.enter(entry.parts);
+    if (entered != WriteResult::Done) {
+        return problemOf(entered);
+    }
+    if (!entry.parts.isEmpty()) {
+        m_folder.setPermissions(entry.entry.permissions());
+    }
+    return std::nullopt;
+}
+
+std::optional<ArchiveProblem> Extractor::makeFile(const UnpackedEntry& entry, const QString& name)
+{
+    if (entry.entry.size > sizeWorthAsking) {
+        const qint64 available = m_folder.availableBytes();
+        if (available >= 0 && entry.entry.size > available) {
+            return ArchiveProblem::DiskFull;
         }
     }
-    QFile file(target);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
-        return replaceFile(target, permissions);
+    const WriteResult begun = m_folder.begin(name);
+    if (begun != WriteResult::Done) {
+        return problemOf(begun);
     }
-    if (!copyContent(file)) {
-        file.close();
-        file.remove();
-        return false;
+    const auto problem =
+        copyContent(entry, [this](const char* data, qint64 length) { return m_folder.write(data, length); });
+    if (problem) {
+        m_folder.discard();
+        return problem;
     }
-    setPermissions(file, permissions);
-    return true;
+    const WriteResult result = m_folder.commit(entry.entry.permissions(), entry.entry.lastModified());
+    return result == WriteResult::Done ? std::nullopt : std::make_optional(problemOf(result));
 }
 
-bool Extractor::replaceFile(const QString& target, QFile::Permissions permissions)
+std::optional<ArchiveProblem> Extractor::makeLink(const UnpackedEntry& entry, const QString& name)
 {
-    const QFileInfo existing(target);
-    if (existing.isSymLink() || !existing.isFile()) {
-        return false;
+    if (m_rules == NameRules::Windows) {
+        return ArchiveProblem::OutsideFolder;
     }
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || !copyContent(file)) {
-        return false;
-    }
-    setPermissions(file, permissions);
-    return file.commit();
-}
-
-bool Extractor::copyContent(QIODevice& target)
-{
-    QuaZipFile entry(&m_zip);
-    if (!entry.open(QIODevice::ReadOnly) || entry.getZipError() != UNZ_OK) {
-        return false;
-    }
-    quint64 size = 0;
-    qint64 length = 0;
-    while ((length = entry.read(m_block.get(), blockSize)) > 0) {
-        if (target.write(m_block.get(), length) != length) {
-            return false;
-        }
-        size += static_cast<quint64>(length);
-        m_written += length;
-        if (m_progress && !m_progress(m_written)) {
-            m_cancelled = true;
-            return false;
-        }
-    }
-    const bool readToItsEnd =
-        length == 0 && entry.getZipError() == UNZ_OK && size == m_entry.uncompressedSize;
-    entry.close(); // compares the checksum
-    return readToItsEnd && entry.getZipError() == UNZ_OK;
-}
-
-bool Extractor::extractLink(const QString& target)
-{
-    if (m_rules == NameRules::Windows || m_entry.uncompressedSize > longestLinkTarget) {
-        return false;
+    if (entry.entry.size > longestLinkTarget) {
+        return ArchiveProblem::Damaged;
     }
     QByteArray text;
-    QBuffer buffer(&text);
-    buffer.open(QIODevice::WriteOnly);
-    if (!copyContent(buffer)) {
-        return false;
+    const auto problem = copyContent(entry, [&](const char* data, qint64 length) {
+        text.append(data, static_cast<int>(length));
+        return text.size() > longestLinkTarget ? WriteResult::Failed : WriteResult::Done;
+    });
+    if (problem) {
+        return problem;
     }
-    const QString destination = QFile::decodeName(text);
-    if (!linkStaysInside(m_folder.currentRealParts(), destination)) {
-        return false;
+    const QString target = QFile::decodeName(text);
+    if (!linkStaysInside(m_folder.realParts(), target)) {
+        return ArchiveProblem::OutsideFolder;
     }
-    const QFileInfo existing(target);
-    if (existing.isSymLink()) {
-        const QString whole = QDir::cleanPath(m_folder.currentPath() + QLatin1Char('/') + destination);
-        return QDir::cleanPath(existing.symLinkTarget()) == whole;
+    const WriteResult result = m_folder.createLink(name, target);
+    return result == WriteResult::Done ? std::nullopt : std::make_optional(problemOf(result));
+}
+
+/// \param write takes a block and returns a WriteResult
+template <class Write>
+std::optional<ArchiveProblem> Extractor::copyContent(const UnpackedEntry& unpacked, const Write& write)
+{
+    const DirectoryEntry& entry = unpacked.entry;
+    if (unpacked.content) {
+        for (qint64 done = 0; done < entry.size;) {
+            const qint64 length = std::min(entry.size - done, largestInMemory);
+            const WriteResult result = write(unpacked.content.get() + done, length);
+            if (result != WriteResult::Done) {
+                return problemOf(result);
+            }
+            done += length;
+        }
+        m_work.advance(entry.size, unpacked.name);
+        return std::nullopt;
     }
-    return QFile::link(destination, target);
+    const bool wrapped = m_directory.isWrapped();
+    const qint64 packedSize =
+        wrapped && entry.method != Stored ? m_directory.begin() - unpacked.position : entry.packedSize;
+    const qint64 largest = wrapped ? DirectoryCheck::largestContent(m_file.size()) : entry.size;
+    ContentStream stream(m_file, unpacked.position, packedSize, entry.method);
+    const std::unique_ptr<char[]> block(new char[blockSize]);
+    quint32 checksum = 0;
+    qint64 size = 0;
+    qint64 length = 0;
+    while ((length = stream.read(block.get(), blockSize)) > 0) {
+        size += length;
+        checksum = updatedChecksum(checksum, block.get(), length);
+        if (size > largest) {
+            return ArchiveProblem::Damaged;
+        }
+        const WriteResult result = write(block.get(), length);
+        if (result != WriteResult::Done) {
+            return problemOf(result);
+        }
+        m_work.advance(length, unpacked.name);
+        if (m_work.stopRequired()) {
+            return ArchiveProblem::Stopped;
+        }
+    }
+    const bool sizesFit =
+        wrapped ? static_cast<quint32>(size) == static_cast<quint32>(entry.size) &&
+                      static_cast<quint32>(stream.packedRead()) == static_cast<quint32>(entry.packedSize)
+                : size == entry.size;
+    return length == 0 && sizesFit && checksum == entry.checksum
+               ? std::nullopt
+               : std::make_optional(ArchiveProblem::Damaged);
 }
 
 } // namespace
 
-bool extractEntries(const QString& archive, const QString& folder, const ArchiveProgress& progress)
+void unpackArchive(ArchiveWork& work)
 {
-    return Extractor(archive, folder, progress).extractAll();
+    Extractor(work).extractAll();
 }
 
 bool DecompressFiles(const std::wstring& archive, const std::wstring& folder)
 {
-    return extractEntries(QString::fromStdWString(archive), QString::fromStdWString(folder));
+    const ArchiveTask task =
+        ArchiveTask::unpack(QString::fromStdWString(archive), QString::fromStdWString(folder));
+    ArchiveWork work(task, {}, {});
+    unpackArchive(work);
+    return work.finish().isComplete();
 }
 
 } // namespace TOLVAN_NAMESPACE

@@ -1,10 +1,6 @@
 #include "ArchiveNames.h"
 
-#include <quazip/quacrc32.h>
-#include <quazip/quazipfileinfo.h>
-
 #include <QDir>
-#include <QTextCodec>
 
 #include <algorithm>
 
@@ -14,66 +10,20 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr quint16 unicodePathField = 0x7075;
-constexpr int deepestName = 256; // Deepest nesting accepted: creating folders slows down with depth.
-
-/// The upper half of code page 437, which the zip format takes for unmarked names.
-constexpr char16_t upperHalf[] = u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒ"
-                                 u"áíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐"
-                                 u"└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀"
-                                 u"αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00a0";
-
-QString fromCodePage437(const QByteArray& raw)
+bool isSeparator(QChar c)
 {
-    QString text;
-    text.reserve(raw.size());
-    for (const char byte : raw) {
-        const auto code = static_cast<unsigned char>(byte);
-        text += QChar(code < 0x80 ? char16_t(code) : upperHalf[code - 0x80]);
-    }
-    return text;
+    return c == QLatin1Char('/') || c == QLatin1Char('\\');
 }
 
-/// \return null when the bytes are no valid UTF-8
-QString fromStrictUtf8(const QByteArray& raw)
-{
-    static QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
-    QTextCodec::ConverterState state;
-    const QString text = utf8->toUnicode(raw.constData(), raw.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? text : QString();
-}
-
-/// The "Info-ZIP Unicode Path" field: version 1, CRC of the name it stands for, the name in UTF-8.
-QString unicodePath(const QByteArray& raw, const QByteArray& extra)
-{
-    const QList<QByteArray> fields = QuaZipFileInfo64::parseExtraField(extra).value(unicodePathField);
-    if (fields.isEmpty() || fields.constFirst().size() < 5 || fields.constFirst().at(0) != 1) {
-        return {};
-    }
-    const QByteArray& field = fields.constFirst();
-    quint32 crc = 0;
-    for (int i = 4; i >= 1; --i) {
-        crc = crc << 8 | static_cast<unsigned char>(field.at(i));
-    }
-    QuaCrc32 calculator;
-    return calculator.calculate(raw) == crc ? fromStrictUtf8(field.mid(5)) : QString();
-}
-
-bool isDrive(const QString& name)
+/// Whether the name begins with a drive. On Unix "a:1.jpg" is a plain name, "a:/1.jpg" was a path on Windows.
+bool hasDrive(const QString& name, NameRules rules)
 {
     const auto isLetter = [](QChar c) {
         return (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ||
                (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
     };
-    return name.size() >= 2 && name.at(1) == QLatin1Char(':') && isLetter(name.at(0));
-}
-
-bool leadsUp(const QString& name)
-{
-    QString slashes = name;
-    slashes.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return slashes.startsWith(QLatin1Char('/')) ||
-           slashes.split(QLatin1Char('/')).contains(QLatin1String(".."));
+    return name.size() >= 2 && name.at(1) == QLatin1Char(':') && isLetter(name.at(0)) &&
+           (rules == NameRules::Windows || (name.size() >= 3 && isSeparator(name.at(2))));
 }
 
 /// A device name with any suffix still names the device.
@@ -111,19 +61,18 @@ NameRules nativeNameRules()
     return QDir::separator() == QLatin1Char('\\') ? NameRules::Windows : NameRules::Unix;
 }
 
-QString decodeUnmarkedName(const QByteArray& raw, const QByteArray& extra)
+bool leadsOutside(const QString& name, NameRules rules)
 {
-    const QString attached = unicodePath(raw, extra);
-    if (!attached.isNull()) {
-        return attached;
-    }
-    const QString utf8 = fromStrictUtf8(raw);
-    return utf8.isNull() ? fromCodePage437(raw) : utf8;
+    QString slashes = name;
+    slashes.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QString& start = rules == NameRules::Windows ? slashes : name;
+    return hasDrive(name, rules) || start.startsWith(QLatin1Char('/')) ||
+           slashes.split(QLatin1Char('/')).contains(QLatin1String(".."));
 }
 
 QStringList safeParts(const QString& name, NameRules rules)
 {
-    if (isDrive(name) || leadsUp(name)) {
+    if (leadsOutside(name, rules)) {
         return {};
     }
     QString slashes = name;

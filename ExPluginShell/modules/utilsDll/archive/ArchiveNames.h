@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 namespace TOLVAN_NAMESPACE
 {
 
-/// Names of archive entries: what their bytes say, and which of them may become files. Internal.
+/// Names of archive entries: which of them may become files. Internal.
 
 /// The system whose file names an entry has to fit.
 enum class NameRules {
@@ -18,16 +17,14 @@ enum class NameRules {
 /// The rules of the system that this runs on.
 NameRules nativeNameRules();
 
-/// Text of an entry's name that carries no mark of UTF-8.
-/// \param raw   the bytes of the name
-/// \param extra the entry's extra fields: a UTF-8 name there is taken when it was made for these bytes
-/// \return the bytes as UTF-8 where they are valid as such, else in code page 437
-QString decodeUnmarkedName(const QByteArray& raw, const QByteArray& extra);
+constexpr int deepestName = 256; ///< Deepest nesting accepted: creating folders slows down with depth.
 
-/// The parts of an entry's name, "." and empty ones left out, if it names something below the folder that is
-/// unpacked into; a backslash divides parts under Windows rules only, but ".." and absolute paths are refused
-/// in both spellings everywhere, and so are drives.
-/// \return an empty list when the name leads outside or can't be a file under these rules
+/// Whether an entry's name leads out of the folder: absolute, with a drive or "..". A backslash counts as a
+/// separator under Windows rules, and in ".." under both.
+bool leadsOutside(const QString& name, NameRules rules);
+
+/// The parts of an entry's name, without "." and empty ones.
+/// \return an empty list if the name leads outside, can't be a file under these rules, or is nested too deeply
 QStringList safeParts(const QString& name, NameRules rules);
 
 /// Whether a link's target stays below the root.

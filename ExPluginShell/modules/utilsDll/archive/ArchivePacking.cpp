@@ -1,20 +1,30 @@
-#include "ArchivePacking.h"
-
+#include "ArchiveNames.h"
 #include "ArchiveTarget.h"
-#include "RawDeflater.h"
+#include "ArchiveWork.h"
+#include "ContentStream.h"
+#include "Deflater.h"
+#include "OrderedWork.h"
+#include "PackedFiles.h"
+#include "platform/RegularFile.h"
 
-#include <quazip/JlCompress.h>
 #include <quazip/quazip.h>
 #include <quazip/quazipfile.h>
 #include <quazip/quazipnewinfo.h>
 
-#include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
+#include <QtEndian>
+
+#include <zlib.h>
 
 #include <algorithm>
-#include <memory>
+#include <filesystem>
+#include <mutex>
+#include <new>
+#include <numeric>
+#include <optional>
+#include <thread>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -22,139 +32,371 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-constexpr int blockSize = 128 * 1024;
-constexpr int longestName = 0xFFFF; // bytes; the format has no room for more
+constexpr qint64 blockSize = 256 * 1024;
+constexpr qint64 largestInMemory = 24 * 1024 * 1024; // Larger files are packed block by block.
+constexpr qint64 mostInMemory = 80 * 1024 * 1024;
+constexpr qint64 pieceSize = 256 * 1024; // Small files are handed to a thread together.
+constexpr std::size_t mostInPiece = 64;
+constexpr int mostHelpers = 15;
 /// A file that may come near the format's old limit of 4 GiB, also when packing makes it larger.
 constexpr qint64 largeFile = 0xF0000000;
+constexpr int firstYear = 1980; // of the format
+constexpr int lastYear = 2107;
+constexpr quint32 dosFolder = 0x10;
 
 bool isPlainAscii(const QString& name)
 {
     return std::all_of(name.begin(), name.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-/// Packs files into one archive. Small ones are deflated in memory, with one stream for all: setting one up
-/// takes longer than packing them.
+/// Deflaters that are not in use: making one takes longer than packing a small file.
+class Deflaters
+{
+public:
+    std::unique_ptr<Deflater> take()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_free.empty()) {
+            return std::make_unique<Deflater>();
+        }
+        auto deflater = std::move(m_free.back());
+        m_free.pop_back();
+        return deflater;
+    }
+    void giveBack(std::unique_ptr<Deflater> deflater)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_free.push_back(std::move(deflater));
+    }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::unique_ptr<Deflater>> m_free;
+};
+
+/// A file on its way into the archive.
+struct PackedContent {
+    PackedFile file;
+    std::unique_ptr<char[]> data; ///< null if the file is packed block by block, and for a folder
+    qint64 size = 0;              ///< of the data
+    quint16 method = Stored;
+    quint32 checksum = 0;
+    std::optional<ArchiveProblem> problem;
+
+    bool fitsMemory() const { return !file.isFolder && file.size <= largestInMemory; }
+    void setStored(const QByteArray& text)
+    {
+        file.size = size = text.size();
+        data.reset(new char[static_cast<std::size_t>(size) + 1]);
+        std::copy(text.begin(), text.end(), data.get());
+        checksum = updatedChecksum(0, text.constData(), size);
+    }
+};
+
+std::optional<ArchiveProblem> openContent(QFile& file)
+{
+    if (Platform::openRegularFile(file)) {
+        return std::nullopt;
+    }
+    const QFileInfo info(file);
+    return !info.exists()      ? ArchiveProblem::NotFound
+           : !info.isFile()    ? ArchiveProblem::NotAFile
+           : info.isReadable() ? ArchiveProblem::ReadFailed
+                               : ArchiveProblem::AccessDenied;
+}
+
+/// Reads and deflates a file that fits into memory.
+std::optional<ArchiveProblem> packInMemory(PackedContent& content, Deflater& deflater)
+{
+    const qint64 size = content.file.size;
+    const auto allocated = [size] {
+        return std::unique_ptr<char[]>(new (std::nothrow) char[static_cast<std::size_t>(size) + 1]);
+    };
+    QFile file(content.file.path);
+    if (const auto problem = openContent(file)) {
+        return problem;
+    }
+    std::unique_ptr<char[]> plain = allocated();
+    std::unique_ptr<char[]> packed = allocated();
+    const qint64 length = plain && packed ? file.read(plain.get(), size + 1) : -1; // one more: has it grown?
+    if (length != size) {
+        return length < 0 ? ArchiveProblem::ReadFailed : ArchiveProblem::Changed;
+    }
+    content.checksum = updatedChecksum(0, plain.get(), size);
+    content.size = deflater.deflate(plain.get(), size, packed.get());
+    if (content.size > 0) {
+        content.method = Deflated;
+        content.data = std::move(packed);
+    } else {
+        content.size = size;
+        content.data = std::move(plain);
+    }
+    return std::nullopt;
+}
+
+/// Files that one thread reads and deflates.
+class PackedPiece
+{
+public:
+    explicit PackedPiece(Deflaters& deflaters)
+        : m_deflaters(deflaters)
+    {
+    }
+    bool isFull() const { return m_memory >= pieceSize || contents.size() >= mostInPiece; }
+    void add(PackedFile&& file)
+    {
+        PackedContent content;
+        content.file = std::move(file);
+        m_memory += content.fitsMemory() ? 2 * content.file.size : 0;
+        contents.push_back(std::move(content));
+    }
+    qint64 memory() const { return m_memory; }
+    void work()
+    {
+        std::unique_ptr<Deflater> deflater = m_deflaters.take();
+        for (PackedContent& content : contents) {
+            if (content.file.isLink) {
+                std::error_code error;
+                const auto target = std::filesystem::read_symlink(
+                    std::filesystem::path(QFile::encodeName(content.file.path).toStdString()), error);
+                content.setStored(QByteArray::fromStdString(target.string()));
+                content.problem = error ? std::make_optional(ArchiveProblem::ReadFailed) : std::nullopt;
+            } else if (content.fitsMemory()) {
+                content.problem = packInMemory(content, *deflater);
+            }
+        }
+        m_deflaters.giveBack(std::move(deflater));
+    }
+
+    std::vector<PackedContent> contents;
+
+private:
+    Deflaters& m_deflaters;
+    qint64 m_memory = 0;
+};
+
+QuaZipNewInfo infoOf(const PackedFile& file)
+{
+    const QDateTime first(QDate(firstYear, 1, 1), QTime(0, 0));
+    const QDateTime last(QDate(lastYear, 12, 31), QTime(23, 59, 58));
+    QuaZipNewInfo info(file.name);
+    info.dateTime = std::clamp(file.lastModified, first, last);
+    info.setPermissions(file.permissions);
+    const quint32 type = file.isLink ? 0120000u : file.isFolder ? 0040000u : 0100000u;
+    const quint32 permissions = file.isLink ? 0777u : (info.externalAttr >> 16) & 07777u;
+    info.externalAttr = (type | permissions) << 16 | (file.isFolder ? dosFolder : 0);
+    const qint64 time = file.lastModified.toSecsSinceEpoch();
+    if (time == static_cast<qint32>(time)) {
+        char field[9] = {'U', 'T', 5, 0, 1};
+        qToLittleEndian<qint32>(static_cast<qint32>(time), field + 5);
+        info.extraLocal = info.extraGlobal = QByteArray(field, sizeof field);
+    }
+    return info;
+}
+
+/// Packs files into one archive.
 class Packer
 {
 public:
-    Packer(QIODevice& target, const ArchiveProgress& progress)
+    Packer(QIODevice& target, ArchiveWork& work)
         : m_zip(&target)
-        , m_progress(progress)
-        , m_block(new char[blockSize])
+        , m_work(work)
     {
         m_zip.setAutoClose(false);
     }
 
-    bool pack(const QVector<PackedFile>& files);
+    /// \return whether the archive is complete, but for the files that were left out
+    bool pack(std::vector<PackedFile>& files);
 
 private:
-    bool packFile(const PackedFile& file);
-    bool packWhole(QFile& file, const QuaZipNewInfo& info);
-    bool packInBlocks(QFile& file, const QuaZipNewInfo& info);
-    bool report(qint64 length);
+    void packFiles(std::vector<PackedFile>& files);
+    void packPiece(PackedPiece& piece);
+    std::optional<ArchiveProblem> packContent(const PackedContent& content);
+    std::optional<ArchiveProblem> packInBlocks(const PackedFile& file, const QuaZipNewInfo& info);
 
     QuaZip m_zip;
-    const ArchiveProgress& m_progress;
-    const std::unique_ptr<char[]> m_block;
-    RawDeflater m_deflater;
-    qint64 m_read = 0;
+    ArchiveWork& m_work;
+    Deflaters m_deflaters;
+    bool m_failed = false; ///< the archive can't become complete
 };
 
-bool Packer::pack(const QVector<PackedFile>& files)
+bool Packer::pack(std::vector<PackedFile>& files)
 {
     m_zip.setUtf8Enabled(!std::all_of(files.begin(), files.end(),
                                       [](const PackedFile& file) { return isPlainAscii(file.name); }));
     if (!m_zip.open(QuaZip::mdCreate)) {
         return false;
     }
-    const bool packed =
-        std::all_of(files.begin(), files.end(), [this](const PackedFile& file) { return packFile(file); });
+    packFiles(files);
     m_zip.close();
-    return packed && m_zip.getZipError() == ZIP_OK;
+    return !m_failed && m_zip.getZipError() == ZIP_OK;
 }
 
-bool Packer::packFile(const PackedFile& file)
+void Packer::packFiles(std::vector<PackedFile>& files)
 {
-    const QFileInfo source(file.path);
-    if (!source.exists() || (source.isDir() && !source.isSymLink()) || file.name.isEmpty() ||
-        file.name.toUtf8().size() > longestName) {
-        return false;
+    const qint64 size = std::accumulate(files.begin(), files.end(), qint64(0),
+                                        [](qint64 sum, const PackedFile& file) { return sum + file.size; });
+    m_work.setTotal(size);
+    const int processors = static_cast<int>(std::thread::hardware_concurrency());
+    const qint64 helpers = std::min<qint64>({processors - 1, mostHelpers, size / pieceSize});
+    OrderedWork<PackedPiece> pieces(static_cast<int>(std::max<qint64>(helpers, 0)), mostInMemory);
+    auto next = files.begin();
+    while (next != files.end() && !m_failed && !m_work.stopRequired()) {
+        auto piece = std::make_unique<PackedPiece>(m_deflaters);
+        while (next != files.end() && !piece->isFull()) {
+            piece->add(std::move(*next++));
+        }
+        while (pieces.isFull(piece->memory())) {
+            packPiece(*pieces.take());
+        }
+        pieces.add(std::move(piece));
     }
-    m_zip.setZip64Enabled(source.size() >= largeFile);
-    if (source.isSymLink()) {
-        return JlCompress::compressFile(&m_zip, file.path, file.name);
+    while (!pieces.isEmpty()) {
+        packPiece(*pieces.take());
     }
-    QFile content(file.path);
-    if (!content.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return false;
+    for (; m_work.stopRequired() && next != files.end(); ++next) {
+        m_work.fail(next->path, ArchiveProblem::Stopped);
     }
-    QuaZipNewInfo info(file.name);
-    info.dateTime = source.lastModified();
-    info.setPermissions(source.permissions());
-    return source.size() < blockSize ? packWhole(content, info) : packInBlocks(content, info);
 }
 
-bool Packer::packWhole(QFile& file, const QuaZipNewInfo& info)
+void Packer::packPiece(PackedPiece& piece)
 {
-    qint64 size = 0;
-    while (size < blockSize) {
-        const qint64 length = file.read(m_block.get() + size, blockSize - size);
-        if (length < 0) {
-            return false;
+    for (PackedContent& content : piece.contents) {
+        std::optional<ArchiveProblem> problem = content.problem;
+        if (m_work.stopRequired()) {
+            problem = ArchiveProblem::Stopped;
+        } else if (!problem && !m_failed) {
+            problem = packContent(content);
+            m_failed = problem.has_value(); // a part of the entry may be in the archive
         }
-        if (length == 0) {
-            break;
+        if (problem) {
+            m_work.fail(content.file.path, *problem);
+            m_failed = m_failed || !m_work.task().skipFailedFiles;
+        } else if (!m_failed) {
+            m_work.succeed();
         }
-        size += length;
+        content.data.reset();
     }
-    if (size == blockSize) { // has grown meanwhile
-        return file.seek(0) && packInBlocks(file, info);
+}
+
+std::optional<ArchiveProblem> Packer::packContent(const PackedContent& content)
+{
+    const PackedFile& file = content.file;
+    QuaZipNewInfo info = infoOf(file);
+    m_zip.setZip64Enabled(file.size >= largeFile);
+    if (!content.data && !file.isFolder) {
+        return packInBlocks(file, info);
     }
-    const RawDeflater::Result deflated = m_deflater.deflate(m_block.get(), static_cast<int>(size));
-    if (!deflated.data) {
-        return false;
-    }
-    QuaZipNewInfo rawInfo = info;
-    rawInfo.uncompressedSize = static_cast<ulong>(size);
+    info.uncompressedSize = static_cast<ulong>(file.size);
     QuaZipFile entry(&m_zip);
-    if (!entry.open(QIODevice::WriteOnly, rawInfo, nullptr, deflated.checksum, Z_DEFLATED,
+    if (!entry.open(QIODevice::WriteOnly, info, nullptr, content.checksum, content.method,
                     Z_DEFAULT_COMPRESSION, true) ||
-        entry.write(deflated.data, deflated.size) != deflated.size) {
-        return false;
+        (content.size > 0 && entry.write(content.data.get(), content.size) != content.size)) {
+        return ArchiveProblem::WriteFailed;
     }
     entry.close();
-    return entry.getZipError() == ZIP_OK && report(size);
+    if (entry.getZipError() != ZIP_OK) {
+        return ArchiveProblem::WriteFailed;
+    }
+    m_work.advance(file.size, file.name);
+    return std::nullopt;
 }
 
-bool Packer::packInBlocks(QFile& file, const QuaZipNewInfo& info)
+std::optional<ArchiveProblem> Packer::packInBlocks(const PackedFile& file, const QuaZipNewInfo& info)
 {
+    QFile content(file.path);
+    if (const auto problem = openContent(content)) {
+        return problem;
+    }
     QuaZipFile entry(&m_zip);
     if (!entry.open(QIODevice::WriteOnly, info)) {
-        return false;
+        return ArchiveProblem::WriteFailed;
     }
+    const std::unique_ptr<char[]> block(new char[blockSize]);
+    qint64 size = 0;
     qint64 length = 0;
-    while ((length = file.read(m_block.get(), blockSize)) > 0) {
-        if (entry.write(m_block.get(), length) != length || !report(length)) {
-            return false;
+    while (size <= file.size && (length = content.read(block.get(), blockSize)) > 0) {
+        if (entry.write(block.get(), length) != length) {
+            return ArchiveProblem::WriteFailed;
+        }
+        size += length;
+        m_work.advance(length, file.name);
+        if (m_work.stopRequired()) {
+            return ArchiveProblem::Stopped;
         }
     }
     entry.close();
-    return length == 0 && entry.getZipError() == ZIP_OK;
+    if (length < 0 || size != file.size) {
+        return length < 0 ? ArchiveProblem::ReadFailed : ArchiveProblem::Changed;
+    }
+    return entry.getZipError() == ZIP_OK ? std::nullopt : std::make_optional(ArchiveProblem::WriteFailed);
 }
 
-bool Packer::report(qint64 length)
+/// Lists the files, each after a look whether it can be read.
+void checkFiles(ArchiveWork& work, const std::vector<PackedFile>& files)
 {
-    m_read += length;
-    return !m_progress || m_progress(m_read);
+    for (const PackedFile& file : files) {
+        if (work.stopRequired()) {
+            return;
+        }
+        QFile content(file.path);
+        const auto problem = file.isLink || file.isFolder ? std::nullopt : openContent(content);
+        work.list({file.name, file.size, -1, file.lastModified, file.isLink});
+        if (problem) {
+            work.fail(file.path, *problem);
+        } else {
+            work.advance(file.size, file.name);
+            work.succeed();
+        }
+    }
+}
+
+ArchiveProblem targetProblem(const QString& archive)
+{
+    const QFileInfo info(archive);
+    if (info.exists() && !info.isFile()) {
+        return ArchiveProblem::InTheWay;
+    }
+    const QFileInfo folder(info.absolutePath());
+    if (!folder.isDir()) {
+        return folder.exists() ? ArchiveProblem::InTheWay : ArchiveProblem::AccessDenied;
+    }
+    if (!folder.isWritable() || (info.exists() && !info.isWritable())) {
+        return ArchiveProblem::AccessDenied;
+    }
+    const qint64 available = QStorageInfo(folder.filePath()).bytesAvailable();
+    return available >= 0 && available < blockSize ? ArchiveProblem::DiskFull : ArchiveProblem::WriteFailed;
 }
 
 } // namespace
 
-bool packFiles(const QVector<PackedFile>& files, const QString& archive, const ArchiveProgress& progress)
+void packArchive(ArchiveWork& work)
 {
-    QDir().mkpath(QFileInfo(archive).absolutePath());
-    ArchiveTarget target(archive);
-    return target.begin() && Packer(target, progress).pack(files) && target.commit();
+    const ArchiveTask& task = work.task();
+    std::vector<PackedFile> files = filesToPack(work);
+    const qint64 missing = work.failed();
+    work.setEntries(static_cast<qint64>(files.size()) + missing);
+    if (task.dryRun) {
+        checkFiles(work, files);
+        return;
+    }
+    if (missing > 0 && !task.skipFailedFiles) {
+        return;
+    }
+    QDir().mkpath(QFileInfo(task.archive).absolutePath());
+    ArchiveTarget target(task.archive);
+    bool complete = target.begin();
+    if (complete) {
+        Packer packer(target, work);
+        complete = packer.pack(files) && !work.stopRequired();
+    }
+    if (complete && target.commit()) {
+        return;
+    }
+    work.withdraw();
+    if (work.failed() == missing && !work.stopRequired()) {
+        work.fail(task.archive, targetProblem(task.archive));
+    }
 }
 
 } // namespace TOLVAN_NAMESPACE

@@ -1,7 +1,5 @@
 #include "ArchiveTarget.h"
 
-#include <QFile>
-
 #include <cstring>
 
 namespace TOLVAN_NAMESPACE
@@ -18,34 +16,14 @@ ArchiveTarget::ArchiveTarget(const QString& path)
     m_block.reserve(blockSize);
 }
 
-ArchiveTarget::~ArchiveTarget()
-{
-    if (m_direct && !m_committed) {
-        m_file.cancelWriting();
-        m_file.commit();
-        // No half archive: where the folder does not let it go, it is emptied at least.
-        if (!QFile::remove(m_file.fileName())) {
-            QFile::resize(m_file.fileName(), 0);
-        }
-    }
-}
-
 bool ArchiveTarget::begin()
 {
-    if (!m_file.open(QIODevice::WriteOnly)) {
-        m_file.setDirectWriteFallback(true);
-        if (!m_file.open(QIODevice::WriteOnly)) {
-            return false;
-        }
-        m_direct = true;
-    }
-    return QIODevice::open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    return m_file.open(QIODevice::WriteOnly) && QIODevice::open(QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
 bool ArchiveTarget::commit()
 {
-    m_committed = flushBlock() && m_file.commit();
-    return m_committed;
+    return flushBlock() && m_file.commit();
 }
 
 bool ArchiveTarget::seek(qint64 position)
@@ -58,7 +36,7 @@ qint64 ArchiveTarget::writeData(const char* data, qint64 length)
     const qint64 position = pos();
     const bool inBlock = position >= m_blockStart && position + length <= m_blockStart + blockSize;
     if (!inBlock) {
-        // An older header, or a full block: what is collected goes out first.
+        // An older header, or a full block: the collected bytes are written first.
         if (!flushBlock() || !m_file.seek(position)) {
             return -1;
         }

@@ -1,23 +1,23 @@
 #pragma once
 
+#include "platform/FileReplacement.h"
+
 #include <QByteArray>
 #include <QIODevice>
-#include <QSaveFile>
 #include <QString>
 
 namespace TOLVAN_NAMESPACE
 {
 
-/// The file that a new archive is written to: a temporary one that commit() puts in the place of the target.
-/// Where the folder refuses it, the target itself. Without commit() there is no archive afterwards.
+/// The file that a new archive is written to. It replaces the target whole, in commit(); without that the target
+/// stays as it was. Internal.
 ///
 /// Writes are collected in a large block, in which the headers of small entries are completed as well: that
-/// saves most calls of the system. Internal.
+/// saves most calls of the system.
 class ArchiveTarget : public QIODevice
 {
 public:
     explicit ArchiveTarget(const QString& path);
-    ~ArchiveTarget() override;
 
     bool begin();
     /// \return whether the archive is complete and in its place
@@ -34,11 +34,9 @@ protected:
 private:
     bool flushBlock();
 
-    QSaveFile m_file;
+    Platform::FileReplacement m_file;
     QByteArray m_block;
     qint64 m_blockStart = 0; ///< position of the block in the file
-    bool m_direct = false;
-    bool m_committed = false;
 };
 
 } // namespace TOLVAN_NAMESPACE

@@ -241,4 +241,103 @@ Bitte schließen Sie einige andere Programme und versuchen Sie dann, Trelio Fram
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>TOLVAN_NAMESPACE::CArchiveJob</name>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>not a zip archive</source>
+        <translation>kein ZIP-Archiv</translation>
+    </message>
+    <message>
+        <source>unsupported compression method</source>
+        <translation>nicht unterstütztes Kompressionsverfahren</translation>
+    </message>
+    <message>
+        <source>protected by a password</source>
+        <translation>durch ein Passwort geschützt</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>name not allowed</source>
+        <translation>Name nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>führt aus dem Ordner heraus</translation>
+    </message>
+    <message>
+        <source>shares data with another entry</source>
+        <translation>teilt Daten mit einem anderen Eintrag</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>not enough disk space</source>
+        <translation>nicht genug Speicherplatz</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>name used by a folder or a link</source>
+        <translation>Name durch einen Ordner oder eine Verknüpfung belegt</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>während des Lesens verändert</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 of %2 entries (%3).</source>
+        <translation>Abgebrochen nach %1 von %2 Einträgen (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3).</source>
+        <translation>%1 von %2 Einträgen geprüft (%3).</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3).</source>
+        <translation>%1 von %2 Einträgen gepackt (%3).</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3).</source>
+        <translation>%1 von %2 Einträgen entpackt (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 von %2 Einträgen geprüft (%3). %4: %5.</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 von %2 Einträgen gepackt (%3). %4: %5.</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 von %2 Einträgen entpackt (%3). %4: %5.</translation>
+    </message>
+</context>
 </TS>

@@ -241,4 +241,103 @@ Please close some other programs and try to start Trelio Frame again.</translati
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>TOLVAN_NAMESPACE::CArchiveJob</name>
+    <message>
+        <source>not found</source>
+        <translation>not found</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>not a file</translation>
+    </message>
+    <message>
+        <source>not a zip archive</source>
+        <translation>not a zip archive</translation>
+    </message>
+    <message>
+        <source>unsupported compression method</source>
+        <translation>unsupported compression method</translation>
+    </message>
+    <message>
+        <source>protected by a password</source>
+        <translation>protected by a password</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>damaged</translation>
+    </message>
+    <message>
+        <source>name not allowed</source>
+        <translation>name not allowed</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>leads out of the folder</translation>
+    </message>
+    <message>
+        <source>shares data with another entry</source>
+        <translation>shares data with another entry</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>too large</translation>
+    </message>
+    <message>
+        <source>not enough disk space</source>
+        <translation>not enough disk space</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>access denied</translation>
+    </message>
+    <message>
+        <source>name used by a folder or a link</source>
+        <translation>name used by a folder or a link</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>changed while it was read</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>cannot be read</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>cannot be written</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>stopped</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 of %2 entries (%3).</source>
+        <translation>Stopped after %1 of %2 entries (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3).</source>
+        <translation>Checked %1 of %2 entries (%3).</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3).</source>
+        <translation>Packed %1 of %2 entries (%3).</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3).</source>
+        <translation>Unpacked %1 of %2 entries (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>Checked %1 of %2 entries (%3). %4: %5.</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3). %4: %5.</source>
+        <translation>Packed %1 of %2 entries (%3). %4: %5.</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>Unpacked %1 of %2 entries (%3). %4: %5.</translation>
+    </message>
+</context>
 </TS>

@@ -241,4 +241,103 @@ Veuillez fermer d’autres programmes, puis relancer Trelio Frame.</translation>
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>TOLVAN_NAMESPACE::CArchiveJob</name>
+    <message>
+        <source>not found</source>
+        <translation>introuvable</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>not a zip archive</source>
+        <translation>n’est pas une archive ZIP</translation>
+    </message>
+    <message>
+        <source>unsupported compression method</source>
+        <translation>méthode de compression non prise en charge</translation>
+    </message>
+    <message>
+        <source>protected by a password</source>
+        <translation>protégé par un mot de passe</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagé</translation>
+    </message>
+    <message>
+        <source>name not allowed</source>
+        <translation>nom non autorisé</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>mène hors du dossier</translation>
+    </message>
+    <message>
+        <source>shares data with another entry</source>
+        <translation>partage des données avec un autre élément</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>trop volumineux</translation>
+    </message>
+    <message>
+        <source>not enough disk space</source>
+        <translation>espace disque insuffisant</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>accès refusé</translation>
+    </message>
+    <message>
+        <source>name used by a folder or a link</source>
+        <translation>nom utilisé par un dossier ou un lien</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>modifié pendant la lecture</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>lecture impossible</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>écriture impossible</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>interrompu</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 of %2 entries (%3).</source>
+        <translation>Interrompu après %1 éléments sur %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3).</source>
+        <translation>%1 éléments vérifiés sur %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3).</source>
+        <translation>%1 éléments compressés sur %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3).</source>
+        <translation>%1 éléments décompressés sur %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 éléments vérifiés sur %2 (%3). %4 : %5.</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 éléments compressés sur %2 (%3). %4 : %5.</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%1 éléments décompressés sur %2 (%3). %4 : %5.</translation>
+    </message>
+</context>
 </TS>

@@ -238,4 +238,103 @@
         <translation>mm</translation>
     </message>
 </context>
+<context>
+    <name>TOLVAN_NAMESPACE::CArchiveJob</name>
+    <message>
+        <source>not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>not a zip archive</source>
+        <translation>ZIP アーカイブではありません</translation>
+    </message>
+    <message>
+        <source>unsupported compression method</source>
+        <translation>対応していない圧縮方式です</translation>
+    </message>
+    <message>
+        <source>protected by a password</source>
+        <translation>パスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>破損しています</translation>
+    </message>
+    <message>
+        <source>name not allowed</source>
+        <translation>使用できない名前です</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>フォルダーの外を指しています</translation>
+    </message>
+    <message>
+        <source>shares data with another entry</source>
+        <translation>別の項目とデータを共有しています</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>not enough disk space</source>
+        <translation>ディスクの空き容量が不足しています</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>アクセスが拒否されました</translation>
+    </message>
+    <message>
+        <source>name used by a folder or a link</source>
+        <translation>名前がフォルダーまたはリンクで使用されています</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>読み取り中に変更されました</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>書き込めません</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>中止されました</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 of %2 entries (%3).</source>
+        <translation>%2 個中 %1 個の項目 (%3) を処理した後に中止しました。</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3).</source>
+        <translation>%2 個中 %1 個の項目 (%3) を確認しました。</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3).</source>
+        <translation>%2 個中 %1 個の項目 (%3) を圧縮しました。</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3).</source>
+        <translation>%2 個中 %1 個の項目 (%3) を展開しました。</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%2 個中 %1 個の項目 (%3) を確認しました。%4: %5。</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%2 個中 %1 個の項目 (%3) を圧縮しました。%4: %5。</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>%2 個中 %1 個の項目 (%3) を展開しました。%4: %5。</translation>
+    </message>
+</context>
 </TS>

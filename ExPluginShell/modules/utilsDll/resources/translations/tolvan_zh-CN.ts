@@ -238,4 +238,103 @@
         <translation>毫米</translation>
     </message>
 </context>
+<context>
+    <name>TOLVAN_NAMESPACE::CArchiveJob</name>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>not a zip archive</source>
+        <translation>不是 ZIP 压缩包</translation>
+    </message>
+    <message>
+        <source>unsupported compression method</source>
+        <translation>不支持的压缩方法</translation>
+    </message>
+    <message>
+        <source>protected by a password</source>
+        <translation>受密码保护</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>name not allowed</source>
+        <translation>名称不允许使用</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>指向文件夹之外</translation>
+    </message>
+    <message>
+        <source>shares data with another entry</source>
+        <translation>与其他条目共用数据</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>过大</translation>
+    </message>
+    <message>
+        <source>not enough disk space</source>
+        <translation>磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>访问被拒绝</translation>
+    </message>
+    <message>
+        <source>name used by a folder or a link</source>
+        <translation>名称已被文件夹或链接占用</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>读取时发生更改</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 of %2 entries (%3).</source>
+        <translation>处理 %2 个条目中的 %1 个 (%3) 后已停止。</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3).</source>
+        <translation>已检查 %2 个条目中的 %1 个 (%3)。</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3).</source>
+        <translation>已压缩 %2 个条目中的 %1 个 (%3)。</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3).</source>
+        <translation>已解压 %2 个条目中的 %1 个 (%3)。</translation>
+    </message>
+    <message>
+        <source>Checked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>已检查 %2 个条目中的 %1 个 (%3)。%4：%5。</translation>
+    </message>
+    <message>
+        <source>Packed %1 of %2 entries (%3). %4: %5.</source>
+        <translation>已压缩 %2 个条目中的 %1 个 (%3)。%4：%5。</translation>
+    </message>
+    <message>
+        <source>Unpacked %1 of %2 entries (%3). %4: %5.</source>
+        <translation>已解压 %2 个条目中的 %1 个 (%3)。%4：%5。</translation>
+    </message>
+</context>
 </TS>
