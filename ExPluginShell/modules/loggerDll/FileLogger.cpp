@@ -1,41 +1,41 @@
 #include "FileLogger.h"
 
 #include <spdlog/pattern_formatter.h>
-#include <spdlog/sinks/rotating_file_sink.h>
 
 #include <cstdio>
+#include <cstring>
 #include <stdexcept>
 
 namespace
 {
 
-constexpr int EverySeverity = 0;
-constexpr int UnknownSeverity = 5;
+constexpr int EverySeverity = spdlog::level::trace;
 
-// ISO 8601 in UTC, so that reports from several time zones can be laid side by side. The place of the
-// logger's name
-// ("%n") takes the level letter: it is written as it came, also when it is none of ours.
-constexpr const char* LinePattern = "%Y-%m-%dT%H:%M:%S.%eZ [%n] [%t] %v";
+// ISO 8601 in UTC, so that reports from several time zones can be compared. The place of the logger's name
+// ("%n") takes the level letter, which is written unchanged also if it is unknown.
+constexpr const char* LinePattern = "%Y-%m-%dT%H:%M:%S.%eZ [%n] [%P:%t] %v";
 
-int severityOf(char level)
+constexpr const char* Indentation = "\n    ";
+
+spdlog::level::level_enum severityOf(char level)
 {
     switch (level) {
     case LogLevel::Debug:
-        return 1;
+        return spdlog::level::debug;
     case LogLevel::Information:
-        return 2;
+        return spdlog::level::info;
     case LogLevel::Warning:
-        return 3;
+        return spdlog::level::warn;
     case LogLevel::Error:
-        return 4;
+        return spdlog::level::err;
     default:
-        return UnknownSeverity;
+        return spdlog::level::critical;
     }
 }
 
-void reportFailure(const std::string& what, const char* reason) noexcept
+void reportFailure(const char* stem, const char* reason) noexcept
 {
-    std::fprintf(stderr, "***ERROR*** log file could not be written: %s (%s)\n", what.c_str(), reason);
+    std::fprintf(stderr, "***ERROR*** log file could not be written: %s.log (%s)\n", stem, reason);
     std::fflush(stderr);
 }
 
@@ -46,6 +46,39 @@ bool isPlainFileName(const std::string& name)
            name.find('\0') == std::string::npos;
 }
 
+/// The text as it is written: further lines are indented, line feeds at the end removed, the length bounded.
+std::string recordText(const char* text)
+{
+    const std::size_t length = std::strlen(text);
+    std::size_t end = length;
+    while (end > 0 && (text[end - 1] == '\n' || text[end - 1] == '\r')) {
+        --end;
+    }
+    std::string record;
+    std::size_t at = 0;
+    while (at < end && record.size() < CFileLogger::MaxTextSize) {
+        const std::size_t room = std::min(end - at, CFileLogger::MaxTextSize - record.size());
+        std::size_t plain = 0;
+        while (plain < room && text[at + plain] != '\n' && text[at + plain] != '\r') {
+            ++plain;
+        }
+        record.append(text + at, plain);
+        at += plain;
+        if (at < end && plain < room) {
+            at += text[at] == '\r' && text[at + 1] == '\n' ? 2 : 1;
+            record += Indentation;
+        }
+    }
+    if (at < end) {
+        while (!record.empty() && (text[at] & 0xC0) == 0x80) { // not in the middle of a letter
+            record.pop_back();
+            --at;
+        }
+        record += " [cut, " + std::to_string(length) + " bytes]";
+    }
+    return record;
+}
+
 } // namespace
 
 CFileLogger::CFileLogger() noexcept = default;
@@ -54,41 +87,55 @@ CFileLogger::~CFileLogger() = default;
 void CFileLogger::init(const std::string& folder, const std::string& name, char level)
 try {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_sink.reset();
-    m_opened = false;
+    const std::string stem = folder + '/' + name;
+    m_file.close();
+    m_stem = {};
+    m_dropped = 0;
     try {
         if (!isPlainFileName(name)) {
             throw std::invalid_argument("the name is not a plain file name");
         }
-        const int severity = severityOf(level);
-        m_minimumSeverity = severity == UnknownSeverity ? EverySeverity : severity;
-        const auto directory = std::filesystem::u8path(folder);
-        std::filesystem::create_directories(directory);
-        m_path = directory / std::filesystem::u8path(name + ".log");
-        openFile();
-        m_opened = true;
+        if (folder.empty() || stem.size() >= m_stem.size()) {
+            throw std::invalid_argument("the folder is empty or too long");
+        }
+        const auto severity = severityOf(level);
+        m_minimumSeverity = severity == spdlog::level::critical ? EverySeverity : severity;
+        m_formatter =
+            std::make_unique<spdlog::pattern_formatter>(LinePattern, spdlog::pattern_time_type::utc);
+        m_file.open(stem);
+        std::memcpy(m_stem.data(), stem.data(), stem.size());
+        m_isClosed = false;
     } catch (const std::exception& error) {
-        reportFailure(folder + "/" + name + ".log", error.what());
+        reportFailure(stem.c_str(), error.what());
     }
 } catch (...) {
-    reportFailure({}, "out of memory");
+    reportFailure("", "out of memory");
 }
 
 void CFileLogger::log(char level, const char* text)
 try {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (text == nullptr || severityOf(level) < m_minimumSeverity || !isFileReady()) {
+    if (text == nullptr || severityOf(level) < m_minimumSeverity || m_stem[0] == '\0') {
+        return;
+    }
+    if (m_isClosed) {
+        writeAfterClose(level, text);
+        return;
+    }
+    if (m_dropped != 0 && std::chrono::steady_clock::now() < m_retryTime) {
+        ++m_dropped;
         return;
     }
     try {
-        const char letter = level > ' ' && level <= '~' ? level : '?';
-        const auto spdlogLevel = level == LogLevel::Error ? spdlog::level::err : spdlog::level::info;
-        m_sink->log({spdlog::string_view_t(&letter, 1), spdlogLevel, text});
-        if (level == LogLevel::Error) {
-            m_sink->flush();
+        if (m_dropped != 0) {
+            writeRecord(m_file, LogLevel::Warning,
+                        "LoggerDllTrelioFrame: lines that could not be written: " +
+                            std::to_string(m_dropped));
+            m_dropped = 0;
         }
+        writeRecord(m_file, level, recordText(text));
     } catch (const std::exception& error) {
-        giveUpFile(error.what());
+        countDropped(error.what());
     }
 } catch (...) {
     // The lock itself failed or memory ran out: the line is lost, the caller goes on.
@@ -102,41 +149,34 @@ void CFileLogger::close() noexcept
     if (!lock.owns_lock()) {
         return;
     }
-    m_sink.reset();
-    std::filesystem::path().swap(m_path);
-    m_opened = false;
+    m_file.close();
+    m_formatter.reset();
+    m_isClosed = true;
 }
 
-void CFileLogger::openFile()
+void CFileLogger::writeRecord(CLogFile& file, char level, const std::string& text)
 {
-    auto sink =
-        std::make_unique<spdlog::sinks::rotating_file_sink_st>(m_path.native(), MaxFileSize, OlderFiles);
-    sink->set_formatter(
-        std::make_unique<spdlog::pattern_formatter>(LinePattern, spdlog::pattern_time_type::utc));
-    m_sink = std::move(sink);
+    const char letter = level > ' ' && level <= '~' ? level : '?';
+    spdlog::memory_buf_t record;
+    m_formatter->format({spdlog::string_view_t(&letter, 1), severityOf(level), text}, record);
+    file.append(std::string(record.data(), record.size()));
 }
 
-bool CFileLogger::isFileReady()
+/// Nothing stays in memory: the library may be unloaded, and is not asked before.
+void CFileLogger::writeAfterClose(char level, const char* text)
 {
-    if (m_sink) {
-        return true;
-    }
-    if (!m_opened || std::chrono::steady_clock::now() < m_retryTime) {
-        return false;
-    }
-    try {
-        openFile();
-    } catch (const std::exception&) {
-        m_retryTime = std::chrono::steady_clock::now() + RetryInterval;
-    }
-    return m_sink != nullptr;
+    CLogFile file;
+    file.open(m_stem.data());
+    m_formatter = std::make_unique<spdlog::pattern_formatter>(LinePattern, spdlog::pattern_time_type::utc);
+    writeRecord(file, level, recordText(text));
+    m_formatter.reset();
 }
 
-// The sink must not be used again after a failure: it may have closed its file and would write through a null
-// handle.
-void CFileLogger::giveUpFile(const char* reason)
+void CFileLogger::countDropped(const char* reason)
 {
-    m_sink.reset();
+    if (m_dropped == 0) {
+        reportFailure(m_stem.data(), reason);
+    }
+    ++m_dropped;
     m_retryTime = std::chrono::steady_clock::now() + RetryInterval;
-    reportFailure(m_path.u8string(), reason);
 }

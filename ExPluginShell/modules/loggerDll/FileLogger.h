@@ -1,68 +1,71 @@
 #pragma once
 
+#include "LogFile.h"
+
 #include <utilsDll/ILoggerInterface.h>
 
+#include <array>
 #include <chrono>
-#include <filesystem>
 #include <memory>
 #include <mutex>
 #include <string>
 
-namespace spdlog::sinks
+namespace spdlog
 {
-class sink;
+class pattern_formatter;
 }
 
-/// The product's logger: writes every line with time, level and thread to one bounded set of files.
+/// The product's logger: writes each line with time, level, process and thread to one bounded set of files.
 ///
-/// All operations may be called from any thread. None throws, and none waits longer than one line takes to
-/// write (opening and moving files on included). Without a successful init() every line is dropped.
+/// All operations may be called from any thread. None throws. A line is in the file, and survives a crash of
+/// the process, when log() returns. Several processes may use the same log. Without a successful init() every
+/// line is dropped.
 class CFileLogger final : public ILoggerInterface
 {
 public:
-    /// Largest size of one file in bytes. A single longer line is still written whole.
-    static constexpr std::size_t MaxFileSize = 5 * 1024 * 1024;
-
-    /// How many older files are kept beside the current one: "name.1.log" (the newest) to "name.4.log".
-    static constexpr std::size_t OlderFiles = 4;
+    /// Longest text of a line in bytes; the rest of a longer text is cut off and its size is written instead.
+    static constexpr std::size_t MaxTextSize = 64 * 1024;
 
     CFileLogger() noexcept;
     ~CFileLogger() override;
     CFileLogger(const CFileLogger&) = delete;
     CFileLogger& operator=(const CFileLogger&) = delete;
 
-    /// Goes on at the end of the file "folder/name.log"; missing folders are created.
+    /// Opens the file "folder/name.log" at its end; missing folders are created.
     ///
-    /// \param folder  UTF-8 path of the folder.
-    /// \param name    UTF-8 file name without extension; a name that is empty or leads elsewhere is refused.
-    /// \param level   least level that is written: 'D', 'I', 'W' or 'E'; anything else writes everything.
+    /// \param folder UTF-8 path of the folder
+    /// \param name   UTF-8 file name without extension; an empty name or one with a separator is refused
+    /// \param level  lowest level that is written: 'D', 'I', 'W' or 'E'; any other letter writes all levels
     ///
-    /// A second call leaves the first file and goes on in the second. When the file can't be opened one line
-    /// on standard error says so, and lines are dropped until another call succeeds.
+    /// A second call closes the first file. If the file can't be opened, one line is printed to standard
+    /// error, and lines are dropped until another call succeeds.
     void init(const std::string& folder, const std::string& name, char level) override;
 
-    /// Writes one line; the text is taken as it is. A line of level 'E' has reached the file when the call
-    /// returns, together with all lines before it; other lines may stay in the buffer until it is full. A
+    /// Writes one line. Further lines of a text are indented, so that none looks like a record of its own. A
     /// line of an unknown level is always written; a null text is dropped.
     ///
-    /// When writing fails (a full disk, a folder that went away) one line on standard error says so; lines
-    /// are then dropped, and the file is opened anew with the first line after RetryInterval.
+    /// If writing fails (a full disk, for example) one line is printed to standard error. Lines are then
+    /// dropped; the first line after RetryInterval tries again, and the number of dropped lines is logged.
     void log(char level, const char* text) override;
 
-    /// Writes what is buffered and drops every later line. Does nothing while another thread is logging.
+    /// Closes the file and frees all memory. A later line opens the file for itself alone: objects that are
+    /// destroyed after this library's may log. Does nothing while another thread is logging.
     void close() noexcept;
 
 private:
-    static constexpr std::chrono::seconds RetryInterval{5};
+    static constexpr std::chrono::seconds RetryInterval{1};
+    static constexpr std::size_t LongestStem = 4096;
 
-    void openFile();
-    bool isFileReady();
-    void giveUpFile(const char* reason);
+    void writeRecord(CLogFile& file, char level, const std::string& text);
+    void writeAfterClose(char level, const char* text);
+    void countDropped(const char* reason);
 
     std::mutex m_mutex;
-    std::unique_ptr<spdlog::sinks::sink> m_sink;
-    std::filesystem::path m_path;
+    CLogFile m_file;
+    std::unique_ptr<spdlog::pattern_formatter> m_formatter;
+    std::array<char, LongestStem> m_stem = {}; ///< UTF-8 path without extension; empty while there is no file
     std::chrono::steady_clock::time_point m_retryTime;
+    unsigned long long m_dropped = 0;
     int m_minimumSeverity = 0;
-    bool m_opened = false;
+    bool m_isClosed = false;
 };

@@ -7,8 +7,8 @@
 namespace
 {
 
-// Objects of other libraries may log from destructors that run later than ours. The logger is therefore
-// closed, not destroyed, and lives in storage that needs no release when the library is unloaded.
+// Destructors of other libraries may run later than this library's and log. The logger is therefore closed, not
+// destroyed, and lies in storage that needs no release when the library is unloaded.
 class CLoggerHolder
 {
 public:
