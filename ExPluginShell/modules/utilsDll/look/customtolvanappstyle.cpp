@@ -1,6 +1,7 @@
 #include "customtolvanappstyle.h"
 
 #include "frame/Logging.h"
+#include "look/ThemeDetails.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -102,6 +103,7 @@ CustomTolvanAppStyle::CustomTolvanAppStyle()
     : m_impl(std::make_unique<pimpl>())
 {
     setBaseStyle(QStyleFactory::create(QStringLiteral("Windows")));
+    new ThemeDetails(this);
 }
 
 CustomTolvanAppStyle::~CustomTolvanAppStyle() = default;
