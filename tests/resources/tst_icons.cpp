@@ -1,3 +1,4 @@
+#include "Contrast.h"
 #include "FileTree.h"
 #include "TestMain.h"
 
@@ -11,7 +12,6 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace
@@ -39,22 +39,6 @@ QImage onGround(const QImage& image, const QColor& ground)
     result.fill(ground);
     QPainter(&result).drawImage(0, 0, image);
     return result;
-}
-
-/// Relative luminance and contrast as the web content accessibility guidelines (WCAG 2.1) define them.
-double luminance(QRgb colour)
-{
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
-}
-
-double contrast(QRgb first, QRgb second)
-{
-    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
-    return (light + 0.05) / (dark + 0.05);
 }
 
 /// Contrast that a tenth of the solid pixels reach or exceed: that of the strokes, not of tints and edges.
@@ -268,6 +252,12 @@ void IconsTest::cursorsReadOnEveryPicture()
     for (const QString& name : m_names.filter(QStringLiteral("cusors_"))) {
         const QImage image = rendered(file(name));
         QCOMPARE(image.size(), QSize(23, 24));
+        for (int at = 0; at < 23; ++at) { // a cursor that is cut is solid at the edge
+            const QRgb edges[] = {image.pixel(at, 0), image.pixel(at, 23), image.pixel(0, at),
+                                  image.pixel(22, at)};
+            QVERIFY2(std::all_of(edges, edges + 4, [](QRgb pixel) { return qAlpha(pixel) <= 64; }),
+                     qPrintable(name));
+        }
         for (const QColor& ground : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::gray)}) {
             const double found = strokeContrast(image, ground);
             QVERIFY2(found >= 4.5,

@@ -9,17 +9,17 @@ CORE, OUTLINE = "on_accent", "glyph_bright"
 CORE_WIDTH, OUTLINE_WIDTH = "1.75", "4.25"
 
 HORIZONTAL = ("M3.5 12.5h16", "M7 8.5l-4 4 4 4", "M16 8.5l4 4-4 4")
-ARROW_HEAD_UP, ARROW_HEAD_DOWN = "M8.2 5.8l3.3-3.3 3.3 3.3", "M8.2 19.2l3.3 3.3 3.3-3.3"
-FOUR_WAY = ("M11.5 3v19", "M2 12.5h19", ARROW_HEAD_UP, ARROW_HEAD_DOWN,
-            "M4.8 9.2l-3.3 3.3 3.3 3.3", "M18.2 9.2l3.3 3.3-3.3 3.3")
-ARCH = ("M3 16.5c1-5.5 4.2-8.5 8.5-8.5s7.5 3 8.5 8.5", "M1.8 11.8L3 16.7l4.6-2.2", "M21.2 11.8L20 16.7l-4.6-2.2")
+# Nothing reaches further than 8.5 pixels from the hot spot: half of the outline's width must fit beside it.
+FOUR_WAY = ("M11.5 4.5v16", "M3.5 12.5h16", "M9 6.5l2.5-2.5 2.5 2.5", "M9 18.5l2.5 2.5 2.5-2.5",
+            "M5.5 10L3 12.5l2.5 2.5", "M17.5 10l2.5 2.5-2.5 2.5")
+ARCH = ("M4 16.5c.9-5.6 3.6-8.5 7.5-8.5s6.6 2.9 7.5 8.5", "M3 12.5l1 4.2 3.9-2", "M20 12.5l-1 4.2-3.9-2")
 LENS = "c 10 10.5 6.5"
-HANDLE = "M14.8 15.3l5.4 5.4"
+HANDLE = "M14.8 15.3l5 5"
 
-PALM = ("M8 12.5V6.2a1.6 1.6 0 0 1 3.2 0V5a1.6 1.6 0 0 1 3.2 0v1.4a1.6 1.6 0 0 1 3.2 0v2.8a1.6 1.6 0 0 1 3.2 0"
-        "V15c0 4.5-2.8 7.2-6.6 7.2-3.2 0-5-1.3-6.4-3.7l-3.6-5.7a1.6 1.6 0 0 1 2.6-1.8z")
-FIST = ("M8 13v-2.8a1.6 1.6 0 0 1 3.2 0v-.8a1.6 1.6 0 0 1 3.2 0v.6a1.6 1.6 0 0 1 3.2 0v.8a1.6 1.6 0 0 1 3.2 0"
-        "V16c0 4-2.8 6.2-6.6 6.2-3.4 0-5.2-1.2-6.4-3.4-.8-1.4-1.8-2.6-1.8-4 0-1.2 1-1.8 2.2-1.8z")
+PALM = ("M7.5 12.5V6.2a1.5 1.5 0 0 1 3 0V5a1.5 1.5 0 0 1 3 0v1.4a1.5 1.5 0 0 1 3 0v2.8a1.5 1.5 0 0 1 3 0"
+        "V15c0 3.8-2.6 6-6.2 6-3 0-4.7-1-6-3l-3.4-5.4a1.5 1.5 0 0 1 2.5-1.7z")
+FIST = ("M7.5 13v-2.8a1.5 1.5 0 0 1 3 0v-.8a1.5 1.5 0 0 1 3 0v.6a1.5 1.5 0 0 1 3 0v.8a1.5 1.5 0 0 1 3 0"
+        "V16c0 3.4-2.6 5-6.2 5-3.2 0-4.9-.8-6-2.6-.8-1.3-1.7-2.4-1.7-3.7 0-1.1.9-1.7 2-1.7z")
 
 
 def lines(shapes, core=CORE_WIDTH, outline=OUTLINE_WIDTH):
@@ -46,11 +46,11 @@ def draw(family):
     cursor("arrow_square", lines(FOUR_WAY))
     cursor("rotation_top", lines(ARCH))
     cursor("rotation_bottom", lines(ARCH), "rotate(180 11.5 12.5)")
-    cursor("hand_open", hand(PALM, ("M11.2 6v5", "M14.4 6v5", "M17.6 8.5v3.5")))
-    cursor("hand_closed", hand(FIST, ("M11.2 10v2.5", "M14.4 10v2.5", "M17.6 11v2")))
+    cursor("hand_open", hand(PALM, ("M10.5 6.5v4.5", "M13.5 6.5v4.5", "M16.5 8.5v3")))
+    cursor("hand_closed", hand(FIST, ("M10.5 10.5v2", "M13.5 10.5v2", "M16.5 11v1.75")))
     cursor("zoom_in", lines((LENS, HANDLE, "M7.5 10.5h5", "M10 8v5")))
     cursor("zoom_out", lines((LENS, HANDLE, "M7.5 10.5h5")))
     # Thin, and of whole pixels: the picture stays visible around the point that is aimed at.
-    cross = ("M11.5 2.5v6", "M11.5 16.5v6", "M1.5 12.5h6", "M15.5 12.5h6")
+    cross = ("M11.5 3.5v5", "M11.5 16.5v5", "M3 12.5h4.5", "M15.5 12.5h4.5")
     cursor("crosshair", lines(cross, core="1", outline="3")
            + f"\nf={OUTLINE} r 10 11 3 3\nf={CORE} r 11 12 1 1")

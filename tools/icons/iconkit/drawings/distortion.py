@@ -15,12 +15,9 @@ D M3.9 14.5q8.1 1.7 16.2 0
 """,
     "manual": f"""
 O {BARREL}
-D M6.5 9.5h5
-D M15.5 9.5h2
-D M6.5 14.5h2
-D M12.5 14.5h5
-D c 13.5 9.5 2
-D c 10.5 14.5 2
+D M7 12h10
+D M9.5 9.5L7 12l2.5 2.5
+D M14.5 9.5L17 12l-2.5 2.5
 """,
     "barrel": f"""
 O {BARREL}
@@ -36,20 +33,21 @@ D M15.2 4.9q-2.4 7.1 0 14.2
 D M4.9 8.8q7.1 2.4 14.2 0
 D M4.9 15.2q7.1-2.4 14.2 0
 """,
+    # The round picture of a fisheye lens in its frame, with a bent horizon.
     "fisheye": """
-O c 12 12 8.5
-D M9.5 4q-3.5 8 0 16
-D M14.5 4q3.5 8 0 16
-D M4 9.5q8-3.5 16 0
-D M4 14.5q8 3.5 16 0
+M r 2.5 2.5 19 19 2
+B c 12 12 7
+D c 12 12 7
+D M5.5 14.5q6.5-6.5 13 0
 """,
+    # A bent line, and the straight one between its ends.
     "bent_line": """
-D M3.5 19.5h17
-M M5.3 12.4Q8 6.6 10.2 6.1
-M M13.8 6.1q2.2.5 4.9 6.3
-O c 4.5 14 2
-O c 12 6 2
-O c 19.5 14 2
+M M4 15.5Q12 2.5 20 15.5
+S c 4 15.5 2.25
+S c 20 15.5 2.25
+D M8.75 15.5h.5
+D M11.75 15.5h.5
+D M14.75 15.5h.5
 """,
 }
 LENS = "B c 7 7.5 5\nM M12 7.5a5 5 0 1 0-5 5\nM c 7 7.5 1.75\n"

@@ -1,15 +1,12 @@
 """Panels: settings, additional options, side bar, plug-in bar, confirmation and reset."""
 
 SETTINGS = {
+    # Two switches, one on and one off.
     "general": """
-M M3.5 7.5h8
-M M17.5 7.5h3
-M M3.5 16.5h3
-M M12.5 16.5h8
-B c 14.5 7.5 3
-D c 14.5 7.5 3
-B c 9.5 16.5 3
-D c 9.5 16.5 3
+O r 2.5 4.5 19 6 3
+O r 2.5 13.5 19 6 3
+F c 18.5 7.5 1.75
+F c 5.5 16.5 1.75
 """,
     "display": """
 O r 2.5 4.5 19 12 2
@@ -33,10 +30,9 @@ D M8.5 11.5l2.8 2.8 4.7-5.3
 """,
 }
 OPTIONS = """
-O c 7 5.5 2.5
-M M2.5 5.5h2
-M M9.5 5.5h8
-M M2.5 10.5h15
+S c 4.5 6.5 1.75
+S c 10 6.5 1.75
+S c 15.5 6.5 1.75
 """
 BAR = """
 B M2.5 4.5a1 1 0 0 1 1-1H8v13H3.5a1 1 0 0 1-1-1z

@@ -13,26 +13,29 @@ M M20.5 15.5v3a2 2 0 0 1-2 2h-3
 M M8.5 20.5h-3a2 2 0 0 1-2-2v-3
 """
 
-HAND = ("M8.5 13V6.5a1.5 1.5 0 0 1 3 0V5a1.5 1.5 0 0 1 3 0v1.5a1.5 1.5 0 0 1 3 0v2.7a1.5 1.5 0 0 1 3 0"
-        "V15c0 4-2.7 6.5-6.3 6.5-3 0-4.7-1.2-6-3.4l-3.6-5.7a1.5 1.5 0 0 1 2.4-1.8z")
+HAND = ("M8.5 13.5V5.5a1.5 1.5 0 0 1 3 0V4a1.5 1.5 0 0 1 3 0v1.5a1.5 1.5 0 0 1 3 0v3a1.5 1.5 0 0 1 3 0"
+        "V14.5c0 4.2-2.6 7-6.4 7-3 0-4.8-1.4-6.2-3.7l-3.5-5.6a1.6 1.6 0 0 1 2.6-1.9z")
 
 TOGGLES = {
     "hand": f"""
 O {HAND}
-D M11.5 6.5v4.5
-D M14.5 6.5v4.5
-D M17.5 9v3
+M M11.5 5.5v5.5
+M M14.5 5.5v5.5
+M M17.5 8.5v3
 """,
     "loupe": LENS + "F r 7 7 3.5 3.5 .5\nF r 10.5 10.5 3.5 3.5 .5",
     "preview": """
 O M2.5 12C5 7.6 8.2 5.5 12 5.5s7 2.1 9.5 6.5c-2.5 4.4-5.7 6.5-9.5 6.5S5 16.4 2.5 12z
 D c 12 12 3
 """,
-    "compare": PICTURE + """
+    # The picture before and after, and the handle between them.
+    "compare": """
 B M5.5 4.5H12v15H5.5a2 2 0 0 1-2-2v-11a2 2 0 0 1 2-2z
-D M12 2v20
-D M8.5 9.5L6 12l2.5 2.5
-D M15.5 9.5L18 12l-2.5 2.5
+M M9.5 4.5h-4a2 2 0 0 0-2 2v11a2 2 0 0 0 2 2h4
+M M14.5 4.5h4a2 2 0 0 1 2 2v11a2 2 0 0 1-2 2h-4
+D M12 2v7
+D M12 15v7
+D c 12 12 2.5
 """,
     "grid": """
 O r 3.5 3.5 17 17 2
@@ -70,33 +73,30 @@ O r 9.5 10.5 11 10 1.5
 D M4.5 15v-3.5a6 6 0 0 1 6-6h3.5
 D M11.5 2.5l3 3-3 3
 """,
+    # A bookmark and a plus.
     "save_preset": """
-M M3.5 6.5h7
-M M15.5 6.5h5
-M M3.5 12.5h2
-M M10.5 12.5h10
-M M3.5 18.5h7
-O c 13 6.5 2.5
-O c 8 12.5 2.5
-D M17.5 15.5v6
-D M14.5 18.5h6
+B M5.5 3.5h13v17L12 15.5l-6.5 5z
+M M18.5 13.5v7L12 15.5l-6.5 5v-15a2 2 0 0 1 2-2h5
+D M17.5 3.5v6
+D M14.5 6.5h6
 """,
 }
 
 
 def gear(cx, cy, outer, inner, teeth):
-    """The outline of a gear wheel; each tooth takes a little less than half of its share."""
-    points = []
+    """The outline of a gear wheel: rounded gaps between teeth with round tops."""
+    path = ""
     for tooth in range(teeth):
-        for offset, radius in ((-0.3, inner), (-0.17, outer), (0.17, outer), (0.3, inner)):
+        for offset, radius, curve in ((-0.27, inner, inner), (-0.17, outer, 0), (0.17, outer, outer), (0.27, inner, 0)):
             angle = 2 * math.pi * (tooth + offset) / teeth - math.pi / 2
-            points.append(f"{svg.number(cx + radius * math.cos(angle))} {svg.number(cy + radius * math.sin(angle))}")
-    return "M" + "L".join(points) + "z"
+            point = f"{svg.number(cx + radius * math.cos(angle))} {svg.number(cy + radius * math.sin(angle))}"
+            path += f"A{curve} {curve} 0 0 1 {point}" if curve and path else f"{'L' if path else 'M'}{point}"
+    return path + f"A{inner} {inner} 0 0 1 {path[1:].partition('L')[0]}z"
 
 
-GEAR = gear(12, 12, 9.4, 6.9, 8)
+GEAR = gear(12, 12, 9.5, 6.75, 6)
 OTHERS = {
-    "settings": f"O {GEAR}\nD c 12 12 2.75",
+    "settings": f"O {GEAR}\nD c 12 12 2.5",
     "help": """
 O c 12 12 8.5
 D M9.5 9.7a2.5 2.5 0 1 1 3.7 2.2c-.9.5-1.2 1-1.2 1.9
