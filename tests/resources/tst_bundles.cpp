@@ -209,6 +209,16 @@ void BundlesTest::correctionRules()
     QCOMPARE(values.value(QStringLiteral("moduleActivity name")).size(), 6);
     QVERIFY(values.contains(QStringLiteral("moduleApply")));
     QVERIFY(values.contains(QStringLiteral("conditions"))); // an empty one
+    // "No tool" answers only while no correction is current; the resets concern all tools.
+    const QDomElement noTool = document.documentElement().firstChildElement().firstChildElement();
+    for (QDomElement e = noTool.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        const QString condition = e.firstChildElement(QStringLiteral("conditions"))
+                                      .firstChildElement(QStringLiteral("currentCorrection"))
+                                      .text()
+                                      .trimmed();
+        QVERIFY(e.firstChildElement().text().contains(QStringLiteral("reset")) ||
+                condition == QStringLiteral("None"));
+    }
     // An action whose rules ask for one tool and switch it on and off at once would be nonsense.
     const QDomNodeList changes = document.documentElement().elementsByTagName(QStringLiteral("changes"));
     for (int i = 0; i < changes.size(); ++i) {
