@@ -4,9 +4,12 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QProcess>
 #include <QThread>
 
+#include <cstdlib>
 #include <functional>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -51,6 +54,25 @@ static bool arrive(std::integer_sequence<int, Numbers...> /*numbers*/)
     return QTest::qWaitFor([&] { return target.received == expected; });
 }
 
+/// A target that discards its calls when it is destroyed.
+struct Discarding : Target {
+    ~Discarding() override { CDelayedCall::discard(this, nullptr); }
+};
+Q_DECLARE_METATYPE(std::shared_ptr<Discarding>)
+
+template <class... Args>
+static auto compiles(int)
+    -> decltype(CDelayedCall::invokeWithArgs(1, std::declval<Target*>(), "take", std::declval<Args>()...),
+                std::true_type());
+template <class... Args>
+static std::false_type compiles(...);
+static_assert(decltype(compiles<QVariant, bool>(0))::value && decltype(compiles<int>(0))::value);
+static_assert(decltype(compiles<int, QString>(0))::value && decltype(compiles<int, int, bool>(0))::value);
+// The last argument of each would be taken for the flag.
+static_assert(!decltype(compiles<int, int>(0))::value && !decltype(compiles<QVariant, double>(0))::value);
+static_assert(!decltype(compiles<int, const char (&)[4]>(0))::value);
+static_assert(!decltype(compiles<int, Qt::GlobalColor>(0))::value);
+
 /// Everything that happens within one thread.
 class DelayedCallTest : public QObject
 {
@@ -68,6 +90,8 @@ private Q_SLOTS:
     void typeNamesHaveToMatch();
     void destroyedTarget();
     void newObjectAtTheSameAddress();
+    void argumentHoldsTheTarget();
+    void staticObjectOutlivesTheSingleton();
     void insideTheCall_data();
     void insideTheCall();
 };
@@ -227,6 +251,48 @@ void DelayedCallTest::newObjectAtTheSameAddress()
     target->~Target();
 }
 
+void DelayedCallTest::argumentHoldsTheTarget()
+{
+    for (const char* const method : {"m", static_cast<const char*>(nullptr)}) {
+        auto owner = std::make_shared<Discarding>();
+        const QPointer<Discarding> target(owner.get());
+        CDelayedCall::invokeWithArgs(20, target, "m", QVariant::fromValue(owner)); // the only call of all
+        owner.reset();
+        QVERIFY(target);
+        CDelayedCall::discard(target, method);
+        QVERIFY(!target);
+    }
+}
+
+/// Run in a process of its own, because it happens at its end.
+static int outliveTheSingleton(int argc, char* argv[])
+{
+    struct Outliving : Target {
+        ~Outliving() override
+        {
+            CDelayedCall::invoke(1, this, "m");
+            CDelayedCall::discard(this, nullptr);
+            if (CDelayedCall::isActive(this, "m")) {
+                std::_Exit(1);
+            }
+        }
+    };
+    static Outliving target; // the first call builds the singleton, which is destroyed before this object
+    const QCoreApplication application(argc, argv);
+    CDelayedCall::invoke(100000, &target, "m");
+    return 0;
+}
+
+void DelayedCallTest::staticObjectOutlivesTheSingleton()
+{
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedChannels);
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--outlive")});
+    QVERIFY(child.waitForFinished());
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.exitCode(), 0);
+}
+
 void DelayedCallTest::insideTheCall_data()
 {
     QTest::addColumn<bool>("singleShot");
@@ -279,5 +345,11 @@ void DelayedCallTest::insideTheCall()
     delete other;
 }
 
-TOLVAN_CORE_TEST_MAIN(DelayedCallTest)
+int main(int argc, char* argv[])
+{
+    return argc == 2 && qstrcmp(argv[1], "--outlive") == 0
+               ? outliveTheSingleton(argc, argv)
+               : TestMain::run<QCoreApplication, DelayedCallTest>(argc, argv);
+}
+
 #include "tst_delayedcall.moc"

@@ -1,6 +1,8 @@
 #include "TestMain.h"
 
+#include <QElapsedTimer>
 #include <QLibrary>
+#include <QSemaphore>
 #include <QThread>
 
 #include <atomic>
@@ -29,7 +31,9 @@ public Q_SLOTS:
 namespace
 {
 
+constexpr int rounds = 3;
 using Invoke = void (*)(int, QObject*, const char*, bool);
+using Discard = void (*)(QObject*, const char*);
 
 QLibrary& library()
 {
@@ -42,18 +46,48 @@ Invoke resolveInvoke()
     return reinterpret_cast<Invoke>(library().resolve("_ZN12CDelayedCall6invokeEiP7QObjectPKcb"));
 }
 
+/// A thread that processes no events; has used delayed calls in each round, and none is pending.
+class IdleThread : public QThread
+{
+public:
+    void use() // returns when that is done
+    {
+        m_invoke = resolveInvoke();
+        m_discard = reinterpret_cast<Discard>(library().resolve("_ZN12CDelayedCall7discardEP7QObjectPKc"));
+        m_asked.release();
+        m_done.acquire();
+    }
+
+private:
+    void run() override
+    {
+        for (int round = 0; round < rounds; ++round) {
+            m_asked.acquire();
+            m_invoke(100000, this, "quit", true);
+            m_discard(this, "quit");
+            m_done.release();
+        }
+    }
+
+    QSemaphore m_asked, m_done;
+    Invoke m_invoke = nullptr;
+    Discard m_discard = nullptr;
+};
+
 } // namespace
 
 void DelayedCallUnloadTest::pendingCallsGoWithTheLibrary()
 {
     Counter counter;
     QThread worker;
+    IdleThread idle;
     QObject inWorker;
     inWorker.moveToThread(&worker);
     // Before the thread starts: under Wine a load that meets the start of a thread can hang.
     QVERIFY2(resolveInvoke(), qPrintable(library().errorString()));
     worker.start();
-    for (int round = 0; round < 3; ++round) {
+    idle.start();
+    for (int round = 0; round < rounds; ++round) {
         const Invoke invoke = resolveInvoke();
         QVERIFY(invoke);
         invoke(1, &counter, "m", false);
@@ -63,8 +97,13 @@ void DelayedCallUnloadTest::pendingCallsGoWithTheLibrary()
             QThread::create([&] { invoke(1, &counter, "deleteLater", true); }));
         ended->start();
         QVERIFY(ended->wait(30000));
+        idle.use();
+        QVERIFY(round < rounds - 1 || idle.wait(30000));
         QTRY_VERIFY(counter.calls > 10);
+        QElapsedTimer clock;
+        clock.start();
         QVERIFY(library().unload());
+        QVERIFY2(clock.elapsed() < 700, "waited for the idle thread");
         QCoreApplication::processEvents();
         const int calls = counter.calls;
         QTest::qWait(30); // timers that outlived the library would run into unmapped code here

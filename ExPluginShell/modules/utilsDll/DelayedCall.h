@@ -6,6 +6,8 @@
 #include <QVariant>
 
 #include <memory>
+#include <tuple>
+#include <type_traits>
 
 class QObject;
 class CDelayedCall;
@@ -42,13 +44,27 @@ extern template class UTILSDLL_EXPORT Singleton<CDelayedCall>;
 /// destroyed, until the thread ends.
 /// \par Inside the called method
 /// The method may discard its own call, request it again (the new request is kept), and delete any target.
-/// \par Unloading the library
-/// Pending calls of the unloading thread are dropped. Other threads that process events drop theirs at once;
-/// the unloading thread waits for them, one second at most. A thread that has pending calls and processes no
-/// events at that moment has to end, or to discard its calls, before the library is unloaded.
+/// \par Unloading the library, and the end of the program
+/// Pending calls of the unloading thread are dropped. Other threads with pending calls that process events
+/// drop theirs at once; the unloading thread waits for them, one second at most. A thread that has pending
+/// calls and processes no events at that moment has to end, or to discard its calls, before the library is
+/// unloaded. Static objects of the program that are destroyed after the singleton may still call these
+/// functions, without effect.
 class UTILSDLL_EXPORT CDelayedCall : public Singleton<CDelayedCall>
 {
     friend class Singleton<CDelayedCall>;
+
+    /// Whether the last of the types is no bool, but the language converts it to one.
+    template <class... Types>
+    static constexpr bool endsWithFalseFlag()
+    {
+        if constexpr (sizeof...(Types) > 0) {
+            using Last = std::decay_t<std::tuple_element_t<sizeof...(Types) - 1, std::tuple<Types...>>>;
+            return !std::is_same_v<Last, bool> && !std::is_class_v<Last> && std::is_convertible_v<Last, bool>;
+        } else {
+            return false;
+        }
+    }
 
 public:
     /// Requests a call of \a method of \a object in \a msec milliseconds.
@@ -68,7 +84,8 @@ public:
     /// \name Calls with arguments
     /// invoke() for a method with one to nine parameters. The type names of the variants have to be exactly
     /// those of the parameters: `QVariant(5)` calls `setValue(int)`, `QVariant(5.0)` does not. Write
-    /// `QVariant(...)` for each argument: a plain number in the last place is taken for the flag.
+    /// `QVariant(...)` for each argument: a plain number, enumerator or pointer in the last place could be
+    /// taken for the flag and does not compile.
     /// @{
 
     /// Requests a call with arguments, see invoke().
@@ -90,6 +107,9 @@ public:
                                Arg a5, Arg a6, Arg a7, Arg a8, bool singleShot = true);
     static void invokeWithArgs(int msec, QObject* object, const char* method, Arg a1, Arg a2, Arg a3, Arg a4,
                                Arg a5, Arg a6, Arg a7, Arg a8, Arg a9, bool singleShot = true);
+    template <class First, class... More, std::enable_if_t<endsWithFalseFlag<More...>(), int> = 0>
+    static void invokeWithArgs(int msec, QObject* object, const char* method, const First& a1,
+                               const More&... more) = delete;
     /// @}
 
     /// Cancels the calling thread's pending call of \a object and \a method. Does nothing if there is

@@ -1,278 +1,158 @@
 #include "DelayedCall.h"
 
-#include "frame/Logging.h"
+#include "DelayedInvoker.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QPointer>
 #include <QThread>
 #include <QThreadStorage>
-#include <QTimerEvent>
-#include <QVector>
 
 #include <algorithm>
-#include <array>
+#include <atomic>
 #include <chrono>
-#include <map>
 #include <mutex>
 #include <vector>
-
-using TOLVAN_NAMESPACE::Logging::reportAssertion;
 
 namespace
 {
 
-constexpr int maxArguments = 9;
 constexpr std::chrono::milliseconds unloadLimit{1000};
-
-class CDelayedInvoker;
-
-/// The invokers of all threads. Locked when a thread gets or loses its invoker, never for a call.
-struct InvokerRegistry {
-    std::timed_mutex mutex;
-    QVector<CDelayedInvoker*> invokers;
-};
-
-/// The pending calls of one thread.
-class CDelayedInvoker : public QObject
-{
-public:
-    struct methodData {
-        QPointer<QObject> target;
-        QObject* targetKey;
-        const char* method;
-        bool singleShot;
-        QVariantList args;
-
-        bool isLiveFor(const QObject* object) const { return target && targetKey == object; }
-        static bool invokeMethod(QObject* target, const char* method, const QVariantList& args);
-    };
-
-    explicit CDelayedInvoker(InvokerRegistry& registry);
-    ~CDelayedInvoker() override;
-
-    void schedule(int msec, QObject* object, const char* method, bool singleShot, const QVariantList& args);
-    void discard(QObject* object, const char* method);
-    bool isActive(QObject* object, const char* method);
-
-protected:
-    void timerEvent(QTimerEvent* event) override;
-
-private:
-    using CallTable = std::map<int, methodData>;
-    using ObjectIndex = std::multimap<QObject*, int>;
-
-    ObjectIndex::iterator findLive(ObjectIndex::iterator entry, const QObject* object, const char* method);
-    void forget(CallTable::iterator call);
-
-    CallTable m_calls;
-    ObjectIndex m_objects;
-    InvokerRegistry& m_registry;
-};
-
-CDelayedInvoker::CDelayedInvoker(InvokerRegistry& registry)
-    : m_registry(registry)
-{
-    const std::lock_guard lock(m_registry.mutex);
-    m_registry.invokers.append(this);
-}
-
-CDelayedInvoker::~CDelayedInvoker()
-{
-    const std::lock_guard lock(m_registry.mutex);
-    m_registry.invokers.removeOne(this);
-}
-
-void CDelayedInvoker::schedule(int msec, QObject* object, const char* method, bool singleShot,
-                               const QVariantList& args)
-{
-    const auto entry = findLive(m_objects.lower_bound(object), object, method);
-    if (entry == m_objects.end()) {
-        const int id = startTimer(msec, Qt::CoarseTimer);
-        if (id >= 1) {
-            m_calls.insert_or_assign(id, methodData{object, object, method, singleShot, args});
-            m_objects.emplace(object, id);
-        }
-        return;
-    }
-    // The new call takes over the nodes of the one that it replaces: debouncing allocates nothing.
-    killTimer(entry->second);
-    auto call = m_calls.extract(entry->second);
-    const int id = startTimer(msec, Qt::CoarseTimer);
-    if (id < 1) {
-        m_objects.erase(entry);
-        return;
-    }
-    call.key() = id;
-    call.mapped().method = method;
-    call.mapped().singleShot = singleShot;
-    call.mapped().args = args;
-    m_calls.insert(std::move(call));
-    entry->second = id;
-}
-
-void CDelayedInvoker::discard(QObject* object, const char* method)
-{
-    auto entry = findLive(m_objects.lower_bound(object), object, method);
-    while (entry != m_objects.end()) {
-        killTimer(entry->second);
-        m_calls.erase(entry->second);
-        entry = m_objects.erase(entry);
-        entry = method ? m_objects.end() : findLive(entry, object, method);
-    }
-}
-
-bool CDelayedInvoker::isActive(QObject* object, const char* method)
-{
-    return findLive(m_objects.lower_bound(object), object, method) != m_objects.end();
-}
-
-/// The first live call of \a object and \a method from \a entry on, or end() of the index. A null \a method
-/// matches every method.
-CDelayedInvoker::ObjectIndex::iterator CDelayedInvoker::findLive(ObjectIndex::iterator entry,
-                                                                 const QObject* object, const char* method)
-{
-    for (; entry != m_objects.end() && entry->first == object; ++entry) {
-        const auto call = m_calls.find(entry->second);
-        if (call != m_calls.end() && call->second.isLiveFor(object) &&
-            (!method || qstrcmp(method, call->second.method) == 0)) {
-            return entry;
-        }
-    }
-    return m_objects.end();
-}
-
-void CDelayedInvoker::forget(CallTable::iterator call)
-{
-    // The key is used because the target of a destroyed object is null, and its entry would never be found.
-    const auto [begin, end] = m_objects.equal_range(call->second.targetKey);
-    const auto entry = std::find_if(
-        begin, end, [id = call->first](const auto& candidate) { return candidate.second == id; });
-    if (entry != end) {
-        m_objects.erase(entry);
-    }
-    m_calls.erase(call);
-}
-
-void CDelayedInvoker::timerEvent(QTimerEvent* event)
-{
-    const auto call = event ? m_calls.find(event->timerId()) : m_calls.end();
-    if (call == m_calls.end()) {
-        QObject::timerEvent(event);
-        return;
-    }
-    // A copy, because the called method may discard or replace any call, also this one.
-    const methodData due = call->second;
-    if (due.singleShot) {
-        forget(call);
-    }
-    if (due.target && !due.method) {
-        reportAssertion("`anonymous-namespace'::CDelayedInvoker::timerEvent", "DelayedCall", 216);
-    } else if (due.target) {
-        methodData::invokeMethod(due.target, due.method, due.args);
-    }
-    if (due.singleShot) {
-        event->accept();
-        killTimer(event->timerId());
-    }
-    QObject::timerEvent(event);
-}
-
-bool CDelayedInvoker::methodData::invokeMethod(QObject* target, const char* method, const QVariantList& args)
-{
-    if (!target || !method) {
-        return false;
-    }
-    if (args.size() > maxArguments) {
-        reportAssertion("`anonymous-namespace'::CDelayedInvoker::methodData::invokeMethod", "DelayedCall",
-                        258);
-        return false;
-    }
-    std::array<QGenericArgument, maxArguments> a;
-    std::transform(args.begin(), args.end(), a.begin(),
-                   [](const QVariant& arg) { return QGenericArgument(arg.typeName(), arg.constData()); });
-    return QMetaObject::invokeMethod(target, method, a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
-}
 
 } // namespace
 
-/// Holds one invoker for each thread that has asked for a call. The end of a thread deletes its invoker.
+/// Holds one invoker for each thread that has requested a call. The end of a thread deletes its invoker.
 class Q_DECL_HIDDEN CDelayedCall::Store
 {
 public:
+    Store() { living = this; }
     ~Store();
 
     /// The invoker of the calling thread, or null.
-    CDelayedInvoker* current() { return m_invokers.localData(); }
-    CDelayedInvoker& currentOrNew();
-
+    static CDelayedInvoker* invoker();
     static void schedule(int msec, QObject* object, const char* method, const QVariantList& args,
                          bool singleShot);
 
 private:
-    void endOtherThreads();
+    /// What Qt keeps for a thread. When the store ends, slots of other threads are left behind without an
+    /// invoker; they are filled again if the library is loaded again.
+    struct Slot {
+        ~Slot();
+        Store* store = nullptr;
+        std::unique_ptr<CDelayedInvoker> invoker;
+    };
 
-    InvokerRegistry m_registry;
-    QThreadStorage<CDelayedInvoker*> m_invokers;
+    CDelayedInvoker& invokerOrNew();
+    void endOtherThreads();
+    std::vector<QPointer<QObject>> askBusyThreads();
+
+    // Outside the object, because static objects that outlive it may still use delayed calls.
+    static std::atomic<Store*> living;
+    static std::atomic<bool> hasEnded;
+
+    std::timed_mutex m_mutex; // for the list below; a call does not lock it
+    std::vector<Slot*> m_filledSlots;
+    QThreadStorage<Slot*> m_slots;
 };
 
-CDelayedInvoker& CDelayedCall::Store::currentOrNew()
+std::atomic<CDelayedCall::Store*> CDelayedCall::Store::living{nullptr};
+std::atomic<bool> CDelayedCall::Store::hasEnded{false};
+
+CDelayedCall::Store::Slot::~Slot()
 {
-    CDelayedInvoker* invoker = m_invokers.localData();
-    if (!invoker) {
-        invoker = new CDelayedInvoker(m_registry);
-        m_invokers.setLocalData(invoker);
+    if (store) {
+        const std::lock_guard lock(store->m_mutex);
+        auto& slots = store->m_filledSlots;
+        slots.erase(std::remove(slots.begin(), slots.end(), this), slots.end());
     }
-    return *invoker;
+}
+
+CDelayedInvoker* CDelayedCall::Store::invoker()
+{
+    Store* const store = living;
+    Slot* const slot = store ? store->m_slots.localData() : nullptr;
+    return slot ? slot->invoker.get() : nullptr;
+}
+
+CDelayedInvoker& CDelayedCall::Store::invokerOrNew()
+{
+    Slot* slot = m_slots.localData();
+    if (!slot) {
+        slot = new Slot;
+        m_slots.setLocalData(slot);
+    }
+    if (!slot->invoker) {
+        slot->invoker = std::make_unique<CDelayedInvoker>();
+        slot->store = this;
+        const std::lock_guard lock(m_mutex);
+        m_filledSlots.push_back(slot);
+    }
+    return *slot->invoker;
 }
 
 void CDelayedCall::Store::schedule(int msec, QObject* object, const char* method, const QVariantList& args,
                                    bool singleShot)
 {
-    if (object && method) {
-        instance().m_store->currentOrNew().schedule(msec, object, method, singleShot, args);
+    if (object && method && !hasEnded) {
+        instance().m_store->invokerOrNew().schedule(msec, object, method, singleShot, args);
     }
 }
 
 CDelayedCall::Store::~Store()
 {
-    if (m_invokers.hasLocalData()) {
-        m_invokers.setLocalData(nullptr);
+    hasEnded = true;
+    if (m_slots.hasLocalData()) {
+        m_slots.setLocalData(nullptr);
     }
+    living = nullptr;
     // Without an application object the process is ending, and other threads may have ended.
     if (QCoreApplication::instance()) {
         endOtherThreads();
     }
 }
 
-/// Makes every other thread delete its invoker before the invoker's code is unloaded.
+/// Deletes the invokers of all other threads before their code is unloaded.
 void CDelayedCall::Store::endOtherThreads()
 {
     QDeadlineTimer limit(unloadLimit);
-    std::unique_lock lock(m_registry.mutex, unloadLimit);
-    if (!lock.owns_lock() || m_registry.invokers.isEmpty()) {
-        return;
-    }
-    // Qt deletes a probe after the invoker of the same thread: when the probe is gone, no code of this
-    // library runs in that thread any more.
-    std::vector<QPointer<QObject>> probes;
-    for (CDelayedInvoker* invoker : qAsConst(m_registry.invokers)) {
-        QMetaObject::invokeMethod(
-            invoker, [this] { m_invokers.setLocalData(nullptr); }, Qt::QueuedConnection);
-        probes.emplace_back(new QObject);
-        probes.back()->moveToThread(invoker->thread());
-        probes.back()->deleteLater();
-    }
-    lock.unlock();
     const auto isGone = [](const QPointer<QObject>& probe) { return probe.isNull(); };
+    const std::vector<QPointer<QObject>> probes = askBusyThreads();
     while (!std::all_of(probes.begin(), probes.end(), isGone) && !limit.hasExpired()) {
         QThread::msleep(1);
     }
-    if (lock.try_lock_for(unloadLimit)) {
-        for (CDelayedInvoker* invoker : qAsConst(m_registry.invokers)) {
-            QCoreApplication::removePostedEvents(invoker);
+    std::unique_lock lock(m_mutex, unloadLimit);
+    if (lock.owns_lock()) {
+        for (const Slot* const slot : m_filledSlots) {
+            QCoreApplication::removePostedEvents(slot->invoker.get());
         }
     }
+}
+
+/// Deletes the invokers without calls and posts the deletion of the others to their threads.
+/// \return one object for each of these threads: Qt deletes it after the invoker, and when it is gone, no
+///         code of this library runs in its thread any more
+std::vector<QPointer<QObject>> CDelayedCall::Store::askBusyThreads()
+{
+    std::vector<QPointer<QObject>> probes;
+    const std::unique_lock lock(m_mutex, unloadLimit);
+    if (!lock.owns_lock()) {
+        return probes;
+    }
+    std::vector<Slot*> busy;
+    for (Slot* const slot : m_filledSlots) {
+        if (slot->invoker->isIdle()) {
+            slot->invoker.reset();
+            slot->store = nullptr;
+            continue;
+        }
+        busy.push_back(slot);
+        QMetaObject::invokeMethod(
+            slot->invoker.get(), [this] { m_slots.setLocalData(nullptr); }, Qt::QueuedConnection);
+        probes.emplace_back(new QObject);
+        probes.back()->moveToThread(slot->invoker->thread());
+        probes.back()->deleteLater();
+    }
+    m_filledSlots.swap(busy);
+    return probes;
 }
 
 CDelayedCall::CDelayedCall()
@@ -342,7 +222,7 @@ void CDelayedCall::invokeWithArgs(int msec, QObject* object, const char* method,
 
 void CDelayedCall::discard(QObject* object, const char* method)
 {
-    CDelayedInvoker* const invoker = object ? instance().m_store->current() : nullptr;
+    CDelayedInvoker* const invoker = object ? Store::invoker() : nullptr;
     if (invoker) {
         invoker->discard(object, method);
     }
@@ -350,7 +230,7 @@ void CDelayedCall::discard(QObject* object, const char* method)
 
 bool CDelayedCall::isActive(QObject* object, const char* method)
 {
-    CDelayedInvoker* const invoker = object && method ? instance().m_store->current() : nullptr;
+    CDelayedInvoker* const invoker = object && method ? Store::invoker() : nullptr;
     return invoker && invoker->isActive(object, method);
 }
 
