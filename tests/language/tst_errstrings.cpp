@@ -216,7 +216,7 @@ void ErrStringsTest::messagePrograms_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<bool>("display");
     QTest::addColumn<bool>("removed");
-    QTest::addColumn<QString>("arguments"); // none: the message goes to standard error
+    QTest::addColumn<QString>("arguments");
     QTest::newRow("kdialog") << "kdialog" << true << false << "--title|%1|--error|%2";
     QTest::newRow("zenity") << "zenity" << true << false << "--error|--no-markup|--title|%1|--text|%2";
     QTest::newRow("xmessage") << "xmessage" << true << false << "-center|-title|%1|%2";
@@ -255,15 +255,15 @@ void ErrStringsTest::messagePrograms()
     }
     const QString written = standardError.take();
     QCOMPARE(allocations, std::size_t(0));
+    // Also written where a program has been started: it may have refused to show the box.
     const QString caption = QStringLiteral("エラー");
     const QString text = QStringLiteral("処理されない例外が発生したため、Trelio Frame を終了します。");
+    QCOMPARE(written.count(caption), 4);
+    QVERIFY(written.endsWith(QStringLiteral("\n%1\n%2\n").arg(caption, text)));
     const QList<QStringList> calls = boxes.takeArguments();
     if (arguments.isEmpty()) {
         QCOMPARE(calls.size(), 0);
-        QCOMPARE(written.count(caption), 4);
-        QVERIFY(written.endsWith(QStringLiteral("\n%1\n%2\n").arg(caption, text)));
     } else {
-        QCOMPARE(written, QString());
         QCOMPARE(calls.size(), 4);
         QCOMPARE(calls.last().join(QLatin1Char('|')), arguments.arg(caption, text));
     }

@@ -23,7 +23,7 @@ namespace TOLVAN_NAMESPACE
 /// \par Systems
 /// On Windows the system's modal message box appears, owned by the active window if there is one. On Unix the
 /// box is shown by a message program (kdialog, zenity or xmessage), which is looked up when the texts are
-/// prepared; without such a program, or without a display, title and text are written to standard error.
+/// prepared. As the box may fail to appear there, title and text are also written to standard error.
 /// \par Threads
 /// Retranslate() and copying belong to the main thread. The Show... operations may be called from any thread
 /// and block it until the user has closed the box.

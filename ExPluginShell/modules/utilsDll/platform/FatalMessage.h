@@ -12,8 +12,7 @@ void prepareFatalMessages();
 /// this process and uses no widget; may be called from any thread.
 ///
 /// On Windows this is the system's message box. On Unix it is the box of the message program that
-/// prepareFatalMessages() found; if there is none, or it cannot be run, title and text are written
-/// to standard error.
+/// prepareFatalMessages() found, if it found one; title and text are also written to standard error.
 /// \param text  the message, zero-terminated UTF-16
 /// \param title caption of the box, zero-terminated UTF-16
 /// \param owner native handle of the window that owns the box, 0 for none; used on Windows only

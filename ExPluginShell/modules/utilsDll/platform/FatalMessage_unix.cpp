@@ -77,35 +77,25 @@ private:
     std::size_t m_size = 0;
 };
 
-/// \return whether the program could be started
-bool runToItsEnd(char* const arguments[])
+void runToItsEnd(char* const arguments[])
 {
     // The calling handler may have blocked signals, which the program would inherit.
     posix_spawnattr_t attributes;
     sigset_t none;
     sigemptyset(&none);
     if (posix_spawnattr_init(&attributes) != 0) {
-        return false;
+        return;
     }
     posix_spawnattr_setsigmask(&attributes, &none);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
     pid_t child = 0;
     const int failure = posix_spawn(&child, arguments[0], nullptr, &attributes, arguments, environ);
     posix_spawnattr_destroy(&attributes);
-    if (failure != 0) {
-        return false;
+    while (failure == 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
     }
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR) {
-            return true; // the host has collected the child itself
-        }
-    }
-    constexpr int couldNotStart = 127;
-    return WIFEXITED(status) && WEXITSTATUS(status) != couldNotStart;
 }
 
-bool showInProgram(Utf8Text& text, Utf8Text& title)
+void showInProgram(Utf8Text& text, Utf8Text& title)
 {
     char titleOption[] = "--title";
     char plainTitleOption[] = "-title";
@@ -117,25 +107,53 @@ bool showInProgram(Utf8Text& text, Utf8Text& title)
     switch (messageProgram.dialect) {
     case Dialect::KDialog: {
         char* const arguments[] = {path, titleOption, title.data(), errorOption, text.data(), nullptr};
-        return runToItsEnd(arguments);
+        runToItsEnd(arguments);
+        break;
     }
     case Dialect::Zenity: {
         char* const arguments[] = {path,         errorOption, noMarkup,    titleOption,
                                    title.data(), textOption,  text.data(), nullptr};
-        return runToItsEnd(arguments);
+        runToItsEnd(arguments);
+        break;
     }
     case Dialect::XMessage: {
         char* const arguments[] = {path, center, plainTitleOption, title.data(), text.data(), nullptr};
-        return runToItsEnd(arguments);
+        runToItsEnd(arguments);
+        break;
     }
     case Dialect::None:
         break;
     }
-    return false;
 }
+
+/// Keeps the calling thread from being ended by a write into a pipe that is not read any more.
+class PipeSignalBlock
+{
+public:
+    PipeSignalBlock()
+    {
+        sigemptyset(&m_pipe);
+        sigaddset(&m_pipe, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &m_pipe, &m_before);
+    }
+    ~PipeSignalBlock()
+    {
+        const timespec atOnce = {};
+        while (sigismember(&m_before, SIGPIPE) == 0 && sigtimedwait(&m_pipe, nullptr, &atOnce) > 0) {
+        }
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+    PipeSignalBlock(const PipeSignalBlock&) = delete;
+    PipeSignalBlock& operator=(const PipeSignalBlock&) = delete;
+
+private:
+    sigset_t m_pipe;
+    sigset_t m_before;
+};
 
 void writeToStandardError(const char* bytes, std::size_t size)
 {
+    const PipeSignalBlock block;
     while (size > 0) {
         const ssize_t written = write(STDERR_FILENO, bytes, size);
         if (written < 0 && errno == EINTR) {
@@ -177,13 +195,12 @@ void showFatalMessage(const ushort* text, const ushort* title, quintptr)
 {
     Utf8Text messageText(text);
     Utf8Text messageTitle(title);
-    if (showInProgram(messageText, messageTitle)) {
-        return;
-    }
+    // Always and first: the program may refuse to show the box or wait for a display that does not answer.
     writeToStandardError(messageTitle.data(), messageTitle.size());
     writeToStandardError("\n", 1);
     writeToStandardError(messageText.data(), messageText.size());
     writeToStandardError("\n", 1);
+    showInProgram(messageText, messageTitle);
 }
 
 } // namespace TOLVAN_NAMESPACE::Platform
