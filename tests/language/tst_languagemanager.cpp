@@ -11,6 +11,10 @@
 
 #include <stdexcept>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 using TOLVAN_NAMESPACE::CLanguageManager;
 
 namespace
@@ -48,6 +52,31 @@ QString cancelButtonText()
 {
     QMessageBox box(QMessageBox::Question, QString(), QString(), QMessageBox::Cancel);
     return box.button(QMessageBox::Cancel)->text().remove(QLatin1Char('&'));
+}
+
+std::size_t heapInUse()
+{
+#ifdef __GLIBC__
+    return mallinfo2().uordblks;
+#else
+    return 0;
+#endif
+}
+
+/// Heap that changes of the language have kept in a process without an application object.
+std::size_t keptWithoutApplication = 0;
+
+void changeWithoutApplication()
+{
+    const IsolatedProfile profile;
+    const QtMessageHandler handler = qInstallMessageHandler([](auto, const auto&, const auto&) {});
+    CLanguageManager().loadLanguageForApp(); // fills what is kept for good
+    const std::size_t before = heapInUse();
+    for (int i = 0; i < 400; ++i) { // of which each would keep more than 700 bytes
+        CLanguageManager().loadLanguageForApp();
+    }
+    keptWithoutApplication = heapInUse() - before;
+    qInstallMessageHandler(handler);
 }
 
 /// Opens the table to tables of the test's own.
@@ -99,6 +128,7 @@ private Q_SLOTS:
     void fixedAbbreviations();
     void tenChangesAndBack();
     void applicationFreesTranslators();
+    void nothingIsLeakedWithoutApplication();
     void sameLanguage();
 };
 
@@ -306,6 +336,11 @@ void LanguageManagerTest::applicationFreesTranslators()
     QCOMPARE(installedByApplication(), 2);
 }
 
+void LanguageManagerTest::nothingIsLeakedWithoutApplication()
+{
+    QVERIFY2(keptWithoutApplication < 100000, qPrintable(QString::number(keptWithoutApplication)));
+}
+
 void LanguageManagerTest::sameLanguage()
 {
     store(12);
@@ -320,5 +355,10 @@ void LanguageManagerTest::sameLanguage()
     QCOMPARE(changed.size(), 0);
 }
 
-TOLVAN_GUI_TEST_MAIN(LanguageManagerTest)
+int main(int argc, char* argv[])
+{
+    changeWithoutApplication();
+    return TestMain::run<QApplication, LanguageManagerTest>(argc, argv);
+}
+
 #include "tst_languagemanager.moc"

@@ -213,10 +213,11 @@ void CLanguageManager::setCurrentLanguageNumber(unsigned number)
 
 QTranslator* CLanguageManager::installTranslator(const QString& path)
 {
-    auto* const translator = new QTranslator(QCoreApplication::instance());
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
     translator->load(path);
-    QCoreApplication::installTranslator(translator);
-    return translator;
+    QCoreApplication::installTranslator(translator.get());
+    // Without an application object, which Qt warns about, nothing else would delete it.
+    return QCoreApplication::instance() ? translator.release() : nullptr;
 }
 
 void CLanguageManager::releaseCurrentTranslator()
