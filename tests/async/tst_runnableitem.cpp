@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -19,6 +20,14 @@
 
 namespace
 {
+
+using namespace std::chrono_literals;
+
+#if defined(TOLVAN_THREAD_SANITIZER) || defined(__SANITIZE_ADDRESS__)
+constexpr int waitsOnShortWork = 20000, deletions = 3000;
+#else
+constexpr int waitsOnShortWork = 2000, deletions = 300;
+#endif
 
 /// An item whose work is a function; notes its hooks. Deleted by the test.
 class Item : public TakenOver<CQRunnableItem>
@@ -71,6 +80,26 @@ bool untilStopped(const Item& item)
     return true;
 }
 
+void spinFor(std::chrono::microseconds time)
+{
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (std::chrono::steady_clock::now() < end) {
+    }
+}
+
+/// Opens the constructors to the checks below.
+struct OpenItem : CQRunnableItem {
+    using CQRunnableItem::CQRunnableItem;
+    bool doRun() override { return true; }
+    template <class... Args>
+    static auto takes(int) -> decltype(OpenItem(std::declval<Args>()...), std::true_type());
+    template <class... Args>
+    static std::false_type takes(...);
+};
+static_assert(decltype(OpenItem::takes<bool>(0))::value);
+static_assert(decltype(OpenItem::takes<bool, QObject*>(0))::value);
+static_assert(!decltype(OpenItem::takes<QThread*>(0))::value); // a parent is no flag
+
 /// The three signals of an item.
 struct Spies {
     explicit Spies(CQRunnableItem& item)
@@ -95,7 +124,12 @@ private Q_SLOTS:
     void stoppedFromAnotherThread();
     void workThatThrows();
     void interruptedThread();
-    void waits();
+    void notPickedUpYet();
+    void shortWorkIsSeenAndTheItemDeleted_data();
+    void shortWorkIsSeenAndTheItemDeleted();
+    void deletedInItsFinishedSlot_data();
+    void deletedInItsFinishedSlot();
+    void deadlines();
     void waitKeepsTimersAndSwallowsInput();
     void thousandItemsStoppedByManyThreads();
 };
@@ -206,26 +240,90 @@ void RunnableItemTest::interruptedThread()
     QCOMPARE(item.runs.load(), 1);
 }
 
-void RunnableItemTest::waits()
+void RunnableItemTest::notPickedUpYet()
+{
+    Item item(untilStopped);
+    item.waitFinishBlocking(); // returns at once
+    item.waitFinishNonBlocking(true);
+    QVERIFY(item.isFinished() && !item.isStarted());
+}
+
+void RunnableItemTest::shortWorkIsSeenAndTheItemDeleted_data()
+{
+    QTest::addColumn<int>("microseconds");
+    for (const int microseconds : {0, 20, 200}) {
+        QTest::addRow("%d us", microseconds) << microseconds;
+    }
+}
+
+void RunnableItemTest::shortWorkIsSeenAndTheItemDeleted()
+{
+    QFETCH(const int, microseconds);
+    QThreadPool pool;
+    std::atomic<int> finished{0};
+    for (int i = 1; i <= waitsOnShortWork; ++i) {
+        Item item([&](const Item&) {
+            spinFor(std::chrono::microseconds(microseconds));
+            return true;
+        });
+        connect(
+            &item, &CQRunnableItem::finished, &item, [&] { ++finished; }, Qt::DirectConnection);
+        startOn(pool, item);
+        i % 2 == 0 ? item.waitExecuteBlocking() : item.waitExecuteNonBlocking(false);
+        QCOMPARE(finished.load(), i); // and the item may go
+    }
+    QVERIFY(finishOn(pool));
+}
+
+void RunnableItemTest::deletedInItsFinishedSlot_data()
+{
+    QTest::addColumn<bool>("direct");
+    QTest::newRow("in its thread") << true;
+    QTest::newRow("in the main thread") << false;
+}
+
+void RunnableItemTest::deletedInItsFinishedSlot()
+{
+    QFETCH(const bool, direct);
+    QThreadPool pool;
+    std::atomic<int> deleted{0};
+    for (int i = 0; i < deletions; ++i) {
+        auto* const item = new Item([](const Item&) { return true; });
+        const auto remove = [item, &deleted] {
+            item->waitFinishBlocking();
+            delete item;
+            ++deleted;
+        };
+        connect(item, &CQRunnableItem::finished, this, remove,
+                direct ? Qt::DirectConnection : Qt::QueuedConnection);
+        startOn(pool, *item);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(deleted.load(), deletions, 60000);
+    QVERIFY(finishOn(pool));
+}
+
+void RunnableItemTest::deadlines()
 {
     QThreadPool pool;
-    pool.setMaxThreadCount(1);
-    std::atomic<bool> go{false}, ended{false};
-    Item blocker([&](const Item&) { return until(go); });
-    Item item([&](const Item&) {
-        QThread::msleep(1000); // long enough for the waiting thread to see the start, also on a busy machine
-        ended = true;
-        return true;
-    });
-    startOn(pool, blocker);
+    std::atomic<bool> go{false};
+    Item item([&](const Item&) { return until(go); });
+    QCOMPARE(item.waitStartBlockingFor(0ms), WaitResult::TimedOut);
+    QCOMPARE(item.waitExecuteNonBlockingFor(true, 5ms), WaitResult::TimedOut);
     startOn(pool, item);
-    item.waitFinishBlocking(); // not picked up yet: returns at once
-    item.waitFinishNonBlocking(true);
-    QVERIFY(!ended && item.isFinished() && !item.isStarted());
+    QCOMPARE(item.waitStartNonBlockingFor(false, 30s), WaitResult::Done);
+    QCOMPARE(item.waitFinishBlockingFor(5ms), WaitResult::TimedOut);
+    item.stop(); // which the work does not heed
+    QCOMPARE(item.waitExecuteBlockingFor(5ms), WaitResult::TimedOut);
+    WaitResult inPlainThread = WaitResult::Done;
+    std::thread([&] { inPlainThread = item.waitFinishNonBlockingFor(false, 30s); }).join();
+    QCOMPARE(inPlainThread, WaitResult::NoEventLoop);
     go = true;
-    item.waitExecuteBlocking();
-    QVERIFY(ended);
+    QCOMPARE(item.waitExecuteBlockingFor(30s), WaitResult::Done);
     QVERIFY(finishOn(pool));
+    Item never(untilStopped);
+    never.stop();
+    QCOMPARE(never.waitExecuteNonBlockingFor(true, 30s), WaitResult::Stopped);
+    QCOMPARE(never.waitFinishNonBlockingFor(true, 30s), WaitResult::Done);
 }
 
 void RunnableItemTest::waitKeepsTimersAndSwallowsInput()

@@ -87,8 +87,9 @@ public Q_SLOTS:
     /// \param nQuitTimeout milliseconds until a delayed call (CDelayedCall) of quit(); 0 or less
     ///                     sets no time-out
     /// \return the code that ended the loop: 0 for quit() **and for the time-out**, 1 for failedQuit(),
-    ///         else that of exit(); -1 at once if the loop is already running or the thread's event loop
-    ///         is being quit
+    ///         else that of exit(); -1 at once if the loop is already running, if the thread's event
+    ///         loop is being quit, or if the thread has no event dispatcher, as the main thread without
+    ///         an application object
     int exec(int nQuitTimeout);
     /// Ends the running loop with code 0. Like failedQuit() and exit() it does nothing if the loop
     /// is not running.

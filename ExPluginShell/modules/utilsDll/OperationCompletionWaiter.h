@@ -1,9 +1,13 @@
 #pragma once
 
 #include "utilsdll_global.h"
+#include "Waiting.h"
 
 #include <QEventLoop>
 #include <QObject>
+#include <QPointer>
+
+#include <chrono>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -14,7 +18,8 @@ namespace TOLVAN_NAMESPACE
 /// upload->start();
 /// waiter.startWaiting();
 /// \endcode
-/// A waiter serves one operation: once completed, it stays completed.
+/// A waiter serves one operation: once completed, it stays completed. Use startWaitingFor() if the signal
+/// may be missing.
 ///
 /// \warning startWaiting() runs a nested event loop: everything that is due in the thread runs inside it, the
 /// user's clicks and keys included. The user can start the operation a second time, and objects may have been
@@ -37,8 +42,15 @@ public:
 
     /// Blocks its caller until the signal has been emitted and processes all events of the thread, user input
     /// included. Returns at once if the signal was emitted before. Also returns, without completion, when the
-    /// thread's event loop is quit.
+    /// thread's event loop is quit, and at once in a thread without an event dispatcher.
     void startWaiting();
+
+    /// startWaiting() for a limited time.
+    /// \param limit longest duration of the wait; 0 or less processes only the events that are due
+    /// \return WaitResult::Done if the signal was emitted; WaitResult::TimedOut; WaitResult::SenderGone if
+    ///         the sender is null or was deleted, WaitResult::Stopped if the thread's event loop was quit,
+    ///         WaitResult::NoEventLoop at once in a thread without an event dispatcher
+    WaitResult startWaitingFor(std::chrono::milliseconds limit);
 
 protected:
     /// For derived classes that connect a signal themselves.
@@ -52,8 +64,15 @@ protected Q_SLOTS:
     void onOperationCompleted();
 
 private:
+    friend class COperationCompletionWaiterWithResult;
+
+    void setSender(const QObject* sender);
+    bool isSenderGone() const;
+
     bool m_completed = false;
     QEventLoop m_loop;
+    QPointer<const QObject> m_sender;
+    bool m_knowsSender = false; // false in derived classes that connect a signal themselves
 };
 
 /// A COperationCompletionWaiter for a signal whose first argument reports success, such as `finished(bool)`.

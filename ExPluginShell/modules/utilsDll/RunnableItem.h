@@ -18,6 +18,8 @@
 template <class Base>
 class CRunnableItem : public Base
 {
+    friend class CItemRun; // internal
+
 public:
     /// The condition that an item has started or has finished.
     class UTILSDLL_EXPORT StartFinishPredicate : public ICustomWaitPredicate
@@ -38,9 +40,9 @@ public:
     CRunnableItem(const CRunnableItem&) = delete;
     CRunnableItem& operator=(const CRunnableItem&) = delete;
 
-    /// Spins until no execution is inside the executable section. Members of derived classes have
-    /// been destroyed by then: a class whose work uses its members calls waitFinishBlocking() in
-    /// its own destructor.
+    /// Spins until no execution is inside the executable section, as waitFinishBlocking() does. Members of
+    /// derived classes have been destroyed by then: a class whose work uses its members calls
+    /// waitFinishBlocking() in its own destructor.
     virtual ~CRunnableItem();
 
     /// Whether the work has to end: a stop was requested, or an interruption of the **calling** thread was
@@ -53,9 +55,14 @@ public:
     bool isFinished() const;
 
     /// \name Blocking waits
-    /// These spin like waitBlocking(): no sleep, no time-out, no events. A finish wait returns at once if no
-    /// thread has started the item yet; use waitExecuteBlocking() to wait for the end of the work. A start
-    /// wait never returns if the item has finished already or was stopped before it ran.
+    /// These spin like waitBlocking(): no sleep, no time-out, no events. A start wait ends when the item is
+    /// running or has started since the call. A finish wait returns at once if no thread has started the item
+    /// yet; use waitExecuteBlocking() to wait for the end of the work, which every execution since the item
+    /// was created fulfils. A start or execute wait never returns if the item was stopped before it ran.
+    ///
+    /// The item may be deleted after a finish or execute wait if it is not started again: these waits also
+    /// cover the emission of CQRunnableItem::finished() by another thread. A slot of finished() that is
+    /// connected with Qt::BlockingQueuedConnection to the waiting thread needs a non-blocking wait.
     /// @{
 
     /// Waits until the item has started, has finished, or has started and then finished.
@@ -75,6 +82,22 @@ public:
     void waitExecuteNonBlocking(bool excludeUserInput);
     /// @}
 
+    /// \name Waits with a deadline
+    /// The same waits for a limited time. A limit of 0 or less tests once. They return WaitResult::Done or
+    /// WaitResult::TimedOut, a start or execute wait also WaitResult::Stopped when the item was stopped
+    /// before it started, a non-blocking wait also WaitResult::NoEventLoop in a thread without an event
+    /// dispatcher. The item may be deleted only after WaitResult::Done.
+    /// @{
+
+    /// Waits at most \a limit until the item has started, has finished, or has started and then finished.
+    WaitResult waitStartBlockingFor(std::chrono::milliseconds limit);
+    WaitResult waitFinishBlockingFor(std::chrono::milliseconds limit);
+    WaitResult waitExecuteBlockingFor(std::chrono::milliseconds limit);
+    WaitResult waitStartNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
+    WaitResult waitFinishNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
+    WaitResult waitExecuteNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
+    /// @}
+
 protected:
     /// How many executions are inside the executable section.
     int entriesCounter() const;
@@ -90,12 +113,21 @@ protected:
     void leaveExcecutableSection();
 
 private:
-    void waitConditionBlocking(bool start);
-    void waitConditionNonBlocking(bool start, bool excludeUserInput);
+    enum class Moment { Start, Finish, Execute };
+    class Condition;
+
+    bool hasEnded() const;
+    void waitConditionBlocking(Moment moment) const;
+    void waitConditionNonBlocking(Moment moment, bool excludeUserInput) const;
+    WaitResult waitConditionBlockingFor(Moment moment, std::chrono::milliseconds limit) const;
+    WaitResult waitConditionNonBlockingFor(Moment moment, bool excludeUserInput,
+                                           std::chrono::milliseconds limit) const;
 
     QAtomicInt m_entries;
     bool m_stop = false;
     mutable QReadWriteLock m_lock;
+    QAtomicInteger<quint32> m_starts; // executions since the item was created
+    QAtomicInt m_runs;                // calls of CQRunnableItem::run() that have not emitted finished() yet
 };
 
 extern template class UTILSDLL_EXPORT CRunnableItem<QRunnable>;
@@ -125,9 +157,9 @@ extern template class UTILSDLL_EXPORT CRunnableItem<QRunnable>;
 /// that calls stop(). The object lives in the thread that created it; receivers in that thread get
 /// the signals queued.
 /// \par Life
-/// See CRunnableItem. The executable section is left **before** finished() is emitted. Delete an item with
-/// setAutoDelete(false) after QThreadPool::waitForDone(), or with deleteLater() on finished(), not directly
-/// after a wait. Call setAutoDelete(false) for an item with a parent.
+/// See CRunnableItem. The executable section is left **before** finished() is emitted, but a finish or
+/// execute wait returns after the emission. An item with setAutoDelete(false) may be deleted after such a
+/// wait, also in a slot of finished(). Call setAutoDelete(false) for an item with a parent.
 class UTILSDLL_EXPORT CQRunnableItem : public QObject, public CRunnableItem<QRunnable>
 {
     Q_OBJECT
@@ -151,6 +183,9 @@ protected:
     /// \param emitSignals whether the item emits signals
     /// \param parent      owner of the item
     explicit CQRunnableItem(bool emitSignals, QObject* parent = nullptr);
+    /// Does not compile: a pointer alone, such as a parent, would be taken for the flag.
+    template <class Pointee>
+    explicit CQRunnableItem(Pointee* flag, QObject* parent = nullptr) = delete;
 
     /// Whether the item emits signals.
     bool emitSignals() const;

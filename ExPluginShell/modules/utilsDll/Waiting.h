@@ -4,6 +4,8 @@
 
 #include <QAtomicInt>
 
+#include <chrono>
+
 /// \file
 /// Waits for a condition, by spinning or by processing events.
 
@@ -55,6 +57,29 @@ UTILSDLL_EXPORT void waitBlocking(const ICustomWaitPredicate& pred);
 /// than a moment use CExcludeUserInpuEventLoop or COperationCompletionWaiter, which sleep.
 /// \warning Everything that is due in the thread runs inside the call, see CExcludeUserInpuEventLoop.
 UTILSDLL_EXPORT void waitNonBlocking(const ICustomWaitPredicate& pred, bool excludeUserInput);
+
+/// Why a wait with a deadline has ended.
+enum class WaitResult {
+    Done,        ///< the wait was fulfilled
+    TimedOut,    ///< the deadline passed
+    SenderGone,  ///< the object whose signal was awaited was deleted, or never existed
+    Stopped,     ///< the work item was stopped before it started, or the thread's event loop was quit
+    NoEventLoop, ///< the calling thread has no event dispatcher, so that no event could end the wait
+};
+
+/// waitBlocking() for a limited time.
+/// \param pred  the condition; its exceptions are passed on
+/// \param limit longest duration of the wait; 0 or less tests the condition once
+/// \return WaitResult::Done or WaitResult::TimedOut
+UTILSDLL_EXPORT WaitResult waitBlockingFor(const ICustomWaitPredicate& pred, std::chrono::milliseconds limit);
+
+/// waitNonBlocking() for a limited time.
+/// \param pred             see waitNonBlocking()
+/// \param excludeUserInput see waitNonBlocking()
+/// \param limit            longest duration of the wait; 0 or less tests the condition once
+/// \return WaitResult::Done, WaitResult::TimedOut or, at once, WaitResult::NoEventLoop
+UTILSDLL_EXPORT WaitResult waitNonBlockingFor(const ICustomWaitPredicate& pred, bool excludeUserInput,
+                                              std::chrono::milliseconds limit);
 
 /// waitBlocking() until \a value is \a awaited.
 UTILSDLL_EXPORT void waitBlockingAtomicIntValue(const QAtomicInt& value, int awaited);

@@ -3,6 +3,7 @@
 #include "DelayedCall.h"
 #include "ScopedInputFilter.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QThread>
@@ -12,7 +13,7 @@ namespace
 
 constexpr int succeeded = 0;
 constexpr int failed = 1;
-constexpr int alreadyRunning = -1;
+constexpr int notEntered = -1;
 
 bool isUserInput(QEvent::Type type)
 {
@@ -99,8 +100,8 @@ bool CExcludeUserInpuEventLoop::isRunning() const
 
 int CExcludeUserInpuEventLoop::exec(int nQuitTimeout)
 {
-    if (isRunning()) {
-        return alreadyRunning;
+    if (isRunning() || !QAbstractEventDispatcher::instance()) {
+        return notEntered;
     }
     const ScopedInputFilter filter(m_watched);
     if (nQuitTimeout != 0) {

@@ -2,6 +2,12 @@
 
 #include "frame/Logging.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <limits>
+
 namespace TOLVAN_NAMESPACE
 {
 
@@ -27,6 +33,7 @@ COperationCompletionWaiter::COperationCompletionWaiter(QObject* sender, const ch
     constexpr char function[] = "TOLVAN_NAMESPACE::COperationCompletionWaiter::COperationCompletionWaiter";
     assertGiven(sender, function, 16);
     assertGiven(signal, function, 17);
+    setSender(sender);
     QObject::connect(sender, signal, this, SLOT(onOperationCompleted()), Qt::AutoConnection);
 }
 
@@ -39,9 +46,50 @@ COperationCompletionWaiter::~COperationCompletionWaiter() = default;
 
 void COperationCompletionWaiter::startWaiting()
 {
-    if (!m_completed) {
+    if (!m_completed && QAbstractEventDispatcher::instance()) {
         m_loop.exec(QEventLoop::AllEvents);
     }
+}
+
+WaitResult COperationCompletionWaiter::startWaitingFor(std::chrono::milliseconds limit)
+{
+    if (!m_completed && !QAbstractEventDispatcher::instance()) {
+        return WaitResult::NoEventLoop;
+    }
+    // The signal of a sender that has been deleted since may still be queued.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    if (m_completed) {
+        return WaitResult::Done;
+    }
+    if (isSenderGone()) {
+        return WaitResult::SenderGone;
+    }
+    QTimer timer;
+    QEventLoop* const loop = &m_loop;
+    timer.setSingleShot(true);
+    connect(&timer, SIGNAL(timeout()), loop, SLOT(quit()));
+    const auto longest = static_cast<long long>(std::numeric_limits<int>::max());
+    timer.start(static_cast<int>(qBound(0LL, static_cast<long long>(limit.count()), longest)));
+    const QMetaObject::Connection senderGoes =
+        m_sender ? connect(m_sender, SIGNAL(destroyed(QObject*)), loop, SLOT(quit()))
+                 : QMetaObject::Connection();
+    loop->exec(QEventLoop::AllEvents);
+    disconnect(senderGoes);
+    return m_completed        ? WaitResult::Done
+           : isSenderGone()   ? WaitResult::SenderGone
+           : timer.isActive() ? WaitResult::Stopped
+                              : WaitResult::TimedOut;
+}
+
+void COperationCompletionWaiter::setSender(const QObject* sender)
+{
+    m_sender = sender;
+    m_knowsSender = true;
+}
+
+bool COperationCompletionWaiter::isSenderGone() const
+{
+    return m_knowsSender && !m_sender;
 }
 
 bool COperationCompletionWaiter::isOperationCompleted() const
@@ -64,6 +112,7 @@ COperationCompletionWaiterWithResult::COperationCompletionWaiterWithResult(const
 {
     assertGiven(sender, withResultConstructor, 43);
     assertGiven(signal, withResultConstructor, 44);
+    setSender(sender);
     QObject::connect(sender, signal, this, SLOT(onOperationCompleted(bool)), Qt::AutoConnection);
 }
 
