@@ -1,5 +1,5 @@
+#include "AssertionReport.h"
 #include "HappensBefore.h"
-#include "InstalledLogger.h"
 #include "TestMain.h"
 
 #include <utilsDll/ExcludeUserInpuEventLoop.h>
@@ -34,11 +34,9 @@ class CompletionWaiterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { installedLogger().take(); }
     void signalBeforeTheWait();
     void signalDuringTheWait();
     void signalOfAWorkerThread();
-    void assertions_data();
     void assertions();
     void userInputIsProcessed();
     void deadlines();
@@ -89,7 +87,6 @@ void CompletionWaiterTest::signalBeforeTheWait()
         outcome.startWaiting(); // stays completed
         QCOMPARE(outcome.isOperationSuccess(), ok);
     }
-    QVERIFY(installedLogger().take().isEmpty());
 }
 
 void CompletionWaiterTest::signalDuringTheWait()
@@ -124,50 +121,26 @@ void CompletionWaiterTest::signalOfAWorkerThread()
     takeOver(&operation);
 }
 
-void CompletionWaiterTest::assertions_data()
-{
-    QTest::addColumn<QString>("function");
-    QTest::addColumn<int>("line");
-    const QString plain = QStringLiteral("::COperationCompletionWaiter");
-    const QString withResult = QStringLiteral("WithResult::COperationCompletionWaiterWithResult");
-    QTest::newRow("no sender") << plain << 16;
-    QTest::newRow("no signal") << plain << 17;
-    QTest::newRow("with result, no sender") << withResult << 43;
-    QTest::newRow("with result, no signal") << withResult << 44;
-    QTest::newRow("outcome before completion") << QStringLiteral("WithResult::isOperationSuccess") << 52;
-}
-
 void CompletionWaiterTest::assertions()
 {
-    QFETCH(const QString, function);
-    QFETCH(const int, line);
-    const QString text =
-        QStringLiteral("ASSERT in ExPluginShell\\modules\\utilsDll\\OperationCompletionWaiter:%1").arg(line);
     Operation operation;
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(text));
-    if (line < 52) {
+    const QByteArray name = "TOLVAN_NAMESPACE::COperationCompletionWaiter";
+    const auto reports = [&](const char* function, int line, auto action) {
+        verifyReport((name + function).constData(), "OperationCompletionWaiter", line, nullptr, action);
+    };
+    const auto constructed = [&](const char* function, int line, auto action) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("QObject::connect: ")));
-    }
-    switch (line) {
-    case 16:
-        COperationCompletionWaiter(nullptr, SIGNAL(done()));
-        break;
-    case 17:
-        COperationCompletionWaiter(&operation, nullptr);
-        break;
-    case 43:
-        COperationCompletionWaiterWithResult(nullptr, SIGNAL(finished(bool)));
-        break;
-    case 44:
-        COperationCompletionWaiterWithResult(&operation, nullptr);
-        break;
-    default:
-        QVERIFY(
-            !COperationCompletionWaiterWithResult(&operation, SIGNAL(finished(bool))).isOperationSuccess());
-    }
-    QCOMPARE(installedLogger().take(),
-             QStringList{QStringLiteral("E TOLVAN_NAMESPACE::COperationCompletionWaiter") + function +
-                         QStringLiteral(": ") + text});
+        reports(function, line, action);
+    };
+    const char plain[] = "::COperationCompletionWaiter";
+    const char withResult[] = "WithResult::COperationCompletionWaiterWithResult";
+    constructed(plain, 16, [] { COperationCompletionWaiter(nullptr, SIGNAL(done())); });
+    constructed(plain, 17, [&] { COperationCompletionWaiter(&operation, nullptr); });
+    constructed(withResult, 43,
+                [] { COperationCompletionWaiterWithResult(nullptr, SIGNAL(finished(bool))); });
+    constructed(withResult, 44, [&] { COperationCompletionWaiterWithResult(&operation, nullptr); });
+    const COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
+    reports("WithResult::isOperationSuccess", 52, [&] { QVERIFY(!waiter.isOperationSuccess()); });
 }
 
 void CompletionWaiterTest::userInputIsProcessed()

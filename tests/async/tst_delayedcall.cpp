@@ -41,19 +41,6 @@ public Q_SLOTS:
     void takeMixed(const QString& text, double number) { received = {text, number}; }
 };
 
-/// Whether the arguments 1, 2, 3 ... arrive in their order and no others.
-template <int... Numbers>
-static bool arrive(std::integer_sequence<int, Numbers...> /*numbers*/)
-{
-    Target target;
-    CDelayedCall::invokeWithArgs(0, &target, "take", QVariant(Numbers + 1)...);
-    QVariantList expected{Numbers + 1 ...};
-    while (expected.size() < 9) {
-        expected += 0;
-    }
-    return QTest::qWaitFor([&] { return target.received == expected; });
-}
-
 /// A target that discards its calls when it is destroyed.
 struct Discarding : Target {
     ~Discarding() override { CDelayedCall::discard(this, nullptr); }
@@ -80,14 +67,11 @@ class DelayedCallTest : public QObject
 
 private Q_SLOTS:
     void burstBecomesOneCall();
-    void zeroDelayWaitsForTheLoop();
     void periodicUntilDiscarded();
     void lastRequestWins();
     void discardOneOrAll();
-    void methodsAreComparedAsTexts();
     void nothingForNullOrNegative();
     void argumentsInOrder();
-    void typeNamesHaveToMatch();
     void destroyedTarget();
     void newObjectAtTheSameAddress();
     void argumentHoldsTheTarget();
@@ -102,25 +86,14 @@ void DelayedCallTest::burstBecomesOneCall()
     QElapsedTimer sinceLast;
     qint64 elapsed = -1;
     target.inside = [&] { elapsed = sinceLast.elapsed(); };
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 5; ++i) {
         sinceLast.start();
-        CDelayedCall::invoke(100, &target, "m", true);
-        QThread::msleep(20); // the delay of the first requests passes before the loop turns again
+        CDelayedCall::invoke(50, &target, "m", true);
+        QThread::msleep(20); // the delay of the first requests passes before events are processed again
     }
     QTRY_COMPARE(target.calls, 1);
-    QVERIFY2(elapsed >= 90, qPrintable(QString::number(elapsed)));
+    QVERIFY2(elapsed >= 45, qPrintable(QString::number(elapsed)));
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QTest::qWait(120);
-    QCOMPARE(target.calls, 1);
-}
-
-void DelayedCallTest::zeroDelayWaitsForTheLoop()
-{
-    Target target;
-    CDelayedCall::invoke(0, &target, "m");
-    QCOMPARE(target.calls, 0);
-    QVERIFY(CDelayedCall::isActive(&target, "m"));
-    QTRY_COMPARE(target.calls, 1);
 }
 
 void DelayedCallTest::periodicUntilDiscarded()
@@ -130,22 +103,24 @@ void DelayedCallTest::periodicUntilDiscarded()
     clock.start();
     qint64 fourth = -1;
     target.inside = [&] { fourth = target.calls == 4 ? clock.elapsed() : fourth; };
-    CDelayedCall::invoke(50, &target, "m", false);
+    CDelayedCall::invoke(25, &target, "m", false);
     QTRY_VERIFY(target.calls >= 4); // a busy machine may look only after the fifth
-    QVERIFY2(fourth >= 180, qPrintable(QString::number(fourth)));
+    QVERIFY2(fourth >= 90, qPrintable(QString::number(fourth)));
     QVERIFY(CDelayedCall::isActive(&target, "m"));
     CDelayedCall::discard(&target, "m");
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
     const int calls = target.calls;
-    QTest::qWait(120);
+    QTest::qWait(60);
     QCOMPARE(target.calls, calls);
 }
 
 void DelayedCallTest::lastRequestWins()
 {
     Target target;
+    const QByteArray sameText("take"); // texts are compared, not addresses
     CDelayedCall::invokeWithArgs(10, &target, "take", QVariant(1), false);
-    CDelayedCall::invokeWithArgs(10, &target, "take", QVariant(2), true);
+    CDelayedCall::invokeWithArgs(0, &target, sameText.constData(), QVariant(2), true);
+    QVERIFY(target.received.isEmpty()); // also with a delay of 0 the call is not made at once
     QTRY_COMPARE(target.received.value(0).toInt(), 2);
     QVERIFY(!CDelayedCall::isActive(&target, "take")); // the flag was replaced as well
 }
@@ -162,23 +137,8 @@ void DelayedCallTest::discardOneOrAll()
     QVERIFY(CDelayedCall::isActive(&target, "other"));
     CDelayedCall::invoke(20, &target, "m");
     CDelayedCall::discard(&target, nullptr);
-    QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QVERIFY(!CDelayedCall::isActive(&target, "other"));
     QTRY_COMPARE(bystander.calls + bystander.others, 2);
     QCOMPARE(target.calls + target.others, 0);
-}
-
-void DelayedCallTest::methodsAreComparedAsTexts()
-{
-    Target target;
-    const QByteArray copy("m");
-    CDelayedCall::invoke(10, &target, "m");
-    QVERIFY(CDelayedCall::isActive(&target, copy.constData()));
-    CDelayedCall::invoke(10, &target, copy.constData());
-    CDelayedCall::discard(&target, "m");
-    QVERIFY(!CDelayedCall::isActive(&target, copy.constData()));
-    QTest::qWait(50);
-    QCOMPARE(target.calls, 0);
 }
 
 void DelayedCallTest::nothingForNullOrNegative()
@@ -193,34 +153,29 @@ void DelayedCallTest::nothingForNullOrNegative()
     QTest::ignoreMessage(QtWarningMsg, "QObject::startTimer: Timers cannot have negative intervals");
     CDelayedCall::invoke(-1, &target, "m"); // no timer, but the earlier request is cancelled
     QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QTest::qWait(50);
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("No such method Target::take\\(double\\)")));
+    CDelayedCall::invokeWithArgs(0, &target, "take", QVariant(5.0)); // type names have to match
+    QTRY_VERIFY(!CDelayedCall::isActive(&target, "take"));
+    QVERIFY(target.received.isEmpty());
     QCOMPARE(target.calls, 0);
 }
 
 void DelayedCallTest::argumentsInOrder()
 {
-    QVERIFY(arrive(std::make_integer_sequence<int, 1>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 2>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 3>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 4>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 5>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 6>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 7>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 8>()));
-    QVERIFY(arrive(std::make_integer_sequence<int, 9>()));
     Target target;
+    QVariantList expected{0, 0, 0, 0, 0, 0, 0, 0, 0};
+    const auto arrive = [&](const auto&... arguments) {
+        expected[int(sizeof...(arguments)) - 1] = int(sizeof...(arguments));
+        CDelayedCall::invokeWithArgs(0, &target, "take", arguments...);
+        return QTest::qWaitFor([&] { return target.received == expected; });
+    };
+    const QVariant a(1), b(2), c(3), d(4), e(5), f(6), g(7), h(8), i(9);
+    QVERIFY(arrive(a) && arrive(a, b) && arrive(a, b, c) && arrive(a, b, c, d) && arrive(a, b, c, d, e));
+    QVERIFY(arrive(a, b, c, d, e, f) && arrive(a, b, c, d, e, f, g) && arrive(a, b, c, d, e, f, g, h));
+    QVERIFY(arrive(a, b, c, d, e, f, g, h, i));
     CDelayedCall::invokeWithArgs(0, &target, "takeMixed", QStringLiteral("ä"), QVariant(0.5));
     QTRY_COMPARE(target.received, QVariantList({QStringLiteral("ä"), 0.5}));
-}
-
-void DelayedCallTest::typeNamesHaveToMatch()
-{
-    Target target;
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("No such method Target::take\\(double\\)")));
-    CDelayedCall::invokeWithArgs(0, &target, "take", QVariant(5.0));
-    QTRY_VERIFY(!CDelayedCall::isActive(&target, "take"));
-    QVERIFY(target.received.isEmpty());
 }
 
 void DelayedCallTest::destroyedTarget()
@@ -230,9 +185,8 @@ void DelayedCallTest::destroyedTarget()
     CDelayedCall::invoke(5, target, "other", false);
     delete target;
     QVERIFY(!CDelayedCall::isActive(target, "m"));
-    QVERIFY(!CDelayedCall::isActive(target, "other"));
     CDelayedCall::discard(target, nullptr);
-    QTest::qWait(50); // both fall due: no crash, no message
+    QTest::qWait(30); // both fall due: no crash, no message
 }
 
 void DelayedCallTest::newObjectAtTheSameAddress()
@@ -246,8 +200,6 @@ void DelayedCallTest::newObjectAtTheSameAddress()
     CDelayedCall::invoke(20, target, "other");
     QTRY_COMPARE(target->others, 1);
     QCOMPARE(target->calls, 0); // the old object's call has fallen due before
-    CDelayedCall::invoke(0, target, "m");
-    QTRY_COMPARE(target->calls, 1);
     target->~Target();
 }
 
@@ -302,9 +254,8 @@ void DelayedCallTest::insideTheCall_data()
     for (const bool singleShot : {true, false}) {
         const char* const kind = singleShot ? "single shot" : "periodic";
         QTest::addRow("%s discards itself", kind) << singleShot << QStringLiteral("discard") << 1;
-        QTest::addRow("%s asks for itself again", kind) << singleShot << QStringLiteral("again") << 2;
-        QTest::addRow("%s deletes its target", kind) << singleShot << QStringLiteral("delete target") << 1;
-        QTest::addRow("%s deletes another target", kind) << singleShot << QStringLiteral("delete other") << 1;
+        QTest::addRow("%s requests itself again", kind) << singleShot << QStringLiteral("again") << 2;
+        QTest::addRow("%s deletes both targets", kind) << singleShot << QStringLiteral("delete") << 1;
     }
 }
 
@@ -323,11 +274,9 @@ void DelayedCallTest::insideTheCall()
             QVERIFY(CDelayedCall::isActive(t, "m"));
         } else if (action == QLatin1String("nest")) {
             QTest::qWait(30); // its timer is still running
-        } else if (action == QLatin1String("delete target")) {
+        } else if (action == QLatin1String("delete")) {
             delete t;
-        } else if (action == QLatin1String("delete other")) {
             delete other;
-            CDelayedCall::discard(t, nullptr);
         } else {
             CDelayedCall::discard(t, "m");
         }

@@ -9,6 +9,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <functional>
@@ -24,9 +25,9 @@ namespace
 using namespace std::chrono_literals;
 
 #if defined(TOLVAN_THREAD_SANITIZER) || defined(__SANITIZE_ADDRESS__)
-constexpr int waitsOnShortWork = 20000, deletions = 3000;
+constexpr int waitsOnShortWork = 20000, deletions = 6000;
 #else
-constexpr int waitsOnShortWork = 2000, deletions = 300;
+constexpr int waitsOnShortWork = 1000, deletions = 600;
 #endif
 
 /// An item whose work is a function; notes its hooks. Deleted by the test.
@@ -52,12 +53,14 @@ private:
         ++runs;
         return work(*this);
     }
-    void doBeforeStopped() override { note(stopRequired() ? "before, too late" : "before"); }
-    void doStopped() override { note(stopRequired() ? "after" : "after, too early"); }
-    void note(const char* hook)
+    void doBeforeStopped() override { note("before", false); }
+    void doStopped() override { note("after", true); }
+    void note(const char* hook, bool afterTheRequest)
     {
         const std::lock_guard lock(m_mutex); // several threads may stop the item
-        hooks += QString::fromLatin1(hook);
+        if (stopFlag() == afterTheRequest) {
+            hooks += QString::fromLatin1(hook);
+        }
     }
 
     std::mutex m_mutex;
@@ -118,69 +121,55 @@ class RunnableItemTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void outcome_data();
     void outcome();
     void stoppedBeforeItRuns();
     void stoppedFromAnotherThread();
     void workThatThrows();
     void interruptedThread();
-    void notPickedUpYet();
-    void shortWorkIsSeenAndTheItemDeleted_data();
     void shortWorkIsSeenAndTheItemDeleted();
-    void deletedInItsFinishedSlot_data();
     void deletedInItsFinishedSlot();
     void deadlines();
     void waitKeepsTimersAndSwallowsInput();
     void thousandItemsStoppedByManyThreads();
 };
 
-void RunnableItemTest::outcome_data()
-{
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<bool>("stopped");
-    QTest::addColumn<bool>("emitSignals");
-    QTest::newRow("success") << true << false << true;
-    QTest::newRow("failure") << false << false << true;
-    QTest::newRow("success in spite of a stop") << true << true << true;
-    QTest::newRow("given up") << false << true << true;
-    QTest::newRow("stopped, no signals") << true << true << false;
-}
-
 void RunnableItemTest::outcome()
 {
-    QFETCH(const bool, ok);
-    QFETCH(const bool, stopped);
-    QFETCH(const bool, emitSignals);
-    int counted = 0;
-    Item item(
-        [&](const Item& self) {
+    const auto run = [this](bool ok, bool stopped, bool emitSignals) {
+        int counted = 0, countedAtFinished = 0;
+        const auto work = [&](const Item& self) {
             if (stopped) {
                 const_cast<Item&>(self).stop();
             }
             counted = self.entriesCounter();
             return ok;
-        },
-        emitSignals);
-    const Spies spies(item);
-    int countedAtFinished = 0;
-    connect(&item, &CQRunnableItem::finished, this, [&] { countedAtFinished = item.entriesCounter(); });
-    item.run();
-    QCOMPARE(counted, 1);
-    QCOMPARE(countedAtFinished, 0);
-    QCOMPARE(spies.started.count(), emitSignals ? 1 : 0);
-    QCOMPARE(spies.wantsToStop.count(), stopped && emitSignals ? 1 : 0);
-    QCOMPARE(QVariantList(spies.finished.value(0)),
-             emitSignals ? QVariantList({ok, stopped}) : QVariantList());
-    QCOMPARE(item.hooks.size(), stopped ? 2 : 0);
+        };
+        Item item(work, emitSignals);
+        const Spies spies(item);
+        connect(&item, &CQRunnableItem::finished, this, [&] { countedAtFinished = item.entriesCounter(); });
+        item.run();
+        QCOMPARE(counted, 1);
+        QCOMPARE(countedAtFinished, 0);
+        QCOMPARE(spies.started.count(), int(emitSignals));
+        QCOMPARE(spies.wantsToStop.count(), int(stopped && emitSignals));
+        QCOMPARE(QVariantList(spies.finished.value(0)),
+                 emitSignals ? QVariantList({ok, stopped}) : QVariantList());
+        QCOMPARE(item.hooks.size(), stopped ? 2 : 0);
+    };
+    for (const bool ok : {true, false}) {
+        run(ok, false, true);
+        run(ok, true, true);
+        run(ok, true, false);
+    }
 }
 
 void RunnableItemTest::stoppedBeforeItRuns()
 {
     Item item(untilStopped);
     const Spies spies(item);
-    QVERIFY(QMetaObject::invokeMethod(&item, "stop"));
-    QVERIFY(QMetaObject::invokeMethod(&item, "stop")); // the second one is silent
-    QVERIFY(QMetaObject::invokeMethod(&item, "run"));
+    for (const char* const slot : {"stop", "stop", "run"}) { // the second stop is silent
+        QVERIFY(QMetaObject::invokeMethod(&item, slot));
+    }
     QCOMPARE(item.runs.load(), 0);
     QCOMPARE(spies.wantsToStop.count(), 1);
     QCOMPARE(spies.started.count() + spies.finished.count(), 0);
@@ -240,51 +229,29 @@ void RunnableItemTest::interruptedThread()
     QCOMPARE(item.runs.load(), 1);
 }
 
-void RunnableItemTest::notPickedUpYet()
-{
-    Item item(untilStopped);
-    item.waitFinishBlocking(); // returns at once
-    item.waitFinishNonBlocking(true);
-    QVERIFY(item.isFinished() && !item.isStarted());
-}
-
-void RunnableItemTest::shortWorkIsSeenAndTheItemDeleted_data()
-{
-    QTest::addColumn<int>("microseconds");
-    for (const int microseconds : {0, 20, 200}) {
-        QTest::addRow("%d us", microseconds) << microseconds;
-    }
-}
-
 void RunnableItemTest::shortWorkIsSeenAndTheItemDeleted()
 {
-    QFETCH(const int, microseconds);
     QThreadPool pool;
     std::atomic<int> finished{0};
-    for (int i = 1; i <= waitsOnShortWork; ++i) {
-        Item item([&](const Item&) {
-            spinFor(std::chrono::microseconds(microseconds));
-            return true;
-        });
-        connect(
-            &item, &CQRunnableItem::finished, &item, [&] { ++finished; }, Qt::DirectConnection);
-        startOn(pool, item);
-        i % 2 == 0 ? item.waitExecuteBlocking() : item.waitExecuteNonBlocking(false);
-        QCOMPARE(finished.load(), i); // and the item may go
+    int started = 0;
+    for (const auto time : {0us, 20us, 200us}) {
+        for (int i = 0; i < waitsOnShortWork; ++i) {
+            Item item([&](const Item&) {
+                spinFor(time);
+                return true;
+            });
+            connect(
+                &item, &CQRunnableItem::finished, &item, [&] { ++finished; }, Qt::DirectConnection);
+            startOn(pool, item);
+            i % 2 == 0 ? item.waitExecuteBlocking() : item.waitExecuteNonBlocking(false);
+            QCOMPARE(finished.load(), ++started); // and the item may go
+        }
     }
     QVERIFY(finishOn(pool));
 }
 
-void RunnableItemTest::deletedInItsFinishedSlot_data()
-{
-    QTest::addColumn<bool>("direct");
-    QTest::newRow("in its thread") << true;
-    QTest::newRow("in the main thread") << false;
-}
-
 void RunnableItemTest::deletedInItsFinishedSlot()
 {
-    QFETCH(const bool, direct);
     QThreadPool pool;
     std::atomic<int> deleted{0};
     for (int i = 0; i < deletions; ++i) {
@@ -295,7 +262,7 @@ void RunnableItemTest::deletedInItsFinishedSlot()
             ++deleted;
         };
         connect(item, &CQRunnableItem::finished, this, remove,
-                direct ? Qt::DirectConnection : Qt::QueuedConnection);
+                i % 2 == 0 ? Qt::DirectConnection : Qt::QueuedConnection);
         startOn(pool, *item);
     }
     QTRY_COMPARE_WITH_TIMEOUT(deleted.load(), deletions, 60000);
@@ -307,6 +274,8 @@ void RunnableItemTest::deadlines()
     QThreadPool pool;
     std::atomic<bool> go{false};
     Item item([&](const Item&) { return until(go); });
+    item.waitFinishBlocking(); // not started yet: returns at once
+    item.waitFinishNonBlocking(true);
     QCOMPARE(item.waitStartBlockingFor(0ms), WaitResult::TimedOut);
     QCOMPARE(item.waitExecuteNonBlockingFor(true, 5ms), WaitResult::TimedOut);
     startOn(pool, item);
@@ -354,12 +323,12 @@ void RunnableItemTest::waitKeepsTimersAndSwallowsInput()
 
 void RunnableItemTest::thousandItemsStoppedByManyThreads()
 {
-    constexpr int count = 1000, stoppers = 4;
+    constexpr std::size_t count = 1000, stoppers = 4;
     std::vector<std::unique_ptr<Item>> items;
     std::atomic<int> finished{0}, worked{0};
     QThreadPool pool;
     pool.setMaxThreadCount(4);
-    for (int i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         items.push_back(std::make_unique<Item>([&worked, i](const Item& self) {
             ++worked;
             return i % 2 == 0 ? untilStopped(self) : self.stopRequired();
@@ -369,10 +338,10 @@ void RunnableItemTest::thousandItemsStoppedByManyThreads()
         startOn(pool, *items.back());
     }
     std::vector<std::thread> threads;
-    for (int t = 0; t < stoppers; ++t) {
-        threads.emplace_back([&, t] {
-            for (int i = 0; i < count; ++i) {
-                items[static_cast<std::size_t>((i + t * count / stoppers) % count)]->stop();
+    for (std::size_t first = 0; first < count; first += count / stoppers) {
+        threads.emplace_back([&items, first] {
+            for (std::size_t i = 0; i < count; ++i) {
+                items[(first + i) % count]->stop();
             }
         });
     }
@@ -381,11 +350,9 @@ void RunnableItemTest::thousandItemsStoppedByManyThreads()
     }
     QVERIFY(finishOn(pool));
     QCOMPARE(finished.load(), worked.load());
-    for (const auto& item : items) {
-        QCOMPARE(item->entriesCounter(), 0);
-        QVERIFY(item->stopRequired());
-        QVERIFY(item->runs <= 1);
-    }
+    QVERIFY(std::all_of(items.begin(), items.end(), [](const auto& item) {
+        return item->isFinished() && item->stopRequired() && item->runs <= 1;
+    }));
 }
 
 TOLVAN_GUI_TEST_MAIN(RunnableItemTest)

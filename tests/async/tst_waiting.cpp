@@ -1,13 +1,13 @@
 #include "EventSink.h"
 #include "TestMain.h"
 
+#include <utilsDll/ExcludeUserInpuEventLoop.h>
 #include <utilsDll/Waiting.h>
 
 #include <QLineEdit>
 #include <QTimer>
 #include <QWheelEvent>
 
-#include <atomic>
 #include <functional>
 #include <stdexcept>
 #include <thread>
@@ -51,8 +51,8 @@ class WaitingTest : public QObject
 private Q_SLOTS:
     void conditionThatHoldsIsTestedOnce();
     void blockingWaitForAnotherThread();
-    void eventsOfANonBlockingWait_data();
     void eventsOfANonBlockingWait();
+    void inputOfTheWindowSystemIsDelayed();
     void filterGoesWhenThePredicateThrows();
     void waitInAWorkerBlocksNoInput();
 };
@@ -78,61 +78,78 @@ void WaitingTest::blockingWaitForAnotherThread()
     QAtomicInt value(0);
     int written = 0; // guarded by the order of the atomic
     std::thread other([&] {
-        for (int i = 1; i <= 3; ++i) {
-            written = i;
-            value.storeRelease(i);
-            waitBlockingAtomicIntValue(value, -i);
-        }
+        written = 1;
+        value.storeRelease(1);
+        waitBlockingAtomicIntValue(value, -1);
     });
-    for (int i = 1; i <= 3; ++i) {
-        waitBlockingAtomicIntValue(value, i);
-        QCOMPARE(written, i);
-        value.storeRelease(-i);
-    }
+    waitBlockingAtomicIntValue(value, 1);
+    QCOMPARE(written, 1);
+    value.storeRelease(-1);
     other.join();
-}
-
-void WaitingTest::eventsOfANonBlockingWait_data()
-{
-    QTest::addColumn<bool>("excludeUserInput");
-    QTest::newRow("input processed") << false;
-    QTest::newRow("input excluded") << true;
 }
 
 void WaitingTest::eventsOfANonBlockingWait()
 {
-    QFETCH(const bool, excludeUserInput);
-    EventSink sink;
-    QLineEdit edit;
-    edit.show();
-    bool queued = false;
-    QMetaObject::invokeMethod(
-        this, [&] { queued = true; }, Qt::QueuedConnection);
-    QAtomicInt over(0);
-    int ticks = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        if (++ticks == 1) {
+    for (const bool excludeUserInput : {false, true}) {
+        EventSink sink;
+        QLineEdit edit;
+        edit.show();
+        bool queued = false;
+        QMetaObject::invokeMethod(
+            this, [&] { queued = true; }, Qt::QueuedConnection);
+        QAtomicInt over(0);
+        QTimer::singleShot(5, this, [&] {
             sink.got.clear();
             sendAllKindsOfInput(sink);
             QTest::keyClicks(&edit, QStringLiteral("text"));
             edit.close();
-        } else if (ticks == 4) {
-            over.storeRelease(1);
+            QTimer::singleShot(5, this, [&] { over.storeRelease(1); });
+        });
+        waitNonBlockingAtomicIntValue(over, 1, excludeUserInput);
+        QVERIFY(queued);
+        QVERIFY(sink.got.contains(QEvent::MouseMove) && sink.got.contains(QEvent::Wheel));
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::MouseButtonPress,
+                                QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
+            QVERIFY2(sink.got.contains(type) != excludeUserInput, qPrintable(QString::number(type)));
         }
-    });
-    timer.start(5);
-    waitNonBlockingAtomicIntValue(over, 1, excludeUserInput);
-    QVERIFY(queued);
-    QVERIFY(sink.got.contains(QEvent::MouseMove) && sink.got.contains(QEvent::Wheel));
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::MouseButtonPress,
-                            QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
-        QVERIFY2(sink.got.contains(type) != excludeUserInput, qPrintable(QString::number(type)));
+        QCOMPARE(edit.isVisible(), excludeUserInput);
+        QCoreApplication::processEvents(); // what was swallowed is lost
+        QCOMPARE(edit.text(), excludeUserInput ? QString() : QStringLiteral("text"));
     }
-    QCOMPARE(edit.isVisible(), excludeUserInput);
-    QCoreApplication::processEvents(); // what was swallowed is gone for good
-    QTest::keyClicks(&edit, QStringLiteral(" later"));
-    QCOMPARE(edit.text(), excludeUserInput ? QStringLiteral(" later") : QStringLiteral("text later"));
+}
+
+void WaitingTest::inputOfTheWindowSystemIsDelayed()
+{
+    EventSink sink;
+    sink.resize(100, 100);
+    sink.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&sink));
+    const QPointF place(10, 10);
+    const auto use = [&] { // as the platform does
+        QWindow* const window = sink.windowHandle();
+        qt_handleMouseEvent(window, place, place, Qt::NoButton, Qt::NoButton, QEvent::MouseMove,
+                            Qt::NoModifier, 1);
+        qt_handleMouseEvent(window, place, place, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress,
+                            Qt::NoModifier, 2);
+        qt_handleMouseEvent(window, place, place, Qt::NoButton, Qt::LeftButton, QEvent::MouseButtonRelease,
+                            Qt::NoModifier, 3);
+    };
+    const auto seen = [&](QEvent::Type type) { return sink.got.contains(type); };
+    for (const bool asleep : {true, false}) {
+        sink.got.clear();
+        bool during = false;
+        QAtomicInt over(0);
+        CExcludeUserInpuEventLoop loop;
+        QTimer::singleShot(0, this, use);
+        QTimer::singleShot(50, this, [&] {
+            during = seen(QEvent::MouseMove) || seen(QEvent::MouseButtonPress);
+            over.storeRelease(1);
+            loop.quit();
+        });
+        asleep ? void(loop.exec(0)) : waitNonBlockingAtomicIntValue(over, 1, true);
+        QVERIFY(!during);
+        QTRY_VERIFY(seen(QEvent::MouseMove) && seen(QEvent::MouseButtonPress)); // delayed, not lost
+    }
 }
 
 void WaitingTest::filterGoesWhenThePredicateThrows()
@@ -148,18 +165,17 @@ void WaitingTest::filterGoesWhenThePredicateThrows()
 void WaitingTest::waitInAWorkerBlocksNoInput()
 {
     EventSink sink;
-    QAtomicInt value(0);
-    std::atomic<bool> waiting{false};
+    QAtomicInt state(0);
     std::thread worker([&] {
-        waitNonBlocking(Condition([&] {
-                            waiting = true;
-                            return value.loadAcquire() == 1;
-                        }),
-                        true);
+        const Condition over([&] {
+            state.testAndSetOrdered(0, 1);
+            return state.loadAcquire() == 2;
+        });
+        waitNonBlocking(over, true);
     });
-    QTRY_VERIFY(waiting.load());
+    waitBlockingAtomicIntValue(state, 1);
     QTest::mouseClick(&sink, Qt::LeftButton);
-    value.storeRelease(1);
+    state.storeRelease(2);
     worker.join();
     QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
 }

@@ -52,7 +52,6 @@ class ErrStringsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void texts_data();
     void texts();
     void driveOfTemporaryFolder();
     void copies();
@@ -65,35 +64,32 @@ private Q_SLOTS:
 #endif
 };
 
-void ErrStringsTest::texts_data()
-{
-    const QString inHost = QStringLiteral(
-        "Trelio Frame has run out of memory. The application may now become unstable. Please close "
-        "Trelio Frame and Photoshop, quit all other programs running, and try again.");
-    QTest::addColumn<QStringList>("texts"); // in the order of the operations
-    QTest::newRow("") << QStringList{QStringLiteral("Windows small space message on drive %1").arg(drive()),
-                                     QStringLiteral("Out of memory. Program will be closed."), inHost,
-                                     QStringLiteral("Unhandled exception. Program will be closed.")};
-    QTest::newRow("en") << QStringList{
-        QStringLiteral("Trelio Frame cannot start since there is not enough free space on disk %1.\n"
-                       "Please remove unnecessary files from the disk and try again.")
-            .arg(drive()),
-        QStringLiteral("Trelio Frame must close because there is not enough memory available.\n"
-                       "Please close some other programs and try to start Trelio Frame again."),
-        inHost, QStringLiteral("Trelio Frame must close because of an unhandled exception.")};
-}
-
 void ErrStringsTest::texts()
 {
-    QFETCH(QStringList, texts);
-    FatalBoxes boxes;
-    const auto translator = installed(QString::fromLatin1(QTest::currentDataTag()));
-    const CErrStrings strings;
-    for (const auto& message : show) {
-        (strings.*message)();
-    }
-    QCOMPARE(boxes.take(),
-             texts.replaceInStrings(QRegularExpression(QStringLiteral("^")), QStringLiteral("Error|")));
+    const QString inHost = QStringLiteral(
+        "Error|Trelio Frame has run out of memory. The application may now become unstable. Please close "
+        "Trelio Frame and Photoshop, quit all other programs running, and try again.");
+    const auto shown = [](const QString& language) {
+        FatalBoxes boxes;
+        const auto translator = installed(language);
+        const CErrStrings strings;
+        for (const auto& message : show) {
+            (strings.*message)();
+        }
+        return boxes.take();
+    };
+    const QStringList keys{QStringLiteral("Error|Windows small space message on drive %1").arg(drive()),
+                           QStringLiteral("Error|Out of memory. Program will be closed."), inHost,
+                           QStringLiteral("Error|Unhandled exception. Program will be closed.")};
+    QCOMPARE(shown(QString()), keys);
+    const QStringList english{
+        QStringLiteral("Error|Trelio Frame cannot start since there is not enough free space on disk %1.\n"
+                       "Please remove unnecessary files from the disk and try again.")
+            .arg(drive()),
+        QStringLiteral("Error|Trelio Frame must close because there is not enough memory available.\n"
+                       "Please close some other programs and try to start Trelio Frame again."),
+        inHost, QStringLiteral("Error|Trelio Frame must close because of an unhandled exception.")};
+    QCOMPARE(shown(QStringLiteral("en")), english);
 }
 
 void ErrStringsTest::driveOfTemporaryFolder()
