@@ -1,12 +1,13 @@
 // A logger library for the tests of the logger start-up. Notes every call in the file "logger.txt" of the
-// working folder. FAKE_LOGGER_NULL makes a variant that gives no logger, FAKE_LOGGER_NO_EXPORT one without
-// the export.
+// working folder. FAKE_LOGGER_NULL makes a variant that returns no logger, FAKE_LOGGER_NO_EXPORT one without
+// the export, FAKE_LOGGER_THROWS and FAKE_LOGGER_THROWS_IN_INIT variants that throw.
 
 #include <utilsDll/ILoggerInterface.h>
 
 #include <QtCore/qglobal.h>
 
 #include <fstream>
+#include <stdexcept>
 
 namespace
 {
@@ -16,12 +17,21 @@ class FakeLogger : public ILoggerInterface
 public:
     void init(const std::string& folder, const std::string& name, char level) override
     {
+#if defined(FAKE_LOGGER_THROWS_IN_INIT)
+        throw 1;
+#endif
         note() << "init " << folder << '|' << name << '|' << int(static_cast<unsigned char>(level)) << '\n';
     }
-    void log(char level, const char* text) override { note() << level << ' ' << text << '\n'; }
+    void log(char level, const char* text) override
+    {
+        note() << level << ' ' << text << '\n';
+    }
 
 private:
-    static std::ofstream note() { return std::ofstream("logger.txt", std::ios::app | std::ios::binary); }
+    static std::ofstream note()
+    {
+        return std::ofstream("logger.txt", std::ios::app | std::ios::binary);
+    }
 };
 
 } // namespace
@@ -34,7 +44,9 @@ extern "C" Q_DECL_EXPORT ILoggerInterface* loggerInstance();
 extern "C" Q_DECL_EXPORT ILoggerInterface* loggerInstance()
 #endif
 {
-#if defined(FAKE_LOGGER_NULL)
+#if defined(FAKE_LOGGER_THROWS)
+    throw std::runtime_error("no logger");
+#elif defined(FAKE_LOGGER_NULL)
     return nullptr;
 #else
     static FakeLogger logger;

@@ -27,7 +27,7 @@ namespace TOLVAN_NAMESPACE
 ///        long as the process
 /// \param logName name of the log that the logger library opens
 /// \return the logger of the library; null if logging is switched off, and if the logger library or its
-///         export is missing or returns null, which is printed to standard error
+///         export is missing, returns null or throws, which is printed to standard error
 UTILSDLL_EXPORT ILoggerInterface* initLoggerForUtilsDll(ILoggerInterface* logger, const QString& logName);
 
 } // namespace TOLVAN_NAMESPACE

@@ -51,6 +51,21 @@ char levelLetter(const QString& level)
     return level.isEmpty() ? '\0' : level.at(0).toLatin1();
 }
 
+/// The logger of the logger library, initialised; null if there is none or it throws.
+ILoggerInterface* startedLogger(const QString& logName)
+try {
+    ILoggerInterface* const logger = loggerFrom(loggerLibraryPath());
+    if (logger) {
+        const std::string folder = CStorageLocation::loggerFilesPath().toStdString();
+        const std::string name = logName.toStdString();
+        std::cout << "Initializing logger in " << folder << " / " << name << std::endl;
+        logger->init(folder, name, levelLetter(getLogLevel()));
+    }
+    return logger;
+} catch (...) {
+    return nullptr;
+}
+
 void writeStartUpLines()
 {
     const char* const function = "TOLVAN_NAMESPACE::initLogger";
@@ -77,16 +92,12 @@ ILoggerInterface* initLogger(ILoggerInterface* logger, const QString& logName)
         Logging::setLogger(logger);
         return logger;
     }
-    Logging::setLogger(loggerFrom(loggerLibraryPath()));
+    Logging::setLogger(startedLogger(logName));
     if (!Logging::logger()) {
         std::cerr << "***ERROR*** logger dll could not be loaded from  " << loggerLibrary.toStdString()
                   << std::endl;
         return nullptr;
     }
-    const std::string folder = CStorageLocation::loggerFilesPath().toStdString();
-    const std::string name = logName.toStdString();
-    std::cout << "Initializing logger in " << folder << " / " << name << std::endl;
-    Logging::logger()->init(folder, name, levelLetter(getLogLevel()));
     writeStartUpLines();
     return Logging::logger();
 }
