@@ -1,3 +1,4 @@
+#include "Sandbox.h"
 #include "TestMain.h"
 #include "Texts.h"
 
@@ -9,9 +10,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QThread>
 
+#include <cstdio>
 #include <functional>
 #include <memory>
 
@@ -67,11 +70,9 @@ private Q_SLOTS:
             [] { setLastLaunchMode(text("M")); });
         row("loggerLevel", &getLogLevel, text("D"), "W", text("W"), [] { setLogLevel(text("W")); });
         row("loggerEnabled", &isLoggerEnabled, true, "0", false, [] { setLoggerEnabled(false); });
-        row("loggerEnabled", &isLoggerEnabled, true, "1", true, [] { setLoggerEnabled(true); });
         const char* const crashReport = "TolvanSentCrashReport";
         row(crashReport, &crashReportSendingAllowed, true, "0", false,
             [] { allowCrashReportSending(false); });
-        row(crashReport, &crashReportSendingAllowed, true, "1", true, [] { allowCrashReportSending(true); });
         const QString tolvan = text("Tolvan");
         row("resellerId", &getResellerID, tolvan, "Shop", tolvan, [] { setResellerID(text("Shop")); });
     }
@@ -88,27 +89,18 @@ private Q_SLOTS:
         QTEST(get(), "after");
     }
 
-    void switches_data()
-    {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<bool>("expected");
-        QTest::newRow("text 0") << QVariant(text("0")) << false;
-        QTest::newRow("number 0") << QVariant(0) << false;
-        QTest::newRow("empty text") << QVariant(text("")) << true;
-        QTest::newRow("text 00") << QVariant(text("00")) << true;
-        QTest::newRow("boolean false") << QVariant(false) << true;
-        QTest::newRow("word") << QVariant(text("no")) << true;
-    }
-
     void switches()
     {
-        QFETCH(QVariant, stored);
-        for (const char* const key : {"loggerEnabled", "TolvanSentCrashReport", "UseActionSave"}) {
-            CSettings().setValue(text(key), stored);
+        const QPair<QVariant, bool> values[] = {{text("0"), false}, {0, false},    {text(""), true},
+                                                {text("00"), true}, {false, true}, {text("no"), true}};
+        for (const auto& [stored, expected] : values) {
+            for (const char* const key : {"loggerEnabled", "TolvanSentCrashReport", "UseActionSave"}) {
+                CSettings().setValue(text(key), stored);
+            }
+            QCOMPARE(isLoggerEnabled(), expected);
+            QCOMPARE(crashReportSendingAllowed(), expected);
+            QCOMPARE(useActionSave(), expected);
         }
-        QTEST(isLoggerEnabled(), "expected");
-        QTEST(crashReportSendingAllowed(), "expected");
-        QTEST(useActionSave(), "expected");
     }
 
     void crashCounters()
@@ -144,11 +136,42 @@ private Q_SLOTS:
         QVERIFY(!m_temporary || !store()->contains(text("UserID")));
     }
 
+    void processesAgreeOnTheUserIdentifier()
+    {
+        QProcess processes[8];
+        for (QProcess& process : processes) {
+            process.start(QCoreApplication::applicationFilePath(), {text("--user-id")});
+        }
+        for (QProcess& process : processes) {
+            QVERIFY(process.waitForFinished());
+            QCOMPARE(process.readAll(), getUserID().toUtf8());
+        }
+    }
+
+    void userIdentifierOfAReadOnlyProfile()
+    {
+#ifndef Q_OS_WIN
+        const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+        const auto usual = QFile::permissions(folder);
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther |
+                                                  QFile::ExeOther));
+        QString id;
+        {
+            const OrdinaryUser user;
+            id = getUserID();
+            QCOMPARE(getUserID(), id);
+        }
+        QVERIFY(QFile::setPermissions(folder, usual));
+        QCOMPARE(getUserID(), id);
+        QCOMPARE(QSettings(text("Tolvan")).value(text("UserID")).toString(), id);
+#endif
+    }
+
     void deliberateAsymmetries()
     {
         QVERIFY(useActionSave()); // nothing stored
         const QString global = CStorageLocation::getOstraGlobalConfigFileLocation();
-        QVERIFY(QDir().mkpath(QFileInfo(global).path()));
+        QVERIFY(CStorageLocation::ensureOstraGlobalConfigFolder());
         setStatisticSent(false);
         QVERIFY(isStatisticSent());
         const auto stored = [] {
@@ -159,17 +182,6 @@ private Q_SLOTS:
         setStatisticSent(true);
         QCOMPARE(stored(), text("1"));
         QVERIFY(QFile::remove(global));
-    }
-
-    void pluginFolder()
-    {
-        QFETCH_GLOBAL(bool, temporary);
-        const QString program = QCoreApplication::applicationDirPath();
-        if (!temporary) { // the first answer is kept for the life of the process
-            QCOMPARE(getQtPluginsDir(true), QString());
-        }
-        QCOMPARE(getQtPluginsDir(false), program);
-        QCOMPARE(getQtPluginsDir(true), program);
     }
 
     void crashSenderIsWaitedFor()
@@ -205,6 +217,11 @@ int main(int argc, char* argv[])
         QThread::msleep(300);
         QFile file(QCoreApplication::applicationDirPath() + text("/ended"));
         return file.open(QIODevice::WriteOnly) && file.write(QByteArray::number(argc)) > 0 ? 0 : 1;
+    }
+    if (argc == 2 && qstrcmp(argv[1], "--user-id") == 0) {
+        const QCoreApplication application(argc, argv);
+        std::fputs(qPrintable(getUserID()), stdout);
+        return 0;
     }
     return TestMain::run<QCoreApplication, ApplicationStateTest>(argc, argv);
 }

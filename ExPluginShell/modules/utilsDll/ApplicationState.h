@@ -32,8 +32,10 @@ UTILSDLL_EXPORT int crashCounterForPlugin(const QString& mode);
 /// Sets the counter of \a mode to 0 and removes it.
 UTILSDLL_EXPORT void crashCounterReset(const QString& mode);
 
-/// Identifier of this user, a UUID without braces (36 characters), made on first use. Kept in the company's
-/// own store, never in temporary settings.
+/// Identifier of this user, a UUID without braces (36 characters), created by the first call and kept in the
+/// company's own store, never in temporary settings. Processes that call it at the same time get the same
+/// identifier; the first call waits at most five seconds for them. If the store can't be written, all calls
+/// of one process return the same identifier. May be called from any thread.
 UTILSDLL_EXPORT QString getUserID();
 
 /// Always "Tolvan"; the text stored by setResellerID() is not read.

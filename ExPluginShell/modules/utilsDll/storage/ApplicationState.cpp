@@ -3,11 +3,15 @@
 #include "platform/Modules.h"
 #include "platform/UserStore.h"
 #include "Settings.h"
+#include "StorageLocation.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QMutex>
 #include <QProcess>
+#include <QSettings>
 #include <QUuid>
 
 namespace TOLVAN_NAMESPACE
@@ -27,6 +31,8 @@ const QString actionSaveKey = QStringLiteral("UseActionSave");
 const QString crashReportKey = QStringLiteral("TolvanSentCrashReport");
 const QString connectorModule = QStringLiteral("PhotoshopPlugin-connectorTrelioFrame.dll");
 
+constexpr int lockTimeout = 5000; // milliseconds
+
 const QString yes = QStringLiteral("1");
 const QString no = QStringLiteral("0");
 
@@ -39,6 +45,28 @@ bool readSwitch(const QString& key, const QVariant& defaultValue)
 void setSwitch(const QString& key, bool on)
 {
     CSettings().setValue(key, on ? yes : no);
+}
+
+/// The identifier that another process has stored meanwhile, or else a new one, which is stored.
+QString newUserID(QSettings& store)
+{
+    static QMutex mutex;
+    static QString unsaved; // so that all calls agree if the store can't be written
+    const QMutexLocker locker(&mutex);
+    const QString folder = CStorageLocation::appDataLocation(QString());
+    QDir().mkpath(folder);
+    QLockFile lock(folder + QStringLiteral("UserID.lock"));
+    lock.tryLock(lockTimeout); // without it the identifier is stored, too
+    store.sync();
+    QString id = store.value(userIdKey).toString();
+    if (!id.isEmpty()) {
+        return id;
+    }
+    id = unsaved.isEmpty() ? QUuid::createUuid().toString(QUuid::WithoutBraces) : unsaved;
+    store.setValue(userIdKey, id);
+    store.sync();
+    unsaved = store.status() == QSettings::NoError ? QString() : id;
+    return id;
 }
 
 } // namespace
@@ -85,13 +113,8 @@ void crashCounterReset(const QString& mode)
 QString getUserID()
 {
     const auto store = Platform::companyStore();
-    QString id = store->value(userIdKey).toString();
-    if (id.isEmpty()) {
-        id = QUuid::createUuid().toString();
-        id.remove(QLatin1Char('{')).remove(QLatin1Char('}'));
-        store->setValue(userIdKey, id);
-    }
-    return id;
+    const QString id = store->value(userIdKey).toString();
+    return id.isEmpty() ? newUserID(*store) : id;
 }
 
 QString getResellerID()
