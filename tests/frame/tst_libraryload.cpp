@@ -55,15 +55,6 @@ private Q_SLOTS:
         QCOMPARE(getQtPluginsDir(false), found); // the first answer is kept
         QVERIFY(connector.unload() && library.unload());
     }
-
-    void hidesWhatIsNotExported()
-    {
-        QLibrary library(
-            QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(UTILSDLL_FILE_NAME)));
-        QVERIFY2(library.load(), qPrintable(library.errorString()));
-        QVERIFY(!library.resolve("_ZN16TOLVAN_NAMESPACE8Platform16loadedModulePathERK7QString"));
-        QVERIFY(library.unload());
-    }
 };
 
 TOLVAN_CORE_TEST_MAIN(TestLibraryLoad)

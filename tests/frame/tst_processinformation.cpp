@@ -54,13 +54,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("processName");
         QTest::addColumn<QString>("version");
         QTest::newRow("itself") << ownName() << ownVersion();
-        QTest::newRow("itself in capitals") << ownName().toUpper() << ownVersion();
         QTest::newRow("empty") << QString() << unknown;
         QTest::newRow("runs nowhere") << QStringLiteral("runs nowhere.exe") << unknown;
-        QTest::newRow("part of a name") << ownName().left(ownName().size() - 5) << unknown;
         QTest::newRow("full path") << QDir::toNativeSeparators(QCoreApplication::applicationFilePath())
                                    << unknown;
-        QTest::newRow("longer than any name") << QString(5000, QLatin1Char('n')) << unknown;
     }
     void versionByName()
     {
@@ -83,8 +80,12 @@ private Q_SLOTS:
         QCOMPARE(versionOf(name), ownVersion());
         QCOMPARE(versionOf(name.toUpper()), ownVersion());
 
+#ifndef Q_OS_WIN
+        QVERIFY(QFile::remove(copy)); // a running program may be deleted or replaced
+#endif
         other.closeWriteChannel();
         QVERIFY(other.waitForFinished());
+        QVERIFY(other.readAll().trimmed().endsWith(".exe"));
         QCOMPARE(other.exitCode(), 0);
         QTRY_COMPARE(versionOf(name), unknown);
     }
@@ -96,6 +97,7 @@ int main(int argc, char* argv[])
         std::puts("ready");
         std::fflush(stdout);
         std::getchar();
+        std::puts(UtilsDll::currentProcessName().toUtf8().constData());
         return 0;
     }
     return TestMain::run<QCoreApplication, TestProcessInformation>(argc, argv);

@@ -40,6 +40,7 @@ public:
 
 constexpr int small = 1000;
 constexpr int large = 600 * 1024;
+constexpr unsigned nobody = 65534;
 
 } // namespace
 
@@ -56,22 +57,21 @@ private Q_SLOTS:
     void noRoom_data()
     {
         QTest::addColumn<bool>("isDiskFull"); // or else the process's limit is reached
-        QTest::addColumn<bool>("isInPlace");
-        QTest::newRow("full disk") << true << false;
-        QTest::newRow("full disk, in place") << true << true;
-        QTest::newRow("size limit") << false << false;
-        QTest::newRow("size limit, in place") << false << true;
+        QTest::addColumn<unsigned>("folderMode");
+        QTest::newRow("full disk") << true << 0777U;
+        QTest::newRow("full disk, in place") << true << 0555U;
+        QTest::newRow("size limit") << false << 0777U;
+        QTest::newRow("size limit, in place") << false << 0555U;
     }
 
     void noRoom()
     {
         QFETCH(bool, isDiskFull);
-        QFETCH(bool, isInPlace);
+        QFETCH(unsigned, folderMode);
         const bool hasVolume = m_volume.problem().isEmpty();
         QVERIFY2(hasVolume || getuid() != 0, qPrintable(m_volume.problem()));
         makeFileIn(isDiskFull && hasVolume ? m_volume.path() : QDir::tempPath());
-        QCOMPARE(chmod(QFile::encodeName(m_file), 0666), 0);
-        QCOMPARE(chmod(QFile::encodeName(m_folder.path()), isInPlace ? 0555 : 0777), 0);
+        setModes(0666, folderMode);
         rlimit before = {};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
         const rlimit limit{isDiskFull && hasVolume ? before.rlim_cur : large / 2, before.rlim_max};
@@ -79,61 +79,68 @@ private Q_SLOTS:
         bool written = true;
         {
             const OrdinaryUser user;
-            written = AnyFile::write(m_file, isDiskFull ? 2 * large : large);
+            written = AnyFile::write(m_file, 2 * large);
         }
-        QCOMPARE(chmod(QFile::encodeName(m_folder.path()), 0777), 0);
+        setModes(0666, 0777);
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
         QVERIFY(!written);
         QCOMPARE(AnyFile::lengthIn(m_file), small);
         QCOMPARE(m_folder.entryList(QDir::Files), QStringList(text("suite.cfg")));
     }
 
-    /// Whoever may write the file does so, and everybody has the rights of before afterwards.
+    /// Every user who may write the file does so, and all have the rights of before afterwards.
     void rightsAreKept_data()
     {
-        QTest::addColumn<int>("owner");
-        QTest::addColumn<int>("fileMode");
-        QTest::addColumn<int>("folderMode");
-        QTest::addColumn<bool>("asRoot");
-        QTest::newRow("root replaces a user's file") << 65534 << 0640 << 0755 << true;
-        QTest::newRow("a member of the group") << 0 << 0664 << 0777 << false;
-        QTest::newRow("own file") << 65534 << 0604 << 0777 << false;
-        QTest::newRow("sticky folder") << 0 << 0666 << 01777 << false;
-        QTest::newRow("folder is read-only") << 65534 << 0600 << 0555 << false;
+        QTest::addColumn<unsigned>("owner");
+        QTest::addColumn<unsigned>("fileMode");
+        QTest::addColumn<unsigned>("folderMode");
+        QTest::addColumn<bool>("isAllowed");
+        QTest::newRow("a member of the group") << 0U << 0664U << 0777U << true;
+        QTest::newRow("own file") << nobody << 0604U << 0777U << true;
+        QTest::newRow("sticky folder") << 0U << 0666U << 01777U << true;
+        QTest::newRow("read-only folder") << nobody << 0600U << 0555U << true;
+        QTest::newRow("read-only file") << nobody << 0444U << 0777U << false;
     }
 
     void rightsAreKept()
     {
-        QFETCH(int, owner);
-        QFETCH(int, fileMode);
-        QFETCH(int, folderMode);
-        QFETCH(bool, asRoot);
+        QFETCH(unsigned, owner);
+        QFETCH(unsigned, fileMode);
+        QFETCH(unsigned, folderMode);
+        QFETCH(bool, isAllowed);
         if (getuid() != 0) {
-            QSKIP("files of two users can only be made by root");
+            QSKIP("only root can make the files of two users");
         }
         const QByteArray path = QFile::encodeName(m_file);
-        QCOMPARE(chown(path, static_cast<uid_t>(owner), 65534), 0);
-        QCOMPARE(chmod(path, static_cast<mode_t>(fileMode)), 0);
-        QCOMPARE(chmod(QFile::encodeName(m_folder.path()), static_cast<mode_t>(folderMode)), 0);
-        {
-            const std::unique_ptr<OrdinaryUser> user(asRoot ? nullptr : new OrdinaryUser);
-            QVERIFY(AnyFile::write(m_file, large));
-            QVERIFY(AnyFile::write(m_file, small)); // shorter: what was there is cut off
-        }
+        QCOMPARE(chown(path, owner, nobody), 0);
+        setModes(fileMode, folderMode);
+        std::unique_ptr<OrdinaryUser> user(new OrdinaryUser);
+        QCOMPARE(AnyFile::write(m_file, large), isAllowed);
+        QCOMPARE(AnyFile::write(m_file, small), isAllowed); // shorter: what was there is cut off
+        user.reset();
+        QVERIFY(!isAllowed || owner == 0 || AnyFile::write(m_file, small)); // root replaces a user's file
         QCOMPARE(AnyFile::lengthIn(m_file), small);
         struct stat now = {};
         QCOMPARE(stat(path, &now), 0);
-        QCOMPARE(int(now.st_uid), owner);
-        QCOMPARE(int(now.st_gid), 65534);
-        QCOMPARE(int(now.st_mode & 07777), fileMode);
+        QCOMPARE((QList<unsigned>{now.st_uid, now.st_gid, now.st_mode & 07777}),
+                 (QList<unsigned>{owner, nobody, fileMode}));
+    }
+
+    void linkIsFollowed()
+    {
+        const QString link = m_folder.filePath(text("link.cfg"));
+        QVERIFY(QFile::link(text("suite.cfg"), link));
+        QVERIFY(AnyFile::write(link, large));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(AnyFile::lengthIn(m_file), large);
     }
 #else
-    /// A program that forbids replacing, but not writing, and an access list of the file's own.
-    void lockedFileAndAccessList()
+    /// Another program forbids replacing, but not writing.
+    void lockedFile()
     {
-        const auto* const path = reinterpret_cast<const wchar_t*>(m_file.utf16());
-        const HANDLE lock = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                        OPEN_EXISTING, 0, nullptr);
+        const HANDLE lock =
+            CreateFileW(reinterpret_cast<const wchar_t*>(m_file.utf16()), GENERIC_READ,
+                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
         QVERIFY(lock != INVALID_HANDLE_VALUE);
         QVERIFY(AnyFile::write(m_file, large));
         CloseHandle(lock);
@@ -142,17 +149,11 @@ private Q_SLOTS:
     }
 #endif
 
-    void linkIsFollowed()
+    void longestName()
     {
-#ifndef Q_OS_WIN
-        const QString link = m_folder.filePath(text("link.cfg"));
-        QVERIFY(QFile::link(text("suite.cfg"), link));
-        QVERIFY(AnyFile::write(link, large));
-        QVERIFY(QFileInfo(link).isSymLink());
-        QCOMPARE(AnyFile::lengthIn(m_file), large);
-#endif
         const QString longest = m_folder.filePath(QString(200, QLatin1Char('n')));
         QVERIFY(AnyFile::write(longest, small) && AnyFile::write(longest, large));
+        QCOMPARE(AnyFile::lengthIn(longest), large);
     }
 
 private:
@@ -163,6 +164,13 @@ private:
         m_file = m_folder.filePath(text("suite.cfg"));
         QVERIFY(AnyFile::write(m_file, small));
     }
+#ifndef Q_OS_WIN
+    void setModes(unsigned file, unsigned folder) const
+    {
+        QCOMPARE(chmod(QFile::encodeName(m_file), file), 0);
+        QCOMPARE(chmod(QFile::encodeName(m_folder.path()), folder), 0);
+    }
+#endif
 
     const SecondVolume m_volume{"mode=777,size=1m"};
     QDir m_folder;

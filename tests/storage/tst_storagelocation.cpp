@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <stdexcept>
+#include <tuple>
 
 using Location = TOLVAN_NAMESPACE::CStorageLocation;
 using PathFunction = QString (*)();
@@ -38,6 +39,8 @@ class StorageLocationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_CONFIG_DIRS", "/desktop-session:" + qgetenv("XDG_CONFIG_DIRS")); }
+
     void createdFolders_data()
     {
         QTest::addColumn<PathFunction>("path");
@@ -76,7 +79,7 @@ private Q_SLOTS:
         const QString pictures = qEnvironmentVariable("PUBLIC");
         const QString userConfig = localData();
 #else
-        const QString programData = qEnvironmentVariable("XDG_CONFIG_DIRS");
+        const QString programData = qEnvironmentVariable("XDG_CONFIG_DIRS").section(QLatin1Char(':'), -1);
         const QString suiteBase = programData;
         const QString pictures =
             qEnvironmentVariable("XDG_DATA_DIRS").section(QLatin1Char(':'), 0, 0) + text("/pictures");
@@ -111,51 +114,37 @@ private Q_SLOTS:
     void scriptResourcesAreLoggedOnce()
     {
         installedLogger().take();
-        const QString folder = QCoreApplication::applicationDirPath() + text("/Resources/");
-        const QString expected[] = {
-            native(folder + text("BlurShapes.lua")), native(folder + text("Frames.lua")),
-            native(folder + text("Textures.lua")), native(folder + text("Defects.lua"))};
-        for (int round = 0; round < 2; ++round) {
-            QCOMPARE(Location::miniatureBlurShapesPath(), expected[0]);
-            QCOMPARE(Location::framePackPath(), expected[1]);
-            QCOMPARE(Location::texturesPackPath(), expected[2]);
-            QCOMPARE(Location::defectsPackPath(), expected[3]);
+        const std::tuple<PathFunction, const char*, const char*> resources[] = {
+            {&Location::miniatureBlurShapesPath, "BlurShapes", "Miniature blur shapes"},
+            {&Location::framePackPath, "Frames", "Frames"},
+            {&Location::texturesPackPath, "Textures", "Textures"},
+            {&Location::defectsPackPath, "Defects", "Defects"}};
+        for (const auto& [function, file, description] : resources) {
+            const QString path = native(QCoreApplication::applicationDirPath() + text("/Resources/") +
+                                        text(file) + text(".lua"));
+            QCOMPARE(function(), path);
+            QCOMPARE(function(), path);
+            QCOMPARE(installedLogger().take(),
+                     QStringList(text("D `anonymous-namespace'::luaResourcePath: ") + text(description) +
+                                 text(" data path : ") + path));
         }
-        const QString prefix = text("D `anonymous-namespace'::luaResourcePath: ");
-        QCOMPARE(installedLogger().take(),
-                 QStringList({prefix + text("Miniature blur shapes data path : ") + expected[0],
-                              prefix + text("Frames data path : ") + expected[1],
-                              prefix + text("Textures data path : ") + expected[2],
-                              prefix + text("Defects data path : ") + expected[3]}));
-    }
-
-    void newestSiblingProduct_data()
-    {
-        QTest::addColumn<QStringList>("installed");
-        QTest::addColumn<QString>("found");
-        const QString v8 = text("Tolvan Bright Lab 8"), v9 = text("Tolvan Bright Lab 9"),
-                      v10 = text("Tolvan BrightLab 10"), v11 = text("Tolvan BrightLab 11"),
-                      v12 = text("Tolvan BrightLab 12");
-        QTest::newRow("none") << QStringList() << QString();
-        QTest::newRow("oldest") << QStringList({v9}) << v9;
-        QTest::newRow("newest wins") << QStringList({v9, v10, v11}) << v11;
-        QTest::newRow("second newest") << QStringList({v9, v10}) << v10;
-        QTest::newRow("out of range") << QStringList({v8, v12, text("Tolvan BrightLab 9")}) << QString();
     }
 
     void newestSiblingProduct()
     {
-        QFETCH(QStringList, installed);
-        QFETCH(QString, found);
-        for (const QString& product : installed) {
-            QVERIFY(QDir().mkpath(Location::appDataLocation(product) + text("Modules")));
+        QCOMPARE(Location::cafDataPathOfBrightLabLatestVersion(), QString());
+        const auto install = [](const char* product) {
+            QVERIFY(QDir().mkpath(Location::appDataLocation(text(product)) + text("Modules")));
+        };
+        for (const char* foreign : {"Tolvan Bright Lab 8", "Tolvan BrightLab 9", "Tolvan BrightLab 12"}) {
+            install(foreign);
         }
-        const QString path = Location::cafDataPathOfBrightLabLatestVersion();
-        for (const QString& product : installed) {
-            QVERIFY(QDir(Location::appDataLocation(product)).removeRecursively());
+        QCOMPARE(Location::cafDataPathOfBrightLabLatestVersion(), QString());
+        for (const char* product : {"Tolvan Bright Lab 9", "Tolvan BrightLab 10", "Tolvan BrightLab 11"}) {
+            install(product);
+            QCOMPARE(Location::cafDataPathOfBrightLabLatestVersion(),
+                     native(localData() + text("/Tolvan/") + text(product) + text("/Modules/")));
         }
-        QCOMPARE(path, found.isEmpty() ? found
-                                       : native(localData() + text("/Tolvan/") + found + text("/Modules/")));
     }
 };
 

@@ -117,7 +117,7 @@ public:
     ///
     /// An existing key gets the new value and keeps its type. Otherwise a new group is appended, also if one
     /// of that name exists. A missing file is created, a missing folder is not (see
-    /// CStorageLocation::ensureOstraConfigFolders()). The file is replaced whole: a reader, a crash or a full
+    /// CStorageLocation::ensureOstraUserConfigFolder()). The file is replaced whole: a reader, a crash or a full
     /// disk leaves the old text or the new. The file keeps its owner, group, mode and access list; it is
     /// overwritten in place where the folder does not allow replacing it. Never throws; blocks until the disk
     /// has the text.

@@ -20,7 +20,7 @@ namespace TOLVAN_NAMESPACE
 /// They do not see a later change of the environment; a created folder is checked on every call.
 /// \par Systems
 /// "Local application data", "program data" and the common pictures are known folders on Windows. On Unix
-/// they are `XDG_DATA_HOME`, the first folder of `XDG_CONFIG_DIRS`, and `pictures` under the first folder of
+/// they are `XDG_DATA_HOME`, the last folder of `XDG_CONFIG_DIRS`, and `pictures` under the first folder of
 /// `XDG_DATA_DIRS`. An operation returns an empty path if the system reports no such folder.
 /// \par Threads
 /// Every operation may be called from any thread. The preferences file path is a text without a lock: set it
@@ -67,8 +67,14 @@ public:
     /// The user's suite configuration file, with forward slashes. Cached.
     static const QString& getOstraUserConfigFileLocation();
     /// The machine-wide suite configuration file, with forward slashes. It lies below the fixed folder
-    /// "C:/ProgramData" on Windows, and below the first folder of `XDG_CONFIG_DIRS` on Unix. Cached.
+    /// "C:/ProgramData" on Windows, and below the last folder of `XDG_CONFIG_DIRS` on Unix. Cached.
     static const QString& getOstraGlobalConfigFileLocation();
+    /// Creates the folder of the user's suite configuration file, with all missing parents. Call it before the
+    /// first write: CSettings does not create the folder.
+    /// \return whether the folder exists afterwards
+    static bool ensureOstraUserConfigFolder();
+    /// Like ensureOstraUserConfigFolder(), for the machine-wide file, whose folder most users can't create.
+    static bool ensureOstraGlobalConfigFolder();
 
     /// "Resources/BlurShapes.lua" beside the program. Cached. The file need not exist; the path is logged
     /// once.

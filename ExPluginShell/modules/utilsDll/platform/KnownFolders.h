@@ -17,7 +17,7 @@ enum class KnownFolder {
 QString knownFolder(KnownFolder folder);
 
 /// Base folder of the machine-wide suite configuration file, with forward slashes. On Windows it is a fixed
-/// text that does not ask the system; on Unix it is the first folder of XDG_CONFIG_DIRS.
+/// text that does not ask the system; on Unix it is the last folder of XDG_CONFIG_DIRS.
 QString machineWideConfigBase();
 
 } // namespace TOLVAN_NAMESPACE::Platform

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <QStringList>
 
 namespace TOLVAN_NAMESPACE::Platform
 {
@@ -9,16 +10,16 @@ namespace TOLVAN_NAMESPACE::Platform
 namespace
 {
 
-/// First absolute folder of a colon-separated search path; relative entries are invalid there and skipped.
-QString firstSearchFolder(const char* variable, const char* fallback)
+/// Absolute folders of a colon-separated search path; relative ones are invalid there. Never empty.
+QStringList searchFolders(const char* variable, const char* fallback)
 {
-    const auto folders = qEnvironmentVariable(variable).split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    for (const QString& folder : folders) {
+    QStringList folders;
+    for (const QString& folder : qEnvironmentVariable(variable).split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
         if (QDir::isAbsolutePath(folder)) {
-            return QDir::cleanPath(folder);
+            folders += QDir::cleanPath(folder);
         }
     }
-    return QString::fromLatin1(fallback);
+    return folders.isEmpty() ? QStringList(QString::fromLatin1(fallback)) : folders;
 }
 
 } // namespace
@@ -31,7 +32,7 @@ QString knownFolder(KnownFolder folder)
     case KnownFolder::ProgramData:
         return machineWideConfigBase();
     case KnownFolder::CommonPictures:
-        return QDir(firstSearchFolder("XDG_DATA_DIRS", "/usr/local/share"))
+        return QDir(searchFolders("XDG_DATA_DIRS", "/usr/local/share").first())
             .filePath(QStringLiteral("pictures"));
     }
     return {};
@@ -39,7 +40,8 @@ QString knownFolder(KnownFolder folder)
 
 QString machineWideConfigBase()
 {
-    return firstSearchFolder("XDG_CONFIG_DIRS", "/etc/xdg");
+    // Desktop sessions put folders of their own first; the last one is the machine's own.
+    return searchFolders("XDG_CONFIG_DIRS", "/etc/xdg").last();
 }
 
 } // namespace TOLVAN_NAMESPACE::Platform

@@ -19,11 +19,8 @@ const QString languageKey = QStringLiteral("currentLanguage");
 constexpr int familyEnglish = 2;
 
 /// Path of the temporary file set last. It is kept because the object can't be asked while it is destroyed.
-QString& temporaryPath()
-{
-    static QString path;
-    return path;
-}
+/// Constructed with the library: the host's static objects are destroyed before it.
+QString temporaryPath;
 
 } // namespace
 
@@ -165,11 +162,10 @@ void CSettings::resetTemporarySettings()
 void CSettings::switchTemporarySettings(CTemporarySettings* settings)
 {
     m_tempSettings = settings;
-    temporaryPath() = settings ? settings->tempSettingsPath() : QString();
+    temporaryPath = settings ? settings->tempSettingsPath() : QString();
     const char* const function = "TOLVAN_NAMESPACE::CSettings::setTemporarySettings";
     if (settings) {
-        UTILSDLL_LOG(LogLevel::Debug, function)
-            << "Info: settings are now stored in file: " << temporaryPath();
+        UTILSDLL_LOG(LogLevel::Debug, function) << "Info: settings are now stored in file: " << temporaryPath;
     } else {
         UTILSDLL_LOG(LogLevel::Debug, function) << "Info: settings are now stored in system";
     }
@@ -178,8 +174,7 @@ void CSettings::switchTemporarySettings(CTemporarySettings* settings)
 void CSettings::logWhenTempSettingsDeleted()
 {
     const char* const function = "TOLVAN_NAMESPACE::CSettings::logWhenTempSettingsDeleted";
-    UTILSDLL_LOG(LogLevel::Debug, function)
-        << "Temporary settings file is to be destoyed: " << temporaryPath();
+    UTILSDLL_LOG(LogLevel::Debug, function) << "Temporary settings file is to be destoyed: " << temporaryPath;
     UTILSDLL_LOG(LogLevel::Debug, function) << "Persistent settings will be used";
 }
 

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <stdexcept>
@@ -48,7 +49,7 @@ QString nativeAbsolute(const QString& path)
 }
 
 /// Creates the folder with all missing parents if it does not exist. \return \a folder
-const QString& ensureFolder(const QString& folder)
+QString ensureFolder(const QString& folder)
 {
     if (!folder.isEmpty() && !QDir(folder).exists()) {
         QDir().mkpath(folder);
@@ -194,6 +195,16 @@ const QString& CStorageLocation::getOstraGlobalConfigFileLocation()
 {
     static const QString path = Platform::machineWideConfigBase() + suiteConfigFile;
     return path;
+}
+
+bool CStorageLocation::ensureOstraUserConfigFolder()
+{
+    return QDir(ensureFolder(QFileInfo(getOstraUserConfigFileLocation()).path())).exists();
+}
+
+bool CStorageLocation::ensureOstraGlobalConfigFolder()
+{
+    return QDir(ensureFolder(QFileInfo(getOstraGlobalConfigFileLocation()).path())).exists();
 }
 
 QString CStorageLocation::miniatureBlurShapesPath()

@@ -189,7 +189,8 @@ QString CSettings::createOstraCollectionXMLWithGivenSetting(const QString& group
 QDomElement CSettings::createOstraCollectionGroup(const QString& group, const QString& key,
                                                   const QString& value, const QString& type)
 {
-    QDomDocument factory;
+    // Lives as long as the elements may: an element refers to the document that created it.
+    static QDomDocument factory = QDomDocument(QString());
     QDomElement entry = factory.createElement(keyTag);
     entry.setAttribute(valueAttribute, value);
     entry.setAttribute(typeAttribute, type);

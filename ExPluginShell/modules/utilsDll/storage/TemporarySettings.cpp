@@ -15,11 +15,8 @@ const QString productName = QStringLiteral("TrelioFrame");
 const QString unwritablePath = QStringLiteral(":/TrelioFrame.ini"); // no system writes to its resources
 
 /// File of the object constructed last; stays after that object is gone.
-QString& lastSettingsPath()
-{
-    static QString path;
-    return path;
-}
+/// Constructed with the library: the host's static objects are destroyed before it.
+QString lastSettingsPath;
 
 } // namespace
 
@@ -35,13 +32,13 @@ CTemporarySettings::CTemporarySettings(const char* programPath)
                                                     "Temporary folder is not valid!");
     }
     const QString fileName = QStringLiteral("%1.ini").arg(productName);
-    lastSettingsPath() = QDir::toNativeSeparators(m_tempDir->path() + QDir::separator() + fileName);
+    lastSettingsPath = QDir::toNativeSeparators(m_tempDir->path() + QDir::separator() + fileName);
     if (!m_tempDir->isValid()) {
         // The path reported above leads to the top of the file system, where a privileged program may write.
         m_settings = std::make_unique<QSettings>(unwritablePath, QSettings::IniFormat);
         return;
     }
-    const QString path = lastSettingsPath();
+    const QString path = lastSettingsPath;
     if (programPath) {
         const QDir programFolder = QFileInfo(QFile::decodeName(programPath)).absoluteDir();
         QFile::copy(programFolder.absoluteFilePath(seedFileName), path);
@@ -67,7 +64,7 @@ CTemporarySettings::~CTemporarySettings()
 
 const QString& CTemporarySettings::tempSettingsPath() const
 {
-    return m_sharedSettingsPath.isEmpty() ? lastSettingsPath() : m_sharedSettingsPath;
+    return m_sharedSettingsPath.isEmpty() ? lastSettingsPath : m_sharedSettingsPath;
 }
 
 void CTemporarySettings::setSharedSettingsPath(const QString& path)
