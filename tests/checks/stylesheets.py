@@ -9,11 +9,12 @@ import re
 import sys
 from pathlib import Path
 
-TEXT, DISABLED_TEXT = 4.5, 3.0
+# The least contrast of text and of disabled text with each palette.
+LEAST = {"palette.json": (4.5, 3.0), "palette_high_contrast.json": (7.0, 4.5)}
 COLOUR = re.compile(r"#[0-9A-Fa-f]{6}\b")
 # The grounds of a widget that has no background of its own.
 SURFACES = ("well", "ground", "panel", "field")
-WITHOUT_TEXT = {"QDial", "QSlider", "indicator", "tearoff", "handle", "scroller"}
+WITHOUT_TEXT = {"QDial", "separator", "QSlider", "indicator", "tearoff", "handle", "scroller"}
 
 
 def luminance(colour):
@@ -66,36 +67,67 @@ def backgrounds(all_rules, selector, palette):
     return [palette[name] for name in SURFACES]
 
 
-def problems(folder):
-    palette = json.loads((folder / "palette.json").read_text(encoding="utf-8"))
-    sheets = {path.name: path.read_text(encoding="utf-8") for path in sorted((folder / "qss").glob("*.qss"))}
-    if len(sheets) != 7:
-        yield f"{len(sheets)} sheets instead of seven"
+def read_palette(folder, name):
+    return json.loads((folder / name).read_text(encoding="utf-8"))
+
+
+def read_sheets(folder):
+    return {path.name: path.read_text(encoding="utf-8") for path in sorted((folder / "qss").glob("*.qss"))}
+
+
+def colour_problems(sheets, palette):
+    """Colours that aren't in the palette, or not in the one notation that is recoloured for high contrast."""
     head = sheets["custom.qss"].split("*/")[0]
     named = dict(re.findall(r"^ \*   (\w+) +(#\w{6})", head, flags=re.M))
     if named != palette:
         yield f"the palette at the top of custom.qss is not palette.json: {sorted(set(named.items()) ^ set(palette.items()))}"
+    for name, sheet in sheets.items():
+        rules_only = re.sub(r"/\*.*?\*/", "", sheet, flags=re.S)
+        unknown = set(re.findall(r"#(?:[0-9A-F]{2})?([0-9A-F]{6})\b", rules_only)) - {c[1:] for c in palette.values()}
+        other = set(re.findall(r"rgba?\(|hsv|hsl|palette\(|: *(?:white|black|gray|red)\b|#\w*[a-f]\w*\b(?=[^{}]*\})", rules_only))
+        if unknown | other:
+            yield f"{name}: not in the palette: {', '.join(sorted(unknown | other))}"
+
+
+def contrast_problems(sheets, palette, least):
     checked = 0
     for name, sheet in sheets.items():
-        unknown = {colour for colour in COLOUR.findall(re.sub(r"/\*.*?\*/", "", sheet, flags=re.S))} - set(palette.values())
-        if unknown:
-            yield f"{name}: not in the palette: {', '.join(sorted(unknown))}"
         all_rules = list(rules(sheet))
         for selector, declarations in all_rules:
-            if selector.states and any(property.startswith("qproperty-") for property in declarations):
-                yield f"{name}: {selector.text}: Qt sets no property from a rule with a state"
             colour = effective(all_rules, selector, "color") or effective(all_rules, Selector(selector.widget), "color")
             if not colour or not {"color", "background-color"} & declarations.keys():
                 continue
             if {selector.widget.split("#")[0], selector.part} & WITHOUT_TEXT:
                 continue
-            least = DISABLED_TEXT if "disabled" in selector.states else TEXT
+            wanted = least["disabled" in selector.states]
             for ground in backgrounds(all_rules, selector, palette):
                 checked += 1
-                if contrast(colour, ground) < least:
+                if contrast(colour, ground) < wanted:
                     yield f"{name}: {selector.text}: {colour} on {ground} is {contrast(colour, ground):.2f} to 1"
     if checked < 100:
         yield f"only {checked} pairs of colours were found"
+
+
+def problems(folder):
+    palette, sheets = read_palette(folder, "palette.json"), read_sheets(folder)
+    if len(sheets) != 7:
+        yield f"{len(sheets)} sheets instead of seven"
+    wrong_colours = list(colour_problems(sheets, palette))
+    yield from wrong_colours
+    for name, sheet in sheets.items():
+        for selector, declarations in rules(sheet):
+            if selector.states and any(property.startswith("qproperty-") for property in declarations):
+                yield f"{name}: {selector.text}: Qt sets no property from a rule with a state"
+            if "px" in declarations.get("font-size", ""):
+                yield f"{name}: {selector.text}: a font size in pixels doesn't follow the system's text size"
+    for name, least in () if wrong_colours else LEAST.items():
+        other = read_palette(folder, name)
+        if other.keys() != palette.keys():
+            yield f"{name} doesn't have the names of palette.json"
+        recoloured = {colour[1:]: other[key][1:] for key, colour in palette.items()}
+        texts = {sheet: re.sub(r"(?<=[#0-9A-F])[0-9A-F]{6}\b", lambda found: recoloured[found[0]], text)
+                 for sheet, text in sheets.items()}
+        yield from contrast_problems(texts, other, least)
 
 
 def main():
