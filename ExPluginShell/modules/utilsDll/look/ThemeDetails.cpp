@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QStyledItemDelegate>
 #include <QTextEdit>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
