@@ -47,24 +47,13 @@ void GeometryTest::lineMeetsCircle_data()
         QTest::newRow(name) << line << circle << points;
     };
     const QList<double> axis{0, 0, 2, 0};
-    row("through the centre", axis, {1, 0, 1}, {{0, 0}, {2, 0}});
     row("other direction, other order", {2, 0, 0, 0}, {1, 0, 1}, {{2, 0}, {0, 0}});
-    row("beyond the two points", axis, {101, 0, 1}, {{100, 0}, {102, 0}});
     row("upright", {3, 0, 3, -1}, {3, 4, 2}, {{3, 6}, {3, 2}});
-    row("touching", axis, {1, 1, 1}, {{1, 0}});
     row("radius a last place short", axis, {1, 1, below(1)}, {{1, 0}});
     row("radius short by 12 digits", axis, {1, 1, 1 - 2e-12}, {});
-    row("passing by", axis, {1, 1, 0.5}, {});
-    row("a point as circle, on the line", axis, {1, 0, 0}, {{1, 0}});
-    row("a point as circle, off the line", axis, {1, 1e-9, 0}, {});
-    row("negative radius", axis, {1, 1, -1}, {});
-    row("no line", {3, 3, 3, 3}, {3, 3, 5}, {});
     row("points at 1e-12", {0, 0, 1e-12, 0}, {0, 0, 5}, {});
     row("points just further apart", {0, 0, above(1e-12), 0}, {0, 0, 5}, {{-5, 0}, {5, 0}});
-    row("beyond what a square can hold", {0, 0, 1e200, 1e200}, {1, 1, 1}, {});
     row("not a number", {0, 0, notANumber, 1}, {0, 0, 1}, {});
-    row("radius not a number", axis, {1, 0, notANumber}, {});
-    row("infinite line", {0, 0, infinity, 0}, {0, 0, 1}, {});
 }
 
 void GeometryTest::lineMeetsCircle()
@@ -106,30 +95,13 @@ void GeometryTest::rounding_data()
         QTest::newRow(name) << value << precision << rounded;
     };
     row("half up", 2.345, 2, 2.35);
-    row("whole, half up", 1.5, 0, 2);
     row("whole, negative half up", -2.5, 0, -2);
     row("whole, beyond the negative half", below(-2.5), 0, -3);
-    row("whole, below the half", below(2.5), 0, 2);
-    row("whole, a last place below the half", below(0.5), 0, 1); // 0.5 more is 1 in a double
-    row("whole, negative, nearly the half", above(-0.5), 0, 0);
     row("negative precision rounds whole", 123.6, -3, 124);
-    row("zero", 0, 3, 0);
-    row("negative zero", -0.0, 3, 0);
-    row("one decimal", 0.25, 1, 0.3);
-    row("one decimal, negative half", -0.25, 1, -0.2);
-    row("three decimals", 1.23456, 3, 1.235);
     row("differs beyond 12 digits only", 0.1234567890123456, 15, 0.1234567890123456);
-    row("already rounded", 2.35, 2, 2.35);
     row("last place above stays", above(2.35), 2, above(2.35));
-    row("last place below stays", below(1.1), 1, below(1.1));
     row("factor beyond a double", 1.5, 400, 1.5);
-    row("300 decimals", 1.2345678901234567, 300, 1.2345678901234567);
-    row("too small to have decimals", 5e-324, 2, 5e-324);
-    row("infinity with decimals", infinity, 2, infinity);
     row("beyond the integers", 1e10, 0, 2147483647);
-    row("the last integer", 2147483647.4, 0, 2147483647);
-    row("the first integer", -2147483648.4, 0, -2147483648.0);
-    row("infinity", infinity, 0, 2147483647);
     row("not a number", notANumber, 0, 0);
 }
 

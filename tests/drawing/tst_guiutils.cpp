@@ -22,12 +22,9 @@ using namespace TOLVAN_NAMESPACE;
 namespace
 {
 
-template <class... Values>
-QString describe(Values... values)
+QString at(const char* event, const QPoint& pos)
 {
-    QString text;
-    (QDebug(&text) << ... << values);
-    return text;
+    return QStringLiteral("%1 %2,%3").arg(QLatin1String(event)).arg(pos.x()).arg(pos.y());
 }
 
 /// Keeps the mouse and hover events of a widget in their order.
@@ -44,33 +41,25 @@ public:
     QStringList take() { return std::exchange(m_events, {}); }
 
 protected:
-    bool eventFilter(QObject*, QEvent* event) override
+    bool eventFilter(QObject* widget, QEvent* event) override
     {
-        if (event->type() == QEvent::MouseMove) {
-            const auto& move = *static_cast<QMouseEvent*>(event);
-            m_events += describe("move", move.globalPos(), move.pos(), move.button(), move.buttons(),
-                                 move.modifiers());
+        const auto* const move = static_cast<QMouseEvent*>(event);
+        if (event->type() == QEvent::Enter) {
+            m_events += at("enter", static_cast<QEnterEvent*>(event)->globalPos());
         } else if (event->type() == QEvent::Leave) {
-            m_events += describe("leave");
-        } else if (event->type() == QEvent::Enter) {
-            m_events += describe("enter", static_cast<QEnterEvent*>(event)->globalPos());
-            return false;
-        } else {
-            return false;
+            m_events += QStringLiteral("leave");
+        } else if (event->type() == QEvent::MouseMove) {
+            const bool plain = move->button() == Qt::NoButton && !move->buttons() && !move->modifiers() &&
+                               move->pos() == static_cast<QWidget*>(widget)->mapFromGlobal(move->globalPos());
+            m_events += at(plain ? "move" : "wrong move", move->globalPos());
         }
-        return m_holdBack;
+        return m_holdBack && (event->type() == QEvent::Leave || event->type() == QEvent::MouseMove);
     }
 
 private:
     QStringList m_events;
     bool m_holdBack;
 };
-
-QString moveTo(const QPoint& pos, const QWidget& widget)
-{
-    return describe("move", pos, widget.mapFromGlobal(pos), Qt::NoButton, Qt::MouseButtons(),
-                    Qt::KeyboardModifiers());
-}
 
 /// An active window at a place of its own.
 class Window : public QWidget
@@ -105,12 +94,10 @@ class GuiUtilsTest : public QObject
 private Q_SLOTS:
     void init() { installedLogger().take(); }
     void scalingFactor();
-    void centred_data();
     void centred();
     void notCentred();
     void mouseMoveIsSent();
     void hover();
-    void hoverOverMenu_data();
     void hoverOverMenu();
     void closeButton();
 };
@@ -122,49 +109,35 @@ void GuiUtilsTest::scalingFactor()
     QCOMPARE(systemScalingFactor(), windows ? 1.0 : 1.25);
 }
 
-void GuiUtilsTest::centred_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("framed");
-    QTest::addColumn<int>("parentScreen"); // -1: no parent
-    QTest::newRow("framed") << QSize(400, 300) << true << -1;
-    QTest::newRow("framed, with parent, odd size") << QSize(333, 211) << true << 0;
-    QTest::newRow("frameless, odd size") << QSize(333, 211) << false << -1;
-    // Window managers keep framed windows on the screen.
-    QTest::newRow("larger than the screen") << QSize(3001, 2501) << false << 0;
-    QTest::newRow("parent on the second screen") << QSize(301, 203) << true << 1;
-}
-
 void GuiUtilsTest::centred()
 {
-    QFETCH(QSize, size);
-    QFETCH(bool, framed);
-    QFETCH(int, parentScreen);
+    const auto check = [](QSize size, Qt::WindowFlags flags, QScreen* screen, bool withParent) {
+        QWidget parent;
+        QWidget window(nullptr, Qt::Window | flags);
+        for (QWidget* const widget : {&parent, &window}) {
+            widget->winId();
+            widget->windowHandle()->setScreen(screen);
+        }
+        window.resize(size);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        moveWindowToScreenCenter(&window, withParent ? &parent : nullptr);
+        const QRect area = screen->geometry();
+        const QSize frame = window.frameGeometry().size();
+        const QPoint expected(area.x() + (area.width() - frame.width()) / 2,
+                              area.y() + (area.height() - frame.height()) / 2);
+        QTRY_COMPARE(window.pos(), expected);
+        QTRY_COMPARE(window.frameGeometry().topLeft(), expected);
+        QCOMPARE(window.windowHandle()->screen(), screen);
+        QCOMPARE(installedLogger().take(), QStringList());
+    };
     const QList<QScreen*> screens = QGuiApplication::screens();
-    if (parentScreen >= screens.size()) {
-        QVERIFY(QGuiApplication::platformName() != QLatin1String("xcb")); // it is run with two
-        QSKIP("there is no second screen");
+    check({333, 211}, {}, screens.first(), false);
+    // Larger than the screen: window managers keep framed windows on it.
+    check({3001, 2501}, Qt::FramelessWindowHint | Qt::BypassWindowManagerHint, screens.first(), true);
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) { // it is run with two screens
+        check({301, 203}, {}, screens.value(1), true);
     }
-    QScreen* const screen = screens.at(qMax(0, parentScreen));
-    QWidget parent;
-    const auto frameless = Qt::FramelessWindowHint | Qt::BypassWindowManagerHint;
-    QWidget window(nullptr, framed ? Qt::Window : Qt::Window | frameless);
-    for (QWidget* const widget : {&parent, &window}) {
-        widget->winId();
-        widget->windowHandle()->setScreen(screen);
-    }
-    window.resize(size);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    moveWindowToScreenCenter(&window, parentScreen >= 0 ? &parent : nullptr);
-    const QRect area = screen->geometry();
-    const QSize frame = window.frameGeometry().size();
-    const QPoint expected(area.x() + (area.width() - frame.width()) / 2,
-                          area.y() + (area.height() - frame.height()) / 2);
-    QTRY_COMPARE(window.pos(), expected);
-    QTRY_COMPARE(window.frameGeometry().topLeft(), expected);
-    QCOMPARE(window.windowHandle()->screen(), screen);
-    QCOMPARE(installedLogger().take(), QStringList());
 }
 
 void GuiUtilsTest::notCentred()
@@ -192,7 +165,7 @@ void GuiUtilsTest::mouseMoveIsSent()
     EventLog log(widget);
     widget.move(100, 80);
     synthesizeMouseEvent(&widget, {123, 97});
-    QCOMPARE(log.take(), QStringList(moveTo({123, 97}, widget)));
+    QCOMPARE(log.take(), QStringList(at("move", {123, 97})));
     synthesizeMouseEvent(nullptr, {1, 2});
 }
 
@@ -208,13 +181,13 @@ void GuiUtilsTest::hover()
     moveCursor(over);
     log.take();
     flickHoverEvent(&child);
-    QCOMPARE(log.take(), QStringList({describe("leave"), describe("enter", over)}));
+    QCOMPARE(log.take(), QStringList({QStringLiteral("leave"), at("enter", over)}));
     QCOMPARE(QCursor::pos(), over);
 
     moveCursor(child.mapToGlobal({50, 20})); // the first pixel beside it
     log.take();
     flickHoverEvent(&child);
-    QCOMPARE(log.take(), QStringList(describe("leave")));
+    QCOMPARE(log.take(), QStringList(QStringLiteral("leave")));
     flickHoverEvent(nullptr);
 
     QApplication::setActiveWindow(nullptr);
@@ -222,39 +195,31 @@ void GuiUtilsTest::hover()
     QCOMPARE(log.take(), QStringList());
 }
 
-void GuiUtilsTest::hoverOverMenu_data()
-{
-    QTest::addColumn<bool>("steady");    // the menu takes no notice of the mouse
-    QTest::addColumn<bool>("separator"); // it turns into a separator while it is active
-    QTest::addColumn<int>("expected");   // -1: none
-    QTest::newRow("chooses the entry under the cursor") << false << false << 0;
-    QTest::newRow("an active entry stays") << true << false << 1;
-    QTest::newRow("an active separator is let go") << true << true << -1;
-}
-
 void GuiUtilsTest::hoverOverMenu()
 {
-    QFETCH(const bool, steady);
-    QFETCH(const bool, separator);
-    QFETCH(const int, expected);
     Window window;
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    QMenu menu(&window);
-    QAction* const first = menu.addAction(QStringLiteral("First entry"));
-    QAction* const active = menu.addAction(QStringLiteral("Last entry"));
-    menu.popup(window.mapToGlobal({20, 20}));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
-    const QPoint pos = menu.mapToGlobal(menu.actionGeometry(first).center());
-    moveCursor(pos);
-    menu.setActiveAction(active); // the other one
-    active->setSeparator(separator);
-    QCOMPARE(menu.activeAction(), active);
-    EventLog log(menu, steady);
-    flickHoverEvent(&menu);
-    QCOMPARE(log.take(),
-             QStringList({describe("leave"), describe("enter", pos), moveTo(pos, menu), moveTo(pos, menu)}));
-    QCOMPARE(menu.actions().indexOf(menu.activeAction()), expected);
-    menu.close();
+    // Returns which entry is active afterwards; a steady menu ignores the mouse itself.
+    const auto activeAfterwards = [&window](bool steady, bool separator) {
+        QMenu menu(&window);
+        QAction* const first = menu.addAction(QStringLiteral("First entry"));
+        QAction* const active = menu.addAction(QStringLiteral("Last entry"));
+        menu.popup(window.mapToGlobal({20, 20}));
+        [&] { QVERIFY(QTest::qWaitForWindowExposed(&menu)); }();
+        const QPoint pos = menu.mapToGlobal(menu.actionGeometry(first).center());
+        moveCursor(pos);
+        menu.setActiveAction(active); // the other one
+        active->setSeparator(separator);
+        EventLog log(menu, steady);
+        flickHoverEvent(&menu);
+        const QStringList expected{QStringLiteral("leave"), at("enter", pos), at("move", pos),
+                                   at("move", pos)};
+        [&] { QCOMPARE(log.take(), expected); }();
+        return menu.actions().indexOf(menu.activeAction());
+    };
+    QCOMPARE(activeAfterwards(false, false), 0);
+    QCOMPARE(activeAfterwards(true, false), 1);
+    QCOMPARE(activeAfterwards(true, true), -1); // an active separator is let go
 }
 
 void GuiUtilsTest::closeButton()

@@ -65,9 +65,7 @@ class ImageComparisonTest : public QObject
 
 private Q_SLOTS:
     void refusals();
-    void plainMeasureIsTheMeasure_data();
     void plainMeasureIsTheMeasure();
-    void threshold_data();
     void threshold();
     void otherMemory();
 };
@@ -78,57 +76,35 @@ void ImageComparisonTest::refusals()
     double difference = 42.0;
     QCOMPARE(compareImages(QImage(), image, difference, 1), imgCmpInvalid);
     QCOMPARE(compareImages(image, QImage(), difference, 1), imgCmpInvalid);
-    QCOMPARE(compareImages(QImage(), QImage(), difference, 1), imgCmpInvalid);
-    QCOMPARE(compareImages(image, filled({4, 5}, 0), difference, 1), imgCmpSizeDiffers);
     QCOMPARE(compareImages(image, filled({2, 8}, 0), difference, 1), imgCmpSizeDiffers);
     QCOMPARE(difference, 42.0);
 }
 
-void ImageComparisonTest::plainMeasureIsTheMeasure_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(7, 5), QSize(17, 1), QSize(1, 33),
-                             QSize(1023, 3), QSize(1025, 2), QSize(4099, 2)}) {
-        QTest::addRow("%dx%d", size.width(), size.height()) << size;
-    }
-}
-
 void ImageComparisonTest::plainMeasureIsTheMeasure()
 {
-    QFETCH(QSize, size);
-    const QImage black = filled(size, 0);
-    const QImage white = filled(size, 0xffffffff);
-    for (const double incoming : {0.0, 0.5, -3.25, 1e9}) {
-        verifyMeasure(noise(size, 1), noise(size, 2), incoming);
-        verifyMeasure(noise(size, 3), black, incoming);
-        verifyMeasure(white, black, incoming);
-        verifyMeasure(black, white, incoming);
+    for (const QSize size : {QSize(1, 1), QSize(7, 5), QSize(1, 33), QSize(1025, 2)}) {
+        const QImage black = filled(size, 0);
+        const QImage white = filled(size, 0xffffffff);
+        for (const double incoming : {0.0, -3.25, 1e9}) {
+            verifyMeasure(noise(size, 1), noise(size, 2), incoming);
+            verifyMeasure(white, black, incoming);
+            verifyMeasure(black, white, incoming);
+        }
     }
-}
-
-void ImageComparisonTest::threshold_data()
-{
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    const double carried = 4.8 * 100.0 / 3.0 * 100.0 / 3.0; // one pixel: scaled after its row and at the end
-    QTest::addColumn<double>("incoming");
-    QTest::addColumn<double>("limit");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("same, smallest threshold") << 0.0 << 5e-324 << int(imgCmpSimilar);
-    QTest::newRow("same, threshold 0") << 0.0 << 0.0 << int(imgCmpDifferent);
-    QTest::newRow("carried over, just below")
-        << 4.8 << std::nextafter(carried, infinity) << int(imgCmpSimilar);
-    QTest::newRow("carried over, reached") << 4.8 << carried << int(imgCmpDifferent);
-    QTest::newRow("not a number") << 0.0 << std::numeric_limits<double>::quiet_NaN() << int(imgCmpDifferent);
 }
 
 void ImageComparisonTest::threshold()
 {
-    QFETCH(double, incoming);
-    QFETCH(double, limit);
-    QFETCH(int, answer);
     const QImage image = noise({1, 1}, 7);
-    double difference = incoming;
-    QCOMPARE(int(compareImages(image, image, difference, limit)), answer);
+    const double carried = 4.8 * 100.0 / 3.0 * 100.0 / 3.0; // one pixel: scaled after its row and at the end
+    const auto answer = [&image](double incoming, double limit) {
+        return compareImages(image, image, incoming, limit);
+    };
+    QCOMPARE(answer(0.0, 5e-324), imgCmpSimilar);
+    QCOMPARE(answer(0.0, 0.0), imgCmpDifferent);
+    QCOMPARE(answer(4.8, std::nextafter(carried, 1e9)), imgCmpSimilar);
+    QCOMPARE(answer(4.8, carried), imgCmpDifferent);
+    QCOMPARE(answer(0.0, std::numeric_limits<double>::quiet_NaN()), imgCmpDifferent);
 }
 
 void ImageComparisonTest::otherMemory()

@@ -82,7 +82,6 @@ private Q_SLOTS:
     void nothingToDraw();
     void cursors();
     void iconSizes();
-    void iconsInRectangles_data();
     void iconsInRectangles();
 };
 
@@ -97,30 +96,17 @@ void ToolDrawingTest::lines_data()
     const QRectF clip(10, 10, 30, 20);
     const auto row = [](const char* name, QPointF from, QPointF to, bool stretch, QRectF area,
                         Painted painted) { QTest::newRow(name) << from << to << stretch << area << painted; };
-    row("horizontal", {5, 9}, {25, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
     row("a copy at the very end", {5, 9}, {21, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
-    row("a point", {5, 9}, {5, 9}, false, none, {{5, 9}, 0, {0}, {}});
-    row("rounded ends", {4.6, 9.4}, {24.9, 9.4}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
-    row("length rounded up", {5, 9}, {20.5, 9}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
-    row("length rounded down", {5, 9}, {20.4, 9}, false, none, {{5, 9}, 0, {0, 8}, {}});
+    row("rounded ends and length", {4.6, 9.4}, {20.1, 9.4}, false, none, {{5, 9}, 0, {0, 8, 16}, {}});
     row("upright, from below", {9, 40}, {9, 20}, false, none, {{9, 40}, -90, {0, 8, 16}, {}});
-    row("oblique is lifted by half the height", {10, 30}, {30, 10}, false, none,
-        {{10, 28}, -45, {0, 8, 16, 24}, {}});
-    row("falling", {10, 10}, {30, 30}, false, none, {{10, 8}, 45, {0, 8, 16, 24}, {}});
     row("up left is not swapped at 135 degrees", {30, 30}, {10, 10}, false, none,
         {{30, 28}, -135, {0, 8, 16, 24}, {}});
-    row("stretched", {5, 9}, {25, 9}, true, none, {{5, 9}, 0, {}, {0, 0, 20, 4}});
-    row("stretched, length rounded", {5, 9}, {25.6, 9}, true, none, {{5, 9}, 0, {}, {0, 0, 21, 4}});
-    row("clip without height", {5, 9}, {25, 9}, false, {10, 10, 30, 0}, {{5, 9}, 0, {0, 8, 16}, {}});
-    row("clip without width", {5, 9}, {25, 9}, false, {10, 10, 0, 20}, {{5, 9}, 0, {0, 8, 16}, {}});
-    row("both ends inside", {12, 15}, {36, 15}, true, clip, {{12, 15}, 0, {}, {0, 0, 24, 4}});
+    row("stretched, clip without height", {5, 9}, {25.6, 9}, true, {10, 10, 30, 0},
+        {{5, 9}, 0, {}, {0, 0, 21, 4}});
     row("ends on the edge are inside", {10, 15}, {40, 15}, true, clip, {{10, 15}, 0, {}, {0, 0, 30, 4}});
     row("both ends outside, crossing", {0, 15}, {60, 15}, true, clip, {});
     row("cut at the left", {0, 15}, {20, 15}, true, clip, {{10, 15}, 0, {}, {0, 0, 10, 4}});
-    row("cut at the right", {20, 15}, {60, 15}, true, clip, {{20, 15}, 0, {}, {0, 0, 20, 4}});
-    row("cut at the top", {20, 20}, {20, 0}, true, clip, {{20, 20}, -90, {}, {0, 0, 10, 4}});
     row("cut at the bottom", {20, 20}, {20, 45}, true, clip, {{20, 30}, -90, {}, {0, 0, 10, 4}});
-    row("through a corner", {20, 20}, {0, 0}, true, clip, {{20, 18}, -135, {}, {0, 0, 14, 4}});
 }
 
 void ToolDrawingTest::lines()
@@ -208,32 +194,23 @@ void ToolDrawingTest::iconSizes()
     QCOMPARE(sizeOfIcon(icon, QIcon::Disabled, QIcon::On), QSize(99, 99));
 }
 
-void ToolDrawingTest::iconsInRectangles_data()
-{
-    QTest::addColumn<int>("aspect");
-    QTest::addColumn<QRect>("painted");
-    QTest::newRow("in proportion") << int(Qt::KeepAspectRatio) << QRect(10, 15, 20, 10);
-    QTest::newRow("any proportion: the icon's own business")
-        << int(Qt::IgnoreAspectRatio) << QRect(10, 15, 20, 10);
-    QTest::newRow("reaching beyond") << int(Qt::KeepAspectRatioByExpanding) << QRect(0, 10, 40, 20);
-}
-
 void ToolDrawingTest::iconsInRectangles()
 {
-    QFETCH(int, aspect);
-    QFETCH(QRect, painted);
     QPixmap source(80, 40);
     source.fill(Qt::red);
-    QImage image = blank();
-    QPainter painter(&image);
-    paintIcon(&painter, QIcon(source), {10, 10, 20, 20}, static_cast<Qt::AspectRatioMode>(aspect),
-              QIcon::Normal, QIcon::Off);
-    paintIcon(&painter, QIcon(), {0, 0, 64, 48}, Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
-    painter.end();
-    paintIcon(nullptr, QIcon(source), {0, 0, 64, 48}, Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
-    QImage expected = blank();
-    QPainter(&expected).fillRect(painted, Qt::red);
-    QCOMPARE(image, expected);
+    for (const auto& [aspect, painted] : {std::pair{Qt::KeepAspectRatio, QRect(10, 15, 20, 10)},
+                                          std::pair{Qt::IgnoreAspectRatio, QRect(10, 15, 20, 10)},
+                                          std::pair{Qt::KeepAspectRatioByExpanding, QRect(0, 10, 40, 20)}}) {
+        QImage image = blank();
+        QPainter painter(&image);
+        paintIcon(&painter, QIcon(source), {10, 10, 20, 20}, aspect, QIcon::Normal, QIcon::Off);
+        paintIcon(&painter, QIcon(), {0, 0, 64, 48}, Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
+        painter.end();
+        paintIcon(nullptr, QIcon(source), {0, 0, 64, 48}, aspect, QIcon::Normal, QIcon::Off);
+        QImage expected = blank();
+        QPainter(&expected).fillRect(painted, Qt::red);
+        QCOMPARE(image, expected);
+    }
 }
 
 TOLVAN_GUI_TEST_MAIN(ToolDrawingTest)

@@ -4,20 +4,7 @@
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/SharedUtils.h>
 
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDial>
-#include <QDialog>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPainter>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTableWidget>
-
-#include <memory>
+#include <QtWidgets>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -29,11 +16,8 @@ const QColor ground(0x24, 0x25, 0x28);
 QRgb brightest(const QImage& image, const QRect& area)
 {
     QRgb found = qRgb(0, 0, 0);
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            found = luminance(image.pixel(x, y)) > luminance(found) ? image.pixel(x, y) : found;
-        }
-    }
+    eachPixel(image, area,
+              [&found](QPoint, QRgb pixel) { found = luminance(pixel) > luminance(found) ? pixel : found; });
     return found;
 }
 
@@ -42,17 +26,6 @@ QImage shown(QWidget& widget)
     widget.show();
     QCoreApplication::processEvents();
     return widget.grab().toImage();
-}
-
-/// Pixels from the left edge to the first bright one.
-int textOffset(const QImage& image, const QRect& area)
-{
-    for (int x = area.left(); x <= area.right(); ++x) {
-        if (contrast(brightest(image, QRect(x, area.top(), 1, area.height())), ground.rgb()) > 7) {
-            return x - area.left();
-        }
-    }
-    return -1;
 }
 
 } // namespace
@@ -173,10 +146,13 @@ void SheetsTest::headersStandAboveTheirCells()
     table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("HH")));
     const QRect header(QPoint(), QSize(80, table.horizontalHeader()->height() - 4));
     shown(table);
-    const auto offset = [](QWidget* view, const QRect& area) {
-        const QImage image = view->grab().toImage();
-        return textOffset(
-            image, QRect(area.topLeft() * image.devicePixelRatio(), area.size() * image.devicePixelRatio()));
+    const auto offset = [](QWidget* view, const QRect& area) { // of the text, in device pixels
+        const QImage image = view->grab(area).toImage();
+        int first = image.width();
+        eachPixel(image, image.rect(), [&](QPoint at, QRgb pixel) {
+            first = contrast(pixel, ground.rgb()) > 7 ? qMin(first, at.x()) : first;
+        });
+        return first;
     };
     QCOMPARE(offset(table.horizontalHeader()->viewport(), header),
              offset(table.viewport(), table.visualRect(table.model()->index(0, 0)).adjusted(0, 2, -2, -2)));
@@ -191,12 +167,8 @@ void SheetsTest::dialsShowTheirValue()
         dial.resize(64, 64);
         const QImage image = shown(dial);
         int pixels = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor colour = image.pixelColor(x, y);
-                pixels += colour.blue() - colour.red() > 100;
-            }
-        }
+        eachPixel(image, image.rect(),
+                  [&](QPoint, QRgb pixel) { pixels += qBlue(pixel) - qRed(pixel) > 100; });
         return pixels;
     };
     QVERIFY(lit(50) > 2 * lit(10));

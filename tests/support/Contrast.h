@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QColor>
+#include <QImage>
 
 #include <algorithm>
 #include <cmath>
@@ -19,4 +19,15 @@ inline double contrast(QRgb first, QRgb second)
 {
     const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
     return (light + 0.05) / (dark + 0.05);
+}
+
+/// Calls \a look with the place and the colour of every pixel of \a area.
+template <class Look>
+void eachPixel(const QImage& image, const QRect& area, Look look)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            look(QPoint(x, y), image.pixel(x, y));
+        }
+    }
 }
