@@ -20,6 +20,23 @@ class QWidget;
 /// QApplication::setStyle(new CustomTolvanAppStyle);
 /// setPredefinedAppStyleSheet(QString(), qApp);
 /// \endcode
+/// \par Before the application object
+/// So that everything is sharp on screens with a scale, also with one like 125 or 150 percent, a host sets these
+/// before it makes its QApplication:
+/// \code
+/// QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+/// QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+/// QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+/// \endcode
+/// A plug-in inside a host that has made its application object already takes over the host's choice.
+///
+/// \par Text size
+/// The sheets give font sizes in points, so texts follow the system's text size (its logical dots per inch).
+/// Layouts of the library's dialogs adapt to it.
+///
+/// \par Contrast
+/// Each of the sheets' 28 colours has a counterpart for high contrast, see setPredefinedAppStyleSheet().
+///
 /// Main thread only. Nothing is thrown. Files that can't be read are skipped without a message.
 
 namespace TOLVAN_NAMESPACE
@@ -42,6 +59,23 @@ UTILSDLL_EXPORT QStringList setAppStyleSheet(const QStringList& files, QApplicat
 /// \param mainSheet path of the first sheet; ":/qss/custom.qss" if empty
 /// \param app       stays owned by the caller
 UTILSDLL_EXPORT void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app);
+
+/// The colours of the product's style sheet.
+enum class Contrast {
+    System, ///< high contrast if the user asked the system for it
+    Normal, ///< always the colours of the sheets
+    High    ///< always the counterparts for high contrast
+};
+
+/// The same with a choice of colours. The overload above uses Contrast::System. With high contrast every colour
+/// of the product's palette is replaced in the joined text of the sheets; a host that has sheets of its own in
+/// \a mainSheet gets the replacement for the colours that it has in common with the palette.
+UTILSDLL_EXPORT void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app,
+                                                Contrast contrast);
+
+/// Returns whether the user asked the system for high contrast. On Windows this is the setting "High contrast",
+/// on Linux that of the desktop portal; false without a portal. May block for half a second on Linux.
+UTILSDLL_EXPORT bool systemUsesHighContrast();
 
 /// Registers the nine fonts under ":/fonts/" with the font database. A font that can't be read is skipped.
 /// Each call registers the fonts again, so call it once.

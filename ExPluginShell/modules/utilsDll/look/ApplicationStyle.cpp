@@ -1,12 +1,15 @@
 #include "ApplicationStyle.h"
 
 #include "frame/Logging.h"
+#include "PaletteColours.h"
+#include "platform/Display.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QWidget>
 
@@ -31,6 +34,38 @@ const int logoSizes[] = {16, 32, 48, 96, 128, 256, 512, 1024};
 bool openForReading(QFile& file)
 {
     return !QFileInfo(file).isDir() && file.open(QIODevice::ReadOnly);
+}
+
+/// Returns the counterpart of a colour of the palette, and any other colour as it is.
+QColor highContrastColour(const QColor& colour)
+{
+    for (const PaletteColour& entry : paletteColours) {
+        if (QColor(QLatin1String(entry.normal)) == colour) {
+            return QColor(QLatin1String(entry.highContrast));
+        }
+    }
+    return colour;
+}
+
+/// Replaces the colours of a sheet, which are written as #RRGGBB or rgba(red, green, blue, opacity).
+QString inHighContrast(const QString& sheet)
+{
+    const QRegularExpression colour(QStringLiteral("#[0-9A-Fa-f]{6}\\b|rgba\\((\\d+), *(\\d+), *(\\d+)"));
+    QString result;
+    int end = 0;
+    for (auto matches = colour.globalMatch(sheet); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        result += sheet.midRef(end, match.capturedStart() - end);
+        end = match.capturedEnd();
+        if (match.capturedRef(1).isEmpty()) {
+            result += highContrastColour(QColor(match.captured())).name();
+        } else {
+            const QColor now = highContrastColour(
+                QColor(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()));
+            result += QStringLiteral("rgba(%1, %2, %3").arg(now.red()).arg(now.green()).arg(now.blue());
+        }
+    }
+    return result + sheet.midRef(end);
 }
 
 } // namespace
@@ -59,10 +94,25 @@ QStringList setAppStyleSheet(const QStringList& files, QApplication* app)
 
 void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app)
 {
+    setPredefinedAppStyleSheet(mainSheet, app, Contrast::System);
+}
+
+void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app, Contrast contrast)
+{
     setAppStyleSheet({mainSheet.isEmpty() ? QStringLiteral(":/qss/custom.qss") : mainSheet,
                       QStringLiteral(":/qss/slider.qss"), QStringLiteral(":/qss/settings.qss"),
                       QStringLiteral(":/qss/message_box.qss"), QStringLiteral(":/qss/win.qss")},
                      app);
+    const bool high =
+        contrast == Contrast::High || (contrast == Contrast::System && systemUsesHighContrast());
+    if (app && high) {
+        app->setStyleSheet(inHighContrast(app->styleSheet()));
+    }
+}
+
+bool systemUsesHighContrast()
+{
+    return Platform::usesHighContrast();
 }
 
 void loadFonts()

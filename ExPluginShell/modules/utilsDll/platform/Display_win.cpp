@@ -16,4 +16,12 @@ double logicalDotsPerInch()
     return dotsPerInch;
 }
 
+bool usesHighContrast()
+{
+    HIGHCONTRASTW contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 } // namespace TOLVAN_NAMESPACE::Platform
