@@ -12,10 +12,8 @@ class AboutDialogsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void texts_data();
     void texts();
-    void styleSheetReachesTheName();
-    void closes_data();
+    void linksAndDragging();
     void closes();
 };
 
@@ -38,58 +36,52 @@ std::unique_ptr<TOLVAN_NAMESPACE::CBaseDialog> make(bool family)
 
 } // namespace
 
-void AboutDialogsTest::texts_data()
-{
-    QTest::addColumn<bool>("family");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("product") << false << QStringLiteral("Trelio Frame");
-    QTest::newRow("family") << true << QStringLiteral("Ostra Collection");
-}
-
 void AboutDialogsTest::texts()
 {
-    QFETCH(bool, family);
-    QFETCH(QString, name);
-    const auto dialog = make(family);
-    QCOMPARE(labelText(*dialog, 1), name);
-    QVERIFY(labelText(*dialog, 2).contains(QStringLiteral(PRODUCT_VERSION)));
-    QVERIFY(labelText(*dialog, 3).contains(QStringLiteral("Tolvan")));
-    QCOMPARE(labelText(*dialog, 4).contains(QStringLiteral("LGPL 3")), !family);
-    QVERIFY(labelText(*dialog, 5).contains(QStringLiteral("https://")));
-}
-
-void AboutDialogsTest::styleSheetReachesTheName()
-{
-    qApp->setStyleSheet(QStringLiteral("CAboutDlg #label_1 { font-size: 31px; }"));
     for (const bool family : {false, true}) {
         const auto dialog = make(family);
-        auto* const label = dialog->findChild<QLabel*>(QStringLiteral("label_1"));
-        label->ensurePolished();
-        QCOMPARE(label->font().pixelSize() == 31, !family);
+        QCOMPARE(labelText(*dialog, 1), QString::fromLatin1(family ? "Ostra Collection" : "Trelio Frame"));
+        QVERIFY(labelText(*dialog, 2).contains(QStringLiteral(PRODUCT_VERSION)));
+        QVERIFY(labelText(*dialog, 3).contains(QStringLiteral("Tolvan")));
+        QCOMPARE(labelText(*dialog, 4).contains(QStringLiteral("<p>Made with:</p>")), !family);
+        for (const char* const licence : {"lgpl-3.0", "lgpl-2.1", "LICENSE-2.0", "openfont", "mit", "zlib"}) {
+            QVERIFY2(labelText(*dialog, 5).contains(QLatin1String(licence)), licence);
+        }
     }
-    qApp->setStyleSheet(QString());
 }
 
-void AboutDialogsTest::closes_data()
+/// Tab marks the first link at once. A press beside the links drags the dialog.
+void AboutDialogsTest::linksAndDragging()
 {
-    QTest::addColumn<int>("key");
-    QTest::newRow("button") << 0;
-    QTest::newRow("Enter") << int(Qt::Key_Return);
-    QTest::newRow("Escape") << int(Qt::Key_Escape);
+    const auto dialog = make(true);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    auto* const links = dialog->findChild<QLabel*>(QStringLiteral("label_5"));
+    QApplication::setActiveWindow(dialog.get());
+    links->setFocus(Qt::TabFocusReason);
+    QCOMPARE(links->selectedText(), QString::fromUtf8("GNU\u00a0LGPL\u00a03"));
+    for (int number = 1; number <= 5; ++number) {
+        auto* const label = dialog->findChild<QLabel*>(QStringLiteral("label_%1").arg(number));
+        const QPoint before = dialog->pos();
+        const QPoint grip(label->width() - 1, 1);
+        QTest::mousePress(label, Qt::LeftButton, {}, grip);
+        QTest::mouseMove(label, grip + QPoint(9, 5));
+        QMouseEvent move(QEvent::MouseMove, grip + QPoint(9, 5), label->mapToGlobal(grip + QPoint(9, 5)),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(label, &move);
+        QTest::mouseRelease(label, Qt::LeftButton, {}, grip);
+        QVERIFY2(dialog->pos() != before, qPrintable(label->objectName()));
+    }
 }
 
 void AboutDialogsTest::closes()
 {
-    QFETCH(int, key);
-    for (const bool family : {false, true}) {
-        const auto dialog = make(family);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
+        const auto dialog = make(false);
         bool closed = false;
         const auto act = [&](QDialog& open) {
-            if (key != 0) {
-                QTest::keyClick(&open, static_cast<Qt::Key>(key));
-            } else {
-                open.findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
-            }
+            auto* const button = open.findChild<QPushButton*>(QStringLiteral("closeButton"));
+            QTest::keyClick(key == Qt::Key_Space ? static_cast<QWidget*>(button) : &open, key);
             closed = !open.isVisible();
         };
         QVERIFY(whileOpen<QDialog>([&] { dialog->exec(); }, act));

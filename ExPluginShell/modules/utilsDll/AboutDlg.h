@@ -11,8 +11,9 @@
 ///
 /// The style sheet addresses the widgets by name: "wBackgroundWidget" is the frame, "iconWidget" the logo,
 /// "label_1" the product's name, "label_2" the version, "label_3" the copyright, "label_4" the libraries,
-/// "label_5" the links and "closeButton" the button. The button, Enter and Escape close the dialog. Links
-/// open in the user's browser. If the logo is missing, its place stays empty.
+/// "label_5" the links to the licences, "websiteIcon" the picture beside them and "closeButton" the button. The
+/// button, Enter and Escape close the dialog. Links open in the user's browser; Tab goes from one to the next.
+/// The mouse drags the dialog everywhere but at links and the button. Missing pictures leave their places empty.
 ///
 /// The texts are in the language that is installed when the dialog is made. Main thread only.
 class UTILSDLL_EXPORT CAboutDlg : public TOLVAN_NAMESPACE::CBaseDialog

@@ -16,8 +16,16 @@
         <translation>© Tolvan. Alle Rechte vorbehalten.</translation>
     </message>
     <message>
-        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>Korrigiert Perspektive, Horizont und Objektivfehler Ihrer Fotos. Entwickelt mit:</translation>
+        <source>Perspective, horizon and lens corrections for your photos.</source>
+        <translation>Korrigiert Perspektive, Horizont und Objektivfehler Ihrer Fotos.</translation>
+    </message>
+    <message>
+        <source>Made with:</source>
+        <translation>Entwickelt mit:</translation>
+    </message>
+    <message>
+        <source>Licences on the web</source>
+        <translation>Lizenzen im Web</translation>
     </message>
     <message>
         <source>Close</source>

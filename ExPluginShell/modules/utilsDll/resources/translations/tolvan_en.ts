@@ -16,8 +16,16 @@
         <translation>© Tolvan. All rights reserved.</translation>
     </message>
     <message>
-        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>Perspective, horizon and lens corrections for your photos. Made with:</translation>
+        <source>Perspective, horizon and lens corrections for your photos.</source>
+        <translation>Perspective, horizon and lens corrections for your photos.</translation>
+    </message>
+    <message>
+        <source>Made with:</source>
+        <translation>Made with:</translation>
+    </message>
+    <message>
+        <source>Licences on the web</source>
+        <translation>Licences on the web</translation>
     </message>
     <message>
         <source>Close</source>

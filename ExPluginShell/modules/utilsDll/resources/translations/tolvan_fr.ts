@@ -16,8 +16,16 @@
         <translation>© Tolvan. Tous droits réservés.</translation>
     </message>
     <message>
-        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>Corrections de la perspective, de l’horizon et des défauts d’objectif pour vos photos. Réalisé avec :</translation>
+        <source>Perspective, horizon and lens corrections for your photos.</source>
+        <translation>Corrections de la perspective, de l’horizon et des défauts d’objectif pour vos photos.</translation>
+    </message>
+    <message>
+        <source>Made with:</source>
+        <translation>Réalisé avec :</translation>
+    </message>
+    <message>
+        <source>Licences on the web</source>
+        <translation>Licences sur le Web</translation>
     </message>
     <message>
         <source>Close</source>

@@ -16,8 +16,16 @@
         <translation>© Tolvan. 無断転載を禁じます。</translation>
     </message>
     <message>
-        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>写真のパースペクティブ、水平、歪曲収差を補正します。使用しているソフトウェア：</translation>
+        <source>Perspective, horizon and lens corrections for your photos.</source>
+        <translation>写真のパースペクティブ、水平、歪曲収差を補正します。</translation>
+    </message>
+    <message>
+        <source>Made with:</source>
+        <translation>使用しているソフトウェア：</translation>
+    </message>
+    <message>
+        <source>Licences on the web</source>
+        <translation>ライセンス（ウェブ）</translation>
     </message>
     <message>
         <source>Close</source>

@@ -16,8 +16,16 @@
         <translation>© Tolvan。保留所有权利。</translation>
     </message>
     <message>
-        <source>Perspective, horizon and lens corrections for your photos. Made with:</source>
-        <translation>校正照片的透视、水平和镜头畸变。使用以下软件构建：</translation>
+        <source>Perspective, horizon and lens corrections for your photos.</source>
+        <translation>校正照片的透视、水平和镜头畸变。</translation>
+    </message>
+    <message>
+        <source>Made with:</source>
+        <translation>使用以下软件构建：</translation>
+    </message>
+    <message>
+        <source>Licences on the web</source>
+        <translation>网上的许可证</translation>
     </message>
     <message>
         <source>Close</source>
