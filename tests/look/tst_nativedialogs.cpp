@@ -1,5 +1,6 @@
 #include "FileTree.h"
 #include "FolderTest.h"
+#include "ModalDialog.h"
 #include "TestMain.h"
 
 #include <utilsDll/NativeDialogs.h>
@@ -8,15 +9,11 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
-#include <QTimer>
-#include <QTreeView>
+#include <QToolButton>
 
 #include <functional>
 
 using namespace TOLVAN_NAMESPACE;
-
-using Ask = std::function<QString(const QString& folder, QString* selectedFilter)>;
-Q_DECLARE_METATYPE(Ask)
 
 namespace
 {
@@ -26,41 +23,34 @@ CNativeDialogs& dialogs()
     return Singleton<CNativeDialogs>::instance();
 }
 
-/// Runs a step as soon as a file dialog is open and ready; closes the dialog if the step did not.
-class DialogStep
-{
-public:
-    explicit DialogStep(std::function<void(QFileDialog&)> step)
-        : m_step(std::move(step))
-    {
-        m_timer.callOnTimeout([this] { look(); });
-        m_timer.start(20);
-    }
-    bool happened() const { return m_happened; }
-
-private:
-    void look()
-    {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible()) {
-            return;
-        }
-        m_timer.stop();
-        m_happened = true;
-        m_step(*dialog);
-        if (dialog->isVisible()) {
-            dialog->reject();
-        }
-    }
-
-    std::function<void(QFileDialog&)> m_step;
-    QTimer m_timer;
-    bool m_happened = false;
-};
-
 QPushButton* selectButton(const QFileDialog& dialog)
 {
     return dialog.findChild<QPushButton*>(QStringLiteral("selectFolderButton"));
+}
+
+/// Returns the answer of the picker, which is closed after the step at the latest.
+QString pick(const QString& dir, const std::function<void(QFileDialog&)>& step)
+{
+    QString picked;
+    const bool shown = whileOpen<QFileDialog>(
+        [&] {
+            picked = dialogs().getFileBrowserDirectory(nullptr, QStringLiteral("Pictures"), dir,
+                                                       QStringLiteral("*.png *.jpg"), QFileDialog::ReadOnly);
+        },
+        step);
+    return shown ? picked : QStringLiteral("never shown");
+}
+
+/// Returns the row of \a name as soon as the view lists it: a thread reads the folder.
+QModelIndex rowOf(const QFileDialog& dialog, const QString& name)
+{
+    const auto* const view = dialog.findChild<QListView*>(QStringLiteral("listView"));
+    const auto row = [&] {
+        const QModelIndex root = view->rootIndex();
+        return view->model()->match(view->model()->index(0, 0, root), Qt::DisplayRole, name).value(0);
+    };
+    const bool listed = QTest::qWaitFor([&] { return row().isValid(); }, 30000);
+    return listed ? row() : QModelIndex();
 }
 
 } // namespace
@@ -73,25 +63,11 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void oneObjectForAllModules();
-    void standardDialogsGetNoOptions_data();
     void standardDialogsGetNoOptions();
-    void pickerShowsImagesOnly();
+    void pickerShowsImages();
     void pickerReturnsTheOpenFolder_data();
     void pickerReturnsTheOpenFolder();
     void pickerWithoutAnAnswer();
-    void onePickerAtATime();
-
-private:
-    /// Answer of the picker, which is closed after the step at the latest.
-    QString pick(const QString& dir, const std::function<void(QFileDialog&)>& step) const
-    {
-        DialogStep watcher(step);
-        const QString picked = dialogs().getFileBrowserDirectory(
-            nullptr, QStringLiteral("Pictures"), dir, QStringLiteral("*.jpg *.png"), QFileDialog::ReadOnly);
-        return watcher.happened() ? picked : QStringLiteral("never shown");
-    }
-    /// The view that lists the folder, once it shows \a name, and that row.
-    static QModelIndex rowOf(const QFileDialog& dialog, const QString& name, QAbstractItemView*& view);
 };
 
 /// Sets the answers for scripted runs: every dialog has to be shown nevertheless.
@@ -107,24 +83,12 @@ void NativeDialogsTest::initTestCase()
 void NativeDialogsTest::init()
 {
     FolderTest::init();
-    FileTree::write(path("photo.jpg"));
+    QImage photo(400, 200, QImage::Format_RGB32);
+    photo.fill(Qt::red);
+    photo.save(path("photo.png"));
+    FileTree::write(path("broken.jpg"));
     FileTree::write(path("notes.txt"));
     FileTree::write(path("below/drawing.png"));
-}
-
-QModelIndex NativeDialogsTest::rowOf(const QFileDialog& dialog, const QString& name, QAbstractItemView*& view)
-{
-    view = dialog.findChild<QListView*>(QStringLiteral("listView"));
-    const auto row = [&] {
-        const QModelIndex root = view->rootIndex();
-        return view->model()
-            ->match(root.model()->index(0, 0, root), Qt::DisplayRole, name, 1, Qt::MatchExactly)
-            .value(0);
-    };
-    if (!QTest::qWaitFor([&] { return row().isValid(); }, 30000)) { // the folder is read by a thread
-        qWarning("%s is not shown", qPrintable(name));
-    }
-    return row();
 }
 
 void NativeDialogsTest::oneObjectForAllModules()
@@ -136,62 +100,55 @@ void NativeDialogsTest::oneObjectForAllModules()
     QCOMPARE(ofModule(), static_cast<void*>(&dialogs()));
 }
 
-void NativeDialogsTest::standardDialogsGetNoOptions_data()
+void NativeDialogsTest::standardDialogsGetNoOptions()
 {
-    QTest::addColumn<Ask>("ask");
-    QTest::addColumn<int>("fileMode");
     const QFileDialog::Options options =
         QFileDialog::ReadOnly | QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails;
     const QString title = QStringLiteral("Title");
     const QString filter = QStringLiteral("Text (*.txt);;All (*)");
-    const auto row = [](const char* name, QFileDialog::FileMode mode, const Ask& ask) {
-        QTest::newRow(name) << ask << int(mode);
-    };
-    row("open file", QFileDialog::ExistingFile, [=](const QString& in, QString* chosen) {
-        return dialogs().getOpenFileName(nullptr, title, in, filter, chosen, options);
-    });
-    row("open files", QFileDialog::ExistingFiles, [=](const QString& in, QString* chosen) {
-        return dialogs().getOpenFileNames(nullptr, title, in, filter, chosen, options).join(QLatin1Char(','));
-    });
-    row("save file", QFileDialog::AnyFile, [=](const QString& in, QString* chosen) {
-        return dialogs().getSaveFileName(nullptr, title, in, filter, chosen, options);
-    });
-    row("existing folder", QFileDialog::Directory, [=](const QString& in, QString*) {
-        return dialogs().getExistingDirectory(nullptr, title, in, options);
-    });
-}
-
-void NativeDialogsTest::standardDialogsGetNoOptions()
-{
-    QFETCH(Ask, ask);
-    QFETCH(int, fileMode);
-    const bool forFolders = fileMode == QFileDialog::Directory;
-    DialogStep step([&](QFileDialog& dialog) {
-        QVERIFY(forFolders || dialog.fileMode() == fileMode);
-        const QFileDialog::Options expected = forFolders ? QFileDialog::ShowDirsOnly : QFileDialog::Options();
-        QCOMPARE(dialog.options() & ~QFileDialog::DontUseNativeDialog, expected);
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Title"));
-        QCOMPARE(dialog.directory(), QDir(folder()));
-        QVERIFY(forFolders || dialog.selectedNameFilter() == QLatin1String("All (*)"));
-    });
+    const QString in = folder();
     QString chosen = QStringLiteral("All (*)");
-    QCOMPARE(ask(folder(), &chosen), QString());
-    QVERIFY(step.happened());
+    QStringList answers;
+    const std::pair<QFileDialog::FileMode, std::function<void()>> kinds[] = {
+        {QFileDialog::ExistingFile,
+         [&] { answers += dialogs().getOpenFileName(nullptr, title, in, filter, &chosen, options); }},
+        {QFileDialog::ExistingFiles,
+         [&] { answers += dialogs().getOpenFileNames(nullptr, title, in, filter, &chosen, options); }},
+        {QFileDialog::AnyFile,
+         [&] { answers += dialogs().getSaveFileName(nullptr, title, in, filter, &chosen, options); }},
+        {QFileDialog::Directory,
+         [&] { answers += dialogs().getExistingDirectory(nullptr, title, in, options); }},
+    };
+    for (const auto& [mode, ask] : kinds) {
+        const bool forFolders = mode == QFileDialog::Directory;
+        const auto check = [&, wanted = mode](QFileDialog& dialog) {
+            QVERIFY(forFolders || dialog.fileMode() == wanted);
+            const auto expected = forFolders ? QFileDialog::ShowDirsOnly : QFileDialog::Options();
+            QCOMPARE(dialog.options() & ~QFileDialog::DontUseNativeDialog, expected);
+            QCOMPARE(dialog.windowTitle(), title);
+            QCOMPARE(dialog.directory(), QDir(in));
+            QVERIFY(forFolders || dialog.selectedNameFilter() == QLatin1String("All (*)"));
+        };
+        QVERIFY(whileOpen<QFileDialog>(ask, check));
+    }
+    QCOMPARE(answers.join(QString()), QString());
 }
 
-void NativeDialogsTest::pickerShowsImagesOnly()
+void NativeDialogsTest::pickerShowsImages()
 {
     pick(folder(), [&](QFileDialog& dialog) {
-        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Image Files (*.jpg *.png)")));
+        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Image Files (*.png *.jpg)")));
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Pictures"));
-        QVERIFY(selectButton(dialog) && selectButton(dialog)->isVisible());
+        QVERIFY(selectButton(dialog)->isVisible() && selectButton(dialog)->isEnabled());
         QCOMPARE(selectButton(dialog)->text(), QStringLiteral("Select Folder"));
-        QVERIFY(selectButton(dialog)->isEnabled());
-        QAbstractItemView* view = nullptr;
-        QVERIFY(rowOf(dialog, QStringLiteral("photo.jpg"), view).isValid());
-        QCOMPARE(view->model()->rowCount(view->rootIndex()), 2); // and the folder
-        const QString shot = qEnvironmentVariable("TOLVAN_SCREENSHOTS");
-        QVERIFY(shot.isEmpty() || dialog.grab().save(shot + QStringLiteral("/folder-picker.png")));
+        const QPersistentModelIndex photo = rowOf(dialog, QStringLiteral("photo.png"));
+        const QPersistentModelIndex broken = rowOf(dialog, QStringLiteral("broken.jpg"));
+        QCOMPARE(photo.model()->rowCount(photo.parent()), 3); // and the folder
+        const auto icon = [](const QModelIndex& row) { return row.data(Qt::DecorationRole).value<QIcon>(); };
+        QTRY_COMPARE(icon(photo).availableSizes(), QList<QSize>{QSize(48, 24)}); // a thumbnail
+        QTest::qWait(20);
+        QVERIFY(!icon(broken).isNull()); // the icon of the file's type
+        QCOMPARE(icon(photo).pixmap(48).toImage().pixelColor(5, 5), QColor(Qt::red));
     });
 }
 
@@ -199,28 +156,30 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder_data()
 {
     QTest::addColumn<QString>("steps");
     QTest::addColumn<QString>("below");
-    const auto row = [](const char* title, const char* steps, const char* below) {
-        QTest::newRow(title) << QString::fromLatin1(steps) << QString::fromLatin1(below);
+    QTest::addColumn<int>("key"); // on the button
+    const auto row = [](const char* title, const char* steps, const char* below, Qt::Key key) {
+        QTest::newRow(title) << QString::fromLatin1(steps) << QString::fromLatin1(below) << int(key);
     };
-    row("at once", "", "");
-    row("a file double-clicked", "double photo.jpg", "");
-    row("Enter on a file", "enter photo.jpg", "");
-    row("a file typed", "type photo.jpg", "");
-    row("a folder double-clicked", "double below", "below");
-    row("a folder typed", "type below", "below");
-    row("a folder marked only", "click below", "");
+    row("at once", "", "", Qt::Key_Space);
+    row("a file double-clicked", "double photo.png", "", Qt::Key_Return);
+    row("Enter on a file", "enter photo.png", "", Qt::Key_Enter);
+    row("a file typed", "type photo.png", "", Qt::Key_Space);
+    row("a folder double-clicked", "double below", "below", Qt::Key_Space);
+    row("a folder typed", "type below", "below", Qt::Key_Space);
+    row("a folder marked only", "click below", "", Qt::Key_Space);
 }
 
 void NativeDialogsTest::pickerReturnsTheOpenFolder()
 {
     QFETCH(QString, steps);
     QFETCH(QString, below);
+    QFETCH(int, key);
     const QString what = steps.section(QLatin1Char(' '), 0, 0);
     const QString name = steps.section(QLatin1Char(' '), 1);
     const QString picked = pick(folder(), [&](QFileDialog& dialog) {
-        QAbstractItemView* view = nullptr;
-        const QModelIndex row = rowOf(dialog, name.isEmpty() ? QStringLiteral("photo.jpg") : name, view);
+        const QModelIndex row = rowOf(dialog, name.isEmpty() ? QStringLiteral("photo.png") : name);
         QVERIFY(row.isValid());
+        auto* const view = dialog.findChild<QListView*>(QStringLiteral("listView"));
         const QPoint middle = view->visualRect(row).center();
         if (what == QLatin1String("type")) {
             auto* const edit = dialog.findChild<QLineEdit*>();
@@ -228,20 +187,16 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder()
             QTest::keyClick(edit, Qt::Key_Return);
         } else if (!what.isEmpty()) {
             QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, middle);
-            if (what == QLatin1String("double")) {
-                QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, middle);
-            } else if (what == QLatin1String("enter")) {
-                QTest::keyClick(view, Qt::Key_Return);
-            }
+        }
+        if (what == QLatin1String("double")) {
+            QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, middle);
+        } else if (what == QLatin1String("enter")) {
+            QTest::keyClick(view, Qt::Key_Return);
         }
         QVERIFY(dialog.isVisible());
         QTRY_COMPARE(dialog.directory(), QDir(path(below)));
-        if (steps.isEmpty()) {
-            selectButton(dialog)->setFocus();
-            QTest::keyClick(selectButton(dialog), Qt::Key_Space);
-        } else {
-            QTest::mouseClick(selectButton(dialog), Qt::LeftButton);
-        }
+        selectButton(dialog)->setFocus();
+        QTest::keyClick(selectButton(dialog), static_cast<Qt::Key>(key));
         QVERIFY(!dialog.isVisible());
     });
     QCOMPARE(picked, QDir::toNativeSeparators(QDir::cleanPath(path(below))));
@@ -249,23 +204,26 @@ void NativeDialogsTest::pickerReturnsTheOpenFolder()
 
 void NativeDialogsTest::pickerWithoutAnAnswer()
 {
-    QCOMPARE(pick(folder(), [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }),
-             QString());
-    QCOMPARE(pick(folder(), [](QFileDialog& dialog) { dialog.close(); }), QString());
-    DialogStep step([](QFileDialog&) {});
-    QCOMPARE(dialogs().getFileBrowserDirectory(nullptr, {}, path("missing"), {}, {}), QString());
-    QVERIFY(!step.happened());
-}
-
-void NativeDialogsTest::onePickerAtATime()
-{
     QString second = QStringLiteral("not asked");
-    const QString first = pick(folder(), [&](QFileDialog& dialog) {
-        second = dialogs().getFileBrowserDirectory(nullptr, QString(), QString(), QString(), {});
-        QTest::mouseClick(selectButton(dialog), Qt::LeftButton);
-    });
-    QVERIFY(second.isEmpty());
-    QCOMPARE(first, QDir::toNativeSeparators(folder()));
+    QCOMPARE(pick(folder(),
+                  [&](QFileDialog& dialog) {
+                      second = dialogs().getFileBrowserDirectory(nullptr, {}, {}, {}, {}); // one at a time
+                      QTest::keyClick(&dialog, Qt::Key_Escape);
+                  }),
+             QString());
+    QCOMPARE(second, QString());
+    bool stayed = true;
+    QCOMPARE(pick(folder(),
+                  [&](QFileDialog& dialog) {
+                      QPushButton* const cancel = dialog.findChildren<QPushButton*>().constFirst();
+                      cancel->setFocus();
+                      QTest::keyClick(cancel, Qt::Key_Return);
+                      stayed = dialog.isVisible();
+                  }),
+             QString());
+    QVERIFY(!stayed);
+    const auto missing = [&] { dialogs().getFileBrowserDirectory(nullptr, {}, path("missing"), {}, {}); };
+    QVERIFY(!whileOpen<QFileDialog>(missing, [](QFileDialog&) {}));
 }
 
 TOLVAN_GUI_TEST_MAIN(NativeDialogsTest)

@@ -1,10 +1,16 @@
 #include "platform/FolderPicker.h"
 
+#include <QCache>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QIdentityProxyModel>
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QListView>
 #include <QPushButton>
+#include <QTimer>
 
 namespace TOLVAN_NAMESPACE::Platform
 {
@@ -13,6 +19,72 @@ namespace
 {
 
 bool pickerIsOpen = false; // main thread only
+
+constexpr int thumbnailEdge = 48;
+
+/// Returns a small picture of an image file; null if it can't be read. A JPEG file is decoded at the small size.
+QPixmap thumbnailOf(const QString& file)
+{
+    QImageReader reader(file);
+    reader.setAutoTransform(true);
+    const QSize whole = reader.size();
+    if (!whole.isValid()) {
+        return {};
+    }
+    reader.setScaledSize(whole.scaled(thumbnailEdge, thumbnailEdge, Qt::KeepAspectRatio));
+    return QPixmap::fromImage(reader.read());
+}
+
+/// Shows thumbnails in place of the icons of image files. The files in view are read one at a time, whenever
+/// the user leaves the program time for it.
+class ThumbnailProxy : public QIdentityProxyModel
+{
+    Q_OBJECT
+
+public:
+    explicit ThumbnailProxy(QObject* parent)
+        : QIdentityProxyModel(parent)
+    {
+        m_reading.setInterval(0);
+        connect(&m_reading, SIGNAL(timeout()), this, SLOT(readNext()));
+    }
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role != Qt::DecorationRole || index.column() != 0) {
+            return QIdentityProxyModel::data(index, role);
+        }
+        const QString file = index.data(QFileSystemModel::FilePathRole).toString();
+        if (const QIcon* const known = m_icons.object(file)) {
+            return known->isNull() ? QIdentityProxyModel::data(index, role) : QVariant(*known);
+        }
+        if (!index.model()->hasChildren(index) && !m_waiting.contains(index)) {
+            m_waiting.append(index);
+            m_reading.start();
+        }
+        return QIdentityProxyModel::data(index, role);
+    }
+
+private Q_SLOTS:
+    void readNext()
+    {
+        if (m_waiting.isEmpty()) {
+            m_reading.stop();
+            return;
+        }
+        const QPersistentModelIndex index = m_waiting.takeLast(); // what came into view last is in view still
+        if (index.isValid()) {
+            const QString file = index.data(QFileSystemModel::FilePathRole).toString();
+            m_icons.insert(file, new QIcon(thumbnailOf(file)));
+            Q_EMIT dataChanged(index, index, {Qt::DecorationRole});
+        }
+    }
+
+private:
+    mutable QCache<QString, QIcon> m_icons{2000};
+    mutable QList<QPersistentModelIndex> m_waiting;
+    mutable QTimer m_reading;
+};
 
 /// Qt's file dialog with its accept button replaced, because files are shown but not chosen.
 class FolderPickerDialog : public QFileDialog
@@ -28,6 +100,11 @@ public:
         const QString patterns = QString(filter).replace(QLatin1Char(';'), QLatin1Char(' ')).simplified();
         setNameFilter(
             QStringLiteral("Image Files (%1)").arg(patterns.isEmpty() ? QStringLiteral("*") : patterns));
+        setProxyModel(new ThumbnailProxy(this));
+        for (auto* const view : findChildren<QAbstractItemView*>()) {
+            const bool isList = view->objectName() == QLatin1String("listView");
+            view->setIconSize(isList ? QSize(thumbnailEdge, thumbnailEdge) : view->iconSize());
+        }
         replaceAcceptButton();
     }
 
@@ -40,6 +117,19 @@ public:
         const QStringList chosen = selectedFiles();
         if (chosen.size() == 1 && QFileInfo(chosen.constFirst()).isDir()) {
             QFileDialog::accept(); // in this file mode it opens the folder and keeps the dialog open
+        }
+    }
+
+protected:
+    /// Enter presses the button that has the focus; QDialog would press the default button, and there is none.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        auto* const button = qobject_cast<QPushButton*>(focusWidget());
+        const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (button && isEnter) {
+            button->click();
+        } else {
+            QFileDialog::keyPressEvent(event);
         }
     }
 
