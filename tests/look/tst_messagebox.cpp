@@ -36,6 +36,8 @@ int answer(const Kind& kind, QWidget* parent, Act act, const QString& message = 
     return shown ? result : -4711;
 }
 
+int alerts = 0; // of boxes, to assistive technology
+
 /// The buttons of the button row from left to right.
 QList<QPushButton*> buttonsOf(const CMessageBox& box)
 {
@@ -66,7 +68,6 @@ private Q_SLOTS:
     void texts();
     void boxesFitTheirText();
     void copying();
-    void assistiveTechnology();
     void nothingIsLeftBehind();
     void scriptedAnswers();
 };
@@ -101,6 +102,11 @@ void MessageBoxTest::content()
 {
     QFETCH(int, kind);
     const Kind& it = kinds().at(kind);
+    QAccessible::setActive(true);
+    alerts = 0;
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        alerts += event->type() == QAccessible::Alert && qobject_cast<CMessageBox*>(event->object());
+    });
     const auto check = [&it](CMessageBox& box) {
         QVERIFY(box.isModal());
         QCOMPARE(box.objectName(), QStringLiteral("CMessageBox"));
@@ -117,8 +123,22 @@ void MessageBoxTest::content()
         const auto* const content = find<QVBoxLayout>(box, "contentLayout");
         QCOMPARE(content->itemAt(0)->widget(), find<QLabel>(box, "textLabel"));
         const auto* const viewer = find<TOLVAN_NAMESPACE::CIconViewer>(box, "iconWidget");
-        const QIcon icon(QString::fromLatin1(it.icon));
-        QCOMPARE(viewer->icon().pixmap(34).toImage(), icon.pixmap(34).toImage());
+        const QIcon picture(QString::fromLatin1(it.icon));
+        QCOMPARE(viewer->icon().pixmap(34).toImage(), picture.pixmap(34).toImage());
+        const auto accessible = [](QWidget* widget, QAccessible::Text text) {
+            return QAccessible::queryAccessibleInterface(widget)->text(text);
+        };
+        const auto role = [](QObject* widget) {
+            return QAccessible::queryAccessibleInterface(widget)->role();
+        };
+        auto* const icon = find<QWidget>(box, "iconWidget");
+        QCOMPARE(alerts, QAccessible::isActive() ? 1 : 0); // the offscreen platform has no accessibility
+        QCOMPARE(role(&box), QAccessible::AlertMessage);
+        QCOMPARE(role(icon), QAccessible::Graphic);
+        QCOMPARE(accessible(&box, QAccessible::Name), QString::fromLatin1(it.accessibleName));
+        QCOMPARE(accessible(icon, QAccessible::Name), QString::fromLatin1(it.accessibleName));
+        QCOMPARE(accessible(&box, QAccessible::Description), text);
+
         const bool alone = buttons.size() == 1;
         const auto* const grid = find<QGridLayout>(box, "gridLayout");
         QCOMPARE(grid->contentsMargins(), QMargins(28, 24, 21, 20));
@@ -128,6 +148,8 @@ void MessageBoxTest::content()
         QVERIFY(!alone || qAbs(centre - (28 + 520 - 21) / 2) <= 1);
     };
     answer(it, nullptr, check);
+    QAccessible::installUpdateHandler(nullptr);
+    QAccessible::setActive(false);
 }
 
 void MessageBoxTest::texts_data()
@@ -207,33 +229,6 @@ void MessageBoxTest::copying()
         QCOMPARE(copied(), QStringLiteral("The "));
     };
     answer(kinds().at(3), nullptr, check, QStringLiteral("The <b>file</b> is new."));
-}
-
-int alerts = 0;
-
-void MessageBoxTest::assistiveTechnology()
-{
-    QAccessible::setActive(true);
-    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        alerts += event->type() == QAccessible::Alert && qobject_cast<CMessageBox*>(event->object());
-    });
-    for (const Kind& kind : kinds()) {
-        alerts = 0;
-        const auto check = [&kind](CMessageBox& box) {
-            QCOMPARE(alerts, QAccessible::isActive() ? 1 : 0); // the offscreen platform has no accessibility
-            const auto* const interface = QAccessible::queryAccessibleInterface(&box);
-            QCOMPARE(interface->role(), QAccessible::AlertMessage);
-            QCOMPARE(interface->text(QAccessible::Name), QString::fromLatin1(kind.accessibleName));
-            QCOMPARE(interface->text(QAccessible::Description), text);
-            auto* const icon = find<QWidget>(box, "iconWidget");
-            const auto* const picture = QAccessible::queryAccessibleInterface(icon);
-            QCOMPARE(picture->role(), QAccessible::Graphic);
-            QCOMPARE(picture->text(QAccessible::Name), QString::fromLatin1(kind.accessibleName));
-        };
-        answer(kind, nullptr, check);
-    }
-    QAccessible::installUpdateHandler(nullptr);
-    QAccessible::setActive(false);
 }
 
 void MessageBoxTest::nothingIsLeftBehind()

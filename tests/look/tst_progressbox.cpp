@@ -37,11 +37,6 @@ private:
     QAtomicInt m_mayEnd;
 };
 
-struct PlainWork : CRunnableItem<QRunnable> {
-    ~PlainWork() override { waitFinishBlocking(); }
-    void run() override { QThread::msleep(20); }
-};
-
 template <class T>
 T* find(const QDialog& box, const char* name)
 {
@@ -58,14 +53,11 @@ class ProgressBoxTest : public QObject
 
 private Q_SLOTS:
     void shortWorkShowsNoBox();
-    void cancelling_data();
     void cancelling();
     void failure();
     void parentDeleted();
     void whatIsShown();
     void accompanies();
-    void itemWithoutSignals();
-    void remainingTime_data();
     void remainingTime();
 };
 
@@ -91,43 +83,34 @@ void ProgressBoxTest::shortWorkShowsNoBox()
     QCOMPARE(box.run(stopped), CProgressBox::Stopped);
 }
 
-void ProgressBoxTest::cancelling_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* const way : {"button", "Escape", "window"}) {
-        QTest::newRow(way) << QString::fromLatin1(way);
-    }
-}
-
 void ProgressBoxTest::cancelling()
 {
-    QFETCH(QString, way);
-    CProgressBox box(title);
-    box.setAppearanceDelay(0);
-    QSignalSpy requests(&box, SIGNAL(cancelRequested()));
-    Work work(true);
-    CProgressBox::Result result = CProgressBox::Failed;
-    const auto cancel = [&](CProgressBox& open) {
-        QVERIFY(open.isModal());
-        auto* const button = find<QPushButton>(open, "cancelButton");
-        QTest::keyClick(&open, Qt::Key_Return); // typed as the box appeared
-        QCOMPARE(requests.count(), 0);
-        if (way == QLatin1String("button")) {
-            button->click();
-        } else if (way == QLatin1String("Escape")) {
-            QTest::keyClick(&open, Qt::Key_Escape);
-        } else {
-            open.close();
-        }
-        QVERIFY(open.isVisible()); // until the work has ended
-        QVERIFY(!button->isEnabled());
-        QCOMPARE(find<QLabel>(open, "timeLabel")->text(), QStringLiteral("Stopping…"));
-        QVERIFY(work.stopRequired());
-    };
-    QVERIFY(whileOpen<CProgressBox>([&] { result = box.run(work); }, cancel));
-    QCOMPARE(result, CProgressBox::Stopped);
-    QCOMPARE(requests.count(), 1);
-    QVERIFY(!box.isVisible());
+    for (const char* const way : {"button", "Escape", "window"}) {
+        CProgressBox box(title);
+        box.setAppearanceDelay(0);
+        QSignalSpy requests(&box, SIGNAL(cancelRequested()));
+        Work work(true);
+        CProgressBox::Result result = CProgressBox::Failed;
+        const auto cancel = [&](CProgressBox& open) {
+            QVERIFY(open.isModal());
+            auto* const button = find<QPushButton>(open, "cancelButton");
+            QTest::keyClick(&open, Qt::Key_Return); // typed as the box appeared
+            QCOMPARE(requests.count(), 0);
+            if (*way == 'b') {
+                button->click();
+            } else if (*way == 'E') {
+                QTest::keyClick(&open, Qt::Key_Escape);
+            } else {
+                open.close();
+            }
+            QVERIFY(open.isVisible() && !button->isEnabled()); // until the work has ended
+            QCOMPARE(find<QLabel>(open, "timeLabel")->text(), QStringLiteral("Stopping…"));
+        };
+        QVERIFY(whileOpen<CProgressBox>([&] { result = box.run(work); }, cancel));
+        QCOMPARE(result, CProgressBox::Stopped);
+        QCOMPARE(requests.count(), 1);
+        QVERIFY(work.stopRequired() && !box.isVisible());
+    }
 }
 
 void ProgressBoxTest::failure()
@@ -202,44 +185,29 @@ void ProgressBoxTest::accompanies()
     QTRY_VERIFY(!box);
 }
 
-void ProgressBoxTest::itemWithoutSignals()
-{
-    CProgressBox box(title);
-    box.setAppearanceDelay(0);
-    PlainWork work;
-    bool enabled = true;
-    QTimer::singleShot(0, this, [&] { enabled = find<QPushButton>(box, "cancelButton")->isEnabled(); });
-    QCOMPARE(box.run(work), CProgressBox::Succeeded);
-    QVERIFY(!enabled); // nothing is connected that could stop the work
-}
-
-void ProgressBoxTest::remainingTime_data()
-{
-    QTest::addColumn<QVector<int>>("done"); // once a second, of 100
-    QTest::addColumn<int>("left");
-    QTest::newRow("nothing yet") << QVector<int>{} << -1;
-    QTest::newRow("too early") << QVector<int>{0, 10} << -1;
-    QTest::newRow("even") << QVector<int>{0, 10, 20, 30} << 7;
-    QTest::newRow("rounded up") << QVector<int>{0, 10, 20, 29} << 8;
-    QTest::newRow("does not move") << QVector<int>{20, 20, 20, 20} << -1;
-    QTest::newRow("slow at first") << QVector<int>{0, 0, 0, 0, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50} << 10;
-    QTest::newRow("starts anew") << QVector<int>{50, 90, 0, 10, 20} << 8;
-    QTest::newRow("done") << QVector<int>{0, 50, 100} << 0;
-}
-
 void ProgressBoxTest::remainingTime()
 {
-    QFETCH(QVector<int>, done);
-    QFETCH(int, left);
-    TOLVAN_NAMESPACE::RemainingTime remaining;
-    for (int i = 0; i < done.size(); ++i) {
-        remaining.add(i * 1000, done.at(i), 100);
+    const std::pair<QVector<int>, int> rows[] = {
+        // done once a second, of 100 | seconds left
+        {{}, -1},
+        {{0, 10}, -1}, // too early
+        {{0, 10, 20, 30}, 7},
+        {{0, 10, 20, 29}, 8},     // rounded up
+        {{20, 20, 20, 20}, -1},   // does not move
+        {{50, 90, 0, 10, 20}, 8}, // starts anew
+        {{0, 0, 0, 0, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50}, 10},
+        {{0, 50, 100}, 0},
+    };
+    for (const auto& [done, left] : rows) {
+        TOLVAN_NAMESPACE::RemainingTime remaining;
+        for (int i = 0; i < done.size(); ++i) {
+            remaining.add(i * 1000, done.at(i), 100);
+        }
+        QCOMPARE(remaining.seconds(), left);
+        QCOMPARE(remaining.text(), left < 0    ? QString()
+                                   : left == 0 ? QStringLiteral("A few seconds left")
+                                               : QStringLiteral("About 10 seconds left"));
     }
-    QCOMPARE(remaining.seconds(), left);
-    const QString text = QStringLiteral("About %1 seconds left").arg(10);
-    QCOMPARE(remaining.text(), left < 0    ? QString()
-                               : left <= 5 ? QStringLiteral("A few seconds left")
-                                           : text);
 }
 
 TOLVAN_GUI_TEST_MAIN(ProgressBoxTest)

@@ -107,7 +107,7 @@ private:
 class Band : public QWidget
 {
 public:
-    Band() { setFixedSize(dialogWidth, bandHeight); }
+    Band() { setFixedSize(dialogWidth - 2, bandHeight); } // beside the frame
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -231,11 +231,11 @@ void build(QDialog& dialog, const QString& objectName, const Content& content, c
     background->setFixedWidth(dialogWidth);
     frame->addWidget(background);
     auto* const column = new QVBoxLayout(background);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(1, 1, 1, 0); // the frame
     column->setSpacing(0);
     column->addWidget(new Band);
     auto* const grid = new QGridLayout;
-    grid->setContentsMargins(28, 20, 21, 20);
+    grid->setContentsMargins(27, 20, 20, 20);
     grid->setHorizontalSpacing(28);
     grid->setVerticalSpacing(16);
     grid->addWidget(makeLogo(content), 0, 0, Qt::AlignTop);

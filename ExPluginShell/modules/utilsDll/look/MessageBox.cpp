@@ -16,6 +16,8 @@
 #include <QSpacerItem>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <functional>
 #include <limits>
 
 using TOLVAN_NAMESPACE::CBaseDialog;
@@ -180,13 +182,15 @@ void CMessageBox::fit(int height)
         widget->ensurePolished(); // the style sheet decides on the fonts
     }
     const int available = int(screen()->availableGeometry().height() * largestShare);
-    const int chosen =
-        height == fittingHeight ? qMin(layout()->totalHeightForWidth(boxWidth), available) : height;
-    setFixedSize(boxWidth, chosen);
-    if (m_ui->gridLayout->minimumHeightForWidth(boxWidth) > chosen) {
+    const bool fits = height == fittingHeight;
+    const int wanted = fits ? qMin(layout()->totalHeightForWidth(boxWidth), available) : height;
+    setFixedSize(boxWidth, wanted);
+    if (m_ui->gridLayout->minimumHeightForWidth(boxWidth) > wanted) {
         m_ui->text->makeScrollable(*m_ui->contentLayout);
     }
-    setTabOrder(findChildren<QPushButton*>().constLast(), m_ui->text); // the buttons come first
+    const auto buttons = findChildren<QPushButton*>();
+    const auto chosen = std::find_if(buttons.begin(), buttons.end(), std::mem_fn(&QPushButton::isDefault));
+    (*chosen)->setFocus(); // every box has a default button
 }
 
 void CMessageBox::showEvent(QShowEvent* event)

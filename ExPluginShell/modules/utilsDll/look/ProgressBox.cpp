@@ -341,9 +341,9 @@ void CProgressBox::refresh()
 
 void CProgressBox::appear()
 {
-    refresh();
     fitHeight();
     show();
+    refresh(); // the lines have their width now
 }
 
 void CProgressBox::showError()

@@ -109,10 +109,16 @@ void WrappingLabel::focusInEvent(QFocusEvent* event)
 {
     if (!m_focusFrame) {
         m_focusFrame = new QFocusFrame(this);
-        m_focusFrame->setWidget(this); // shows itself while the label has the focus
-        setSelection(0, 0);            // the invisible cursor is at the end of the text
+        setSelection(0, 0); // the invisible cursor is at the end of the text
     }
+    m_focusFrame->setWidget(this);
     QLabel::focusInEvent(event);
+}
+
+void WrappingLabel::focusOutEvent(QFocusEvent* event)
+{
+    m_focusFrame->setWidget(nullptr);
+    QLabel::focusOutEvent(event);
 }
 
 } // namespace TOLVAN_NAMESPACE
