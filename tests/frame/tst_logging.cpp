@@ -2,11 +2,28 @@
 #include "TestMain.h"
 
 #include "frame/Logging.h"
+#include "LogStatement.h"
+
+#include <QLoggingCategory>
 
 #include <limits>
 #include <stdexcept>
 
 namespace Log = TOLVAN_NAMESPACE::Logging;
+
+namespace Module
+{
+
+template <class T>
+struct Loader {
+    static QString* load(const QString& path, T (*)(int))
+    {
+        TOLVAN_LOG(LogLevel::Warning) << "cannot read " << path << ", " << -3 << " " << 0.1 << " " << true;
+        return nullptr;
+    }
+};
+
+} // namespace Module
 
 /// The bridge itself: first without a logger, which a process can't go back to, then with one.
 class LoggingTest : public QObject
@@ -54,6 +71,39 @@ private Q_SLOTS:
         QCOMPARE(logger.take(),
                  QStringList({QStringLiteral("I A::f: n=42, -1ä日%s{}!"), QStringLiteral("D g: ") + longText,
                               QStringLiteral("W h: "), QStringLiteral("E k: 1-9223372036854775808")}));
+    }
+
+    void linesOfModules()
+    {
+        auto& logger = installedLogger();
+        logger.take();
+        Module::Loader<QList<int>>::load(QStringLiteral("ä.txt"), nullptr);
+        const QString line = logger.take().value(0);
+        QVERIFY2(line.startsWith(QLatin1String("W Module::Loader<")), qPrintable(line));
+        QVERIFY2(line.endsWith(QString::fromUtf8(">::load: cannot read ä.txt, -3 0.1 true")),
+                 qPrintable(line));
+    }
+
+    void messagesOfQt()
+    {
+        auto& logger = installedLogger();
+        TOLVAN_NAMESPACE::installQtMessageLog();
+        TOLVAN_NAMESPACE::installQtMessageLog();
+        logger.take();
+        const QLoggingCategory network("network");
+        QTest::ignoreMessage(QtWarningMsg, "plain");
+        qWarning("plain");
+        QTest::ignoreMessage(QtCriticalMsg, "named");
+        qCCritical(network, "named");
+        QTest::ignoreMessage(QtDebugMsg, "ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60");
+        Log::reportAssertion("f", "SharedUtils", 60);
+        TOLVAN_NAMESPACE::removeQtMessageLog();
+        QTest::ignoreMessage(QtWarningMsg, "not logged");
+        qWarning("not logged");
+        QCOMPARE(
+            logger.take(),
+            QStringList({QStringLiteral("W Qt: plain"), QStringLiteral("E Qt network: named"),
+                         QStringLiteral("E f: ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60")}));
     }
 
     void loggerIsNeverReplaced()
