@@ -13,6 +13,7 @@ Usage: tools/install-deps.sh GROUP...
   lint     check the format and build with Clang
   fuzz     build and run the fuzz targets
   docs     make the API reference
+  release  make the packages and archives (tools/release.sh)
 TEXT
 }
 
@@ -45,6 +46,9 @@ packages_of() {
         ;;
     lint | fuzz)
         echo clang clang-format libclang-rt-14-dev shellcheck
+        ;;
+    release)
+        echo dpkg-dev binutils file zip xz-utils
         ;;
     docs)
         echo doxygen
