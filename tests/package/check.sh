@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# check.sh BUILD_DIR [CMAKE_OPTION...]: installs the build in BUILD_DIR into a folder of its own, builds the consumer
-# project against that and runs it, on a profile of its own. Builds the README's web-service client as the README has it.
+# check.sh BUILD_DIR [CMAKE_OPTION...]: installs the build in BUILD_DIR into a folder of its own, builds programs against
+# that and runs them, on a profile of its own: the consumer project beside this script, the programs of the guide, and the
+# web-service client as README has it.
 set -euo pipefail
 build_dir=$1
 shift
@@ -26,5 +27,11 @@ section cmake >"$work/client/CMakeLists.txt"
 section cpp >"$work/client/main.cpp"
 quietly cmake -S "$work/client" -B "$work/client/build" -G Ninja -DUtilsDllTrelioFrame_DIR="$package" "$@"
 quietly cmake --build "$work/client/build"
+quietly cmake -S "$source_dir/../../examples" -B "$work/examples" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DUtilsDllTrelioFrame_DIR="$package" "$@"
+quietly cmake --build "$work/examples"
 export HOME=$work/home XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config
-cd "$work/build" && ctest --output-on-failure --no-tests=error
+export TOLVAN_TEST_PLATFORM=windows # under Wine: only the plug-ins of a host are deployed
+for folder in build examples; do
+    (cd "$work/$folder" && ctest --output-on-failure --no-tests=error)
+done
