@@ -8,13 +8,13 @@
 #include "NameEncoding.h"
 #include "OrderedWork.h"
 #include "platform/FolderWriter.h"
+#include "UnpackedPiece.h"
 #include "ZipDirectory.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <new>
 #include <optional>
 #include <thread>
 
@@ -28,10 +28,7 @@ using Platform::FolderWriter;
 using Platform::WriteResult;
 
 constexpr qint64 blockSize = 256 * 1024;
-constexpr qint64 largestInMemory = 24 * 1024 * 1024; // Larger entries are unpacked block by block.
 constexpr qint64 mostInMemory = 80 * 1024 * 1024;
-constexpr qint64 pieceSize = 256 * 1024; // Small entries are handed to a thread together.
-constexpr std::size_t mostInPiece = 64;
 constexpr qint64 longestLinkTarget = 4096;
 constexpr qint64 sizeWorthAsking = 16 * 1024 * 1024; // Smaller entries don't fill a disk by themselves.
 constexpr int mostHelpers = 15;
@@ -53,79 +50,6 @@ ArchiveProblem problemOf(WriteResult result)
     }
     return ArchiveProblem::WriteFailed;
 }
-
-/// An entry on its way from the directory to the folder.
-struct UnpackedEntry {
-    DirectoryEntry entry;
-    QString name;
-    QStringList parts;
-    bool isFolder = false;
-    qint64 position = -1;            ///< of the packed content
-    std::unique_ptr<char[]> content; ///< null if it is unpacked block by block, or has none
-    std::optional<ArchiveProblem> problem;
-
-    bool fitsMemory() const
-    {
-        return std::max(entry.size, entry.packedSize) <= largestInMemory &&
-               (entry.method == Stored || entry.method == Deflated);
-    }
-};
-
-/// Entries that one thread unpacks into memory.
-class UnpackedPiece
-{
-public:
-    UnpackedPiece(ArchiveFile& file, bool wholeEntries)
-        : m_file(file)
-        , m_wholeEntries(wholeEntries)
-    {
-    }
-    bool isFull() const { return m_memory >= pieceSize || entries.size() >= mostInPiece; }
-    void add(UnpackedEntry&& entry)
-    {
-        if (entry.fitsMemory()) {
-            m_memory += entry.entry.size + entry.entry.packedSize;
-        }
-        entries.push_back(std::move(entry));
-    }
-    qint64 memory() const { return m_memory; }
-    void work()
-    {
-        for (UnpackedEntry& entry : entries) {
-            if (m_wholeEntries && !entry.problem && !entry.isFolder && entry.fitsMemory()) {
-                entry.problem = unpack(entry);
-            }
-        }
-    }
-
-    std::vector<UnpackedEntry> entries;
-
-private:
-    std::optional<ArchiveProblem> unpack(UnpackedEntry& unpacked) const
-    {
-        const DirectoryEntry& entry = unpacked.entry;
-        const bool stored = entry.method == Stored;
-        const auto allocated = [](qint64 size) {
-            return std::unique_ptr<char[]>(new (std::nothrow) char[static_cast<std::size_t>(size) + 1]);
-        };
-        std::unique_ptr<char[]> packed = allocated(entry.packedSize);
-        if (!packed || !m_file.read(unpacked.position, packed.get(), entry.packedSize)) {
-            return ArchiveProblem::ReadFailed;
-        }
-        unpacked.content = stored ? std::move(packed) : allocated(entry.size);
-        const bool whole = stored ? entry.packedSize == entry.size
-                                  : unpacked.content && inflateWhole(packed.get(), entry.packedSize,
-                                                                     unpacked.content.get(), entry.size);
-        if (!whole || updatedChecksum(0, unpacked.content.get(), entry.size) != entry.checksum) {
-            return ArchiveProblem::Damaged;
-        }
-        return std::nullopt;
-    }
-
-    ArchiveFile& m_file;
-    const bool m_wholeEntries;
-    qint64 m_memory = 0;
-};
 
 /// Unpacks one archive into one folder.
 class Extractor
@@ -207,7 +131,8 @@ std::optional<ArchiveProblem> Extractor::open()
 void Extractor::run()
 {
     const int processors = static_cast<int>(std::thread::hardware_concurrency());
-    const qint64 helpers = std::min<qint64>({processors - 1, mostHelpers, m_check.contentSize() / pieceSize});
+    const qint64 helpers =
+        std::min<qint64>({processors - 1, mostHelpers, m_check.contentSize() / UnpackedPiece::smallest});
     OrderedWork<UnpackedPiece> pieces(static_cast<int>(std::max<qint64>(0, helpers)), mostInMemory);
     m_directory.rewind();
     std::optional<DirectoryEntry> next = m_directory.next();
@@ -378,13 +303,9 @@ std::optional<ArchiveProblem> Extractor::copyContent(const UnpackedEntry& unpack
 {
     const DirectoryEntry& entry = unpacked.entry;
     if (unpacked.content) {
-        for (qint64 done = 0; done < entry.size;) {
-            const qint64 length = std::min(entry.size - done, largestInMemory);
-            const WriteResult result = write(unpacked.content.get() + done, length);
-            if (result != WriteResult::Done) {
-                return problemOf(result);
-            }
-            done += length;
+        const WriteResult result = write(unpacked.content.get(), entry.size);
+        if (result != WriteResult::Done) {
+            return problemOf(result);
         }
         m_work.advance(entry.size, unpacked.name);
         return std::nullopt;

@@ -5,7 +5,7 @@
 #include "Deflater.h"
 #include "OrderedWork.h"
 #include "PackedFiles.h"
-#include "platform/RegularFile.h"
+#include "PackedPiece.h"
 
 #include <quazip/quazip.h>
 #include <quazip/quazipfile.h>
@@ -19,9 +19,6 @@
 #include <zlib.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <mutex>
-#include <new>
 #include <numeric>
 #include <optional>
 #include <thread>
@@ -33,10 +30,7 @@ namespace
 {
 
 constexpr qint64 blockSize = 256 * 1024;
-constexpr qint64 largestInMemory = 24 * 1024 * 1024; // Larger files are packed block by block.
 constexpr qint64 mostInMemory = 80 * 1024 * 1024;
-constexpr qint64 pieceSize = 256 * 1024; // Small files are handed to a thread together.
-constexpr std::size_t mostInPiece = 64;
 constexpr int mostHelpers = 15;
 /// A file that may come near the format's old limit of 4 GiB, also when packing makes it larger.
 constexpr qint64 largeFile = 0xF0000000;
@@ -49,138 +43,19 @@ bool isPlainAscii(const QString& name)
     return std::all_of(name.begin(), name.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-/// Deflaters that are not in use: making one takes longer than packing a small file.
-class Deflaters
+/// The nearest time that the format has.
+QDateTime timeInFormat(const QDateTime& time)
 {
-public:
-    std::unique_ptr<Deflater> take()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_free.empty()) {
-            return std::make_unique<Deflater>();
-        }
-        auto deflater = std::move(m_free.back());
-        m_free.pop_back();
-        return deflater;
-    }
-    void giveBack(std::unique_ptr<Deflater> deflater)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_free.push_back(std::move(deflater));
-    }
-
-private:
-    std::mutex m_mutex;
-    std::vector<std::unique_ptr<Deflater>> m_free;
-};
-
-/// A file on its way into the archive.
-struct PackedContent {
-    PackedFile file;
-    std::unique_ptr<char[]> data; ///< null if the file is packed block by block, and for a folder
-    qint64 size = 0;              ///< of the data
-    quint16 method = Stored;
-    quint32 checksum = 0;
-    std::optional<ArchiveProblem> problem;
-
-    bool fitsMemory() const { return !file.isFolder && file.size <= largestInMemory; }
-    void setStored(const QByteArray& text)
-    {
-        file.size = size = text.size();
-        data.reset(new char[static_cast<std::size_t>(size) + 1]);
-        std::copy(text.begin(), text.end(), data.get());
-        checksum = updatedChecksum(0, text.constData(), size);
-    }
-};
-
-std::optional<ArchiveProblem> openContent(QFile& file)
-{
-    if (Platform::openRegularFile(file)) {
-        return std::nullopt;
-    }
-    const QFileInfo info(file);
-    return !info.exists()      ? ArchiveProblem::NotFound
-           : !info.isFile()    ? ArchiveProblem::NotAFile
-           : info.isReadable() ? ArchiveProblem::ReadFailed
-                               : ArchiveProblem::AccessDenied;
+    const int year = time.date().year();
+    return year < firstYear  ? QDateTime(QDate(firstYear, 1, 1), QTime(0, 0))
+           : year > lastYear ? QDateTime(QDate(lastYear, 12, 31), QTime(23, 59, 58))
+                             : time;
 }
-
-/// Reads and deflates a file that fits into memory.
-std::optional<ArchiveProblem> packInMemory(PackedContent& content, Deflater& deflater)
-{
-    const qint64 size = content.file.size;
-    const auto allocated = [size] {
-        return std::unique_ptr<char[]>(new (std::nothrow) char[static_cast<std::size_t>(size) + 1]);
-    };
-    QFile file(content.file.path);
-    if (const auto problem = openContent(file)) {
-        return problem;
-    }
-    std::unique_ptr<char[]> plain = allocated();
-    std::unique_ptr<char[]> packed = allocated();
-    const qint64 length = plain && packed ? file.read(plain.get(), size + 1) : -1; // one more: has it grown?
-    if (length != size) {
-        return length < 0 ? ArchiveProblem::ReadFailed : ArchiveProblem::Changed;
-    }
-    content.checksum = updatedChecksum(0, plain.get(), size);
-    content.size = deflater.deflate(plain.get(), size, packed.get());
-    if (content.size > 0) {
-        content.method = Deflated;
-        content.data = std::move(packed);
-    } else {
-        content.size = size;
-        content.data = std::move(plain);
-    }
-    return std::nullopt;
-}
-
-/// Files that one thread reads and deflates.
-class PackedPiece
-{
-public:
-    explicit PackedPiece(Deflaters& deflaters)
-        : m_deflaters(deflaters)
-    {
-    }
-    bool isFull() const { return m_memory >= pieceSize || contents.size() >= mostInPiece; }
-    void add(PackedFile&& file)
-    {
-        PackedContent content;
-        content.file = std::move(file);
-        m_memory += content.fitsMemory() ? 2 * content.file.size : 0;
-        contents.push_back(std::move(content));
-    }
-    qint64 memory() const { return m_memory; }
-    void work()
-    {
-        std::unique_ptr<Deflater> deflater = m_deflaters.take();
-        for (PackedContent& content : contents) {
-            if (content.file.isLink) {
-                std::error_code error;
-                const auto target = std::filesystem::read_symlink(
-                    std::filesystem::path(QFile::encodeName(content.file.path).toStdString()), error);
-                content.setStored(QByteArray::fromStdString(target.string()));
-                content.problem = error ? std::make_optional(ArchiveProblem::ReadFailed) : std::nullopt;
-            } else if (content.fitsMemory()) {
-                content.problem = packInMemory(content, *deflater);
-            }
-        }
-        m_deflaters.giveBack(std::move(deflater));
-    }
-
-    std::vector<PackedContent> contents;
-
-private:
-    Deflaters& m_deflaters;
-    qint64 m_memory = 0;
-};
 
 QuaZipNewInfo infoOf(const PackedFile& file)
 {
-    const QDateTime first(QDate(firstYear, 1, 1), QTime(0, 0));
-    const QDateTime last(QDate(lastYear, 12, 31), QTime(23, 59, 58));
     QuaZipNewInfo info(file.name);
-    info.dateTime = std::clamp(file.lastModified, first, last);
+    info.dateTime = timeInFormat(file.lastModified);
     info.setPermissions(file.permissions);
     const quint32 type = file.isLink ? 0120000u : file.isFolder ? 0040000u : 0100000u;
     const quint32 permissions = file.isLink ? 0777u : (info.externalAttr >> 16) & 07777u;
@@ -238,7 +113,7 @@ void Packer::packFiles(std::vector<PackedFile>& files)
                                         [](qint64 sum, const PackedFile& file) { return sum + file.size; });
     m_work.setTotal(size);
     const int processors = static_cast<int>(std::thread::hardware_concurrency());
-    const qint64 helpers = std::min<qint64>({processors - 1, mostHelpers, size / pieceSize});
+    const qint64 helpers = std::min<qint64>({processors - 1, mostHelpers, size / PackedPiece::smallest});
     OrderedWork<PackedPiece> pieces(static_cast<int>(std::max<qint64>(helpers, 0)), mostInMemory);
     auto next = files.begin();
     while (next != files.end() && !m_failed && !m_work.stopRequired()) {

@@ -3,6 +3,8 @@
 #include <QtGlobal>
 
 #include <memory>
+#include <mutex>
+#include <vector>
 
 struct libdeflate_compressor;
 
@@ -27,6 +29,31 @@ private:
     bool looksIncompressible(const char* content, qint64 size, char* packed);
 
     const std::unique_ptr<libdeflate_compressor, void (*)(libdeflate_compressor*)> m_compressor;
+};
+
+/// Deflaters that are not in use: making one takes longer than packing a small file. Thread-safe. Internal.
+class Deflaters
+{
+public:
+    std::unique_ptr<Deflater> take()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_free.empty()) {
+            return std::make_unique<Deflater>();
+        }
+        auto deflater = std::move(m_free.back());
+        m_free.pop_back();
+        return deflater;
+    }
+    void giveBack(std::unique_ptr<Deflater> deflater)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_free.push_back(std::move(deflater));
+    }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::unique_ptr<Deflater>> m_free;
 };
 
 } // namespace TOLVAN_NAMESPACE

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <filesystem>
 #include <optional>
 
 namespace TOLVAN_NAMESPACE
@@ -22,6 +23,7 @@ public:
     explicit Collector(ArchiveWork& work)
         : m_work(work)
         , m_archive(realPath(work.task().archive))
+        , m_archiveName(QFileInfo(m_archive).fileName())
     {
     }
 
@@ -35,7 +37,7 @@ public:
             return;
         }
         if (!isFolder) {
-            if (depth == 0 || realPath(info.filePath()) != m_archive) {
+            if (depth == 0 || info.fileName() != m_archiveName || realPath(info.filePath()) != m_archive) {
                 append(info, name, isLink, false);
             }
             return;
@@ -94,14 +96,39 @@ private:
         return std::nullopt;
     }
 
+    /// Of a shortcut on Windows Qt reports the size of what it leads to.
+    static qint64 ownSize(const QFileInfo& info)
+    {
+        if (!info.isSymLink()) {
+            return info.size();
+        }
+        std::error_code error;
+        const auto size = std::filesystem::file_size(info.filePath().toStdU16String(), error);
+        return error ? 0 : static_cast<qint64>(size);
+    }
+
+    /// QFileInfo::permissions() would also ask three times what the user of this process may do.
+    static QFile::Permissions storedPermissions(const QFileInfo& info)
+    {
+        QFile::Permissions permissions;
+        for (const QFile::Permission permission :
+             {QFile::ReadOwner, QFile::WriteOwner, QFile::ExeOwner, QFile::ReadGroup, QFile::WriteGroup,
+              QFile::ExeGroup, QFile::ReadOther, QFile::WriteOther, QFile::ExeOther}) {
+            if (info.permission(permission)) {
+                permissions |= permission;
+            }
+        }
+        return permissions;
+    }
+
     void append(const QFileInfo& info, const QString& name, bool isLink, bool isFolder)
     {
         PackedFile file;
         file.path = info.filePath();
         file.name = name;
-        file.size = isLink || isFolder ? 0 : info.size();
+        file.size = isLink || isFolder ? 0 : ownSize(info);
         file.lastModified = info.lastModified();
-        file.permissions = info.permissions();
+        file.permissions = storedPermissions(info);
         file.isLink = isLink;
         file.isFolder = isFolder;
         files.push_back(std::move(file));
@@ -109,6 +136,7 @@ private:
 
     ArchiveWork& m_work;
     const QString m_archive;
+    const QString m_archiveName;
 };
 
 /// The name of a top-level file or folder in the archive. Empty for the base folder itself.

@@ -180,8 +180,8 @@ WriteResult FolderWriter::openRoot(const QString& path)
 {
     const QString folder = path.isEmpty() ? QStringLiteral(".") : path;
     QDir().mkpath(folder);
-    m_data->root = openFolder(AT_FDCWD, QFile::encodeName(folder), 0);
     m_data->rootPath = QFileInfo(folder).canonicalFilePath();
+    m_data->root = openFolder(AT_FDCWD, QFile::encodeName(folder), 0);
     return m_data->root.get() >= 0 ? WriteResult::Done : resultOf(errno);
 }
 
