@@ -15,7 +15,9 @@
 #ifdef Q_OS_LINUX
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #endif
 
@@ -224,6 +226,7 @@ void FileManagementTest::acrossFileSystems()
     if (!m_volume.problem().isEmpty()) {
         QSKIP(qPrintable(m_volume.problem()));
     }
+#ifdef Q_OS_LINUX
     const QString there = m_volume.path() + QStringLiteral("/moved");
     const QDateTime old = QDateTime::fromSecsSinceEpoch(1600000000);
     FileTree::write(path("folder/a/b"), QByteArray(300000, 'x'));
@@ -233,6 +236,11 @@ void FileManagementTest::acrossFileSystems()
     QVERIFY(dated.open(QIODevice::ReadWrite) && dated.setFileTime(old, QFileDevice::FileModificationTime));
     dated.close();
     permit(dated.fileName(), QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray native = QFile::encodeName(dated.fileName());
+    QCOMPARE(link(native.constData(), QFile::encodeName(path("folder/second name")).constData()), 0);
+    QCOMPARE(setxattr(native.constData(), "trusted.test", "value", 5, 0), 0);
+    QCOMPARE(chown(native.constData(), 65534, 65534), 0);
+    QVERIFY(QFile::resize(FileTree::write(path("folder/hole"), "start"), 100 << 20));
     const auto tree = FileTree::of(path("folder"));
     QVERIFY(renameFile(path("folder"), there));
     QCOMPARE(FileTree::of(there), tree);
@@ -240,6 +248,14 @@ void FileManagementTest::acrossFileSystems()
     const QFileInfo moved(there + QStringLiteral("/a/b"));
     QCOMPARE(moved.lastModified(), old);
     QVERIFY(moved.permission(QFile::ExeOwner) && !moved.permission(QFile::WriteOwner));
+    QCOMPARE(moved.ownerId(), 65534u);
+    struct stat status = {};
+    char value[5] = {};
+    const QByteArray copy = QFile::encodeName(moved.filePath());
+    QCOMPARE(getxattr(copy.constData(), "trusted.test", value, sizeof value), ssize_t(5));
+    QVERIFY(stat(copy.constData(), &status) == 0 && status.st_nlink == 2);
+    const QByteArray hole = QFile::encodeName(there + QStringLiteral("/hole"));
+    QVERIFY(stat(hole.constData(), &status) == 0 && status.st_blocks < 1000);
 
     const QString current = QDir::currentPath();
     FileTree::write(path("file"), "new");
@@ -248,6 +264,7 @@ void FileManagementTest::acrossFileSystems()
     QVERIFY(QDir::setCurrent(current));
     QVERIFY(QFile::remove(m_volume.path() + QStringLiteral("/file")));
     QVERIFY(QDir(there).removeRecursively());
+#endif
 }
 
 void FileManagementTest::refusedAcrossFileSystems()

@@ -38,7 +38,6 @@ void FileNamesTest::validity_data()
     row("dot", text("."), true, true);
     row("dot dot", text(".."), false, false);
     row("dot dot inside", text("a..b"), false, false);
-    row("three dots", text("..."), false, false);
     row("cleaned away", text("a/../b"), true, true);
     row("leads up", text("../b"), false, false);
     row("drive and path", text("C:/Photos/a.jpg"), false, true);
@@ -49,8 +48,6 @@ void FileNamesTest::validity_data()
         row(title, text("a") + QLatin1Char(forbidden), false, false);
     }
     row("colon", text("a:b"), false, true);
-    row("line feed", text("a\nb"), true, true);
-    row("surrogate pair", text("\xF0\x9F\x93\xB7.jpg"), true, true);
     row("right-to-left override", text("a\xE2\x80\xAEgpj.exe"), true, true);
     for (const char* device : {"CON", "pRn", "AUX", "nul", "COM1", "com9", "LPT1", "Lpt9"}) {
         row(device, text(device), false, false);
@@ -95,7 +92,6 @@ void FileNamesTest::lengths_data()
     QTest::newRow("261 in one part") << part(261) << false;
     QTest::newRow("260 as a folder") << part(260) + QStringLiteral("/a") << true;
     QTest::newRow("261 as a folder") << part(261) + QStringLiteral("/a") << false;
-    QTest::newRow("261 in the middle") << QStringLiteral("/a/") + part(261) + QStringLiteral("/a") << false;
     QTest::newRow("130 surrogate pairs") << QString::fromUtf8("\xF0\x9F\x93\xB7").repeated(130) << true;
     QTest::newRow("131 surrogate pairs") << QString::fromUtf8("\xF0\x9F\x93\xB7").repeated(131) << false;
     QTest::newRow("32766 in all") << path(32766) << true;
@@ -125,7 +121,6 @@ void FileNamesTest::comparison_data()
     row("no separator between folder and name", "a/bc.jpg", "ab/c.jpg", {false, true, false, false, true});
     row("umlauts", "\xC3\xA4/\xC3\x96.jpg", "\xC3\x84/\xC3\xB6.jpg", {true, true, true, true, true});
     row("hidden file", "a/.b", "a/.c", {false, true, false, true, true});
-    row("different", "a/b", "c/d", {false, false, false, false, true});
 }
 
 void FileNamesTest::comparison()

@@ -70,13 +70,10 @@ void FileSizesTest::imageSizes_data()
     QTest::addColumn<int>("dpi");
     QTest::addColumn<QString>("text");
     QTest::newRow("pixels") << 0 << 96 << QStringLiteral("1920 x 1080<px>");
-    QTest::newRow("pixels at 120") << 0 << 120 << QStringLiteral("1920 x 1080<px>");
     QTest::newRow("inches at 96") << 1 << 96 << QStringLiteral("20.00 x 11.25<in>");
     QTest::newRow("inches at 120") << 1 << 120 << QStringLiteral("16.00 x 9.00<in>");
     QTest::newRow("centimetres at 96") << 2 << 96 << QStringLiteral("50.8 x 28.6<cm>");
-    QTest::newRow("centimetres at 120") << 2 << 120 << QStringLiteral("40.6 x 22.9<cm>");
     QTest::newRow("millimetres at 96") << 3 << 96 << QStringLiteral("508 x 286<mm>");
-    QTest::newRow("millimetres at 120") << 3 << 120 << QStringLiteral("406 x 229<mm>");
 }
 
 void FileSizesTest::imageSizes()

@@ -22,7 +22,10 @@ private Q_SLOTS:
     void sameNameTwice();
     void veryLongName();
     void othersListAndRestore();
+    void receipt();
+    void linkInPlaceOfTheBin();
     void anotherFileSystem();
+    void overlayFileSystem();
     void readOnlyFolder();
     void unusableHome();
 
@@ -133,6 +136,57 @@ void TrashTest::othersListAndRestore()
     }
     QCOMPARE(FileTree::read(path(awkward)), awkward.toUtf8());
     QCOMPARE(FileTree::read(path(QStringLiteral("plain"))), QByteArray("plain"));
+}
+
+void TrashTest::receipt()
+{
+    const QString file = FileTree::write(path("folder/a b"), "content");
+    const TrashReceipt receipt = trash(file);
+    QVERIFY(receipt.isTrashed && !QFile::exists(file));
+    QCOMPARE(FileTree::read(receipt.trashPath), QByteArray("content"));
+    QVERIFY(QDir(path("folder")).removeRecursively());
+    QVERIFY(restore(receipt));
+    QCOMPARE(FileTree::read(file), QByteArray("content"));
+    QVERIFY(FileTree::of(bin() + QStringLiteral("/info")).isEmpty());
+    QVERIFY(!restore(receipt));
+    QVERIFY(!trash(path("missing")).isTrashed);
+    const TrashReceipt second = trash(file);
+    FileTree::write(file, "new");
+    QVERIFY(!restore(second));
+    QCOMPARE(FileTree::read(file), QByteArray("new"));
+}
+
+void TrashTest::linkInPlaceOfTheBin()
+{
+    QVERIFY(QDir().mkpath(path("elsewhere")) && QDir().mkpath(QFileInfo(bin()).path()));
+    QVERIFY(QFile::link(path("elsewhere"), bin()));
+    QCOMPARE(moveFileToTrash(FileTree::write(path("a"), "content")), FileOperationSucceeded);
+    QVERIFY(QFile::remove(bin()));
+    QCOMPARE(FileTree::read(path("elsewhere/files/a")), QByteArray("content"));
+}
+
+/// Files report the device of their layer there, not that of their folder.
+void TrashTest::overlayFileSystem()
+{
+    if (!m_volume.problem().isEmpty()) {
+        QSKIP(qPrintable(m_volume.problem()));
+    }
+    FileTree::write(path("lower/a"), "content");
+    const QString top = path("merged");
+    QVERIFY(QDir().mkpath(top) && QDir(m_volume.path()).mkpath(QStringLiteral("upper")) &&
+            QDir(m_volume.path()).mkpath(QStringLiteral("work")));
+    const QString layers =
+        QStringLiteral("lowerdir=%1,upperdir=%2/upper,workdir=%2/work").arg(path("lower"), m_volume.path());
+    if (runProgram(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("overlay"),
+                                             QStringLiteral("none"), QStringLiteral("-o"), layers, top})
+            .code != 0) {
+        QSKIP("an overlay file system can't be mounted here");
+    }
+    const ErrorCodes result = moveFileToTrash(top + QStringLiteral("/a"));
+    const QByteArray kept = FileTree::read(top + QStringLiteral("/.Trash-0/files/a"));
+    QCOMPARE(runProgram(QStringLiteral("umount"), {QStringLiteral("-l"), top}).code, 0);
+    QCOMPARE(result, FileOperationSucceeded);
+    QCOMPARE(kept, QByteArray("content"));
 }
 
 void TrashTest::anotherFileSystem()

@@ -61,8 +61,9 @@ UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QFileInfo& a, const QFileInfo& 
 ///
 /// \par Systems
 /// On Windows a file can be moved to another drive, a folder cannot; renaming to the same name succeeds.
-/// On Unix both can be moved across file systems: the content is copied beside the target, with its times and
-/// permissions, and the target appears complete; then the source is removed. If the source can't be removed,
+/// On Unix both can be moved across file systems: the content is copied beside the target, and the target appears
+/// complete; then the source is removed. Times, permissions, holes and hard links among the moved files are kept,
+/// extended attributes and the owner as far as the target and the rights of the user allow it. If the source can't be removed,
 /// the call fails: the copy of a file is removed again, the copy of a folder stays.
 ///
 /// \par Blocking
@@ -76,13 +77,35 @@ UTILSDLL_EXPORT bool renameFile(const QString& from, const QString& to);
 /// Moves a file or a folder to the recycle bin, without asking.
 ///
 /// \par Systems
-/// On Windows the path is passed to the shell unchanged. Use a full path with backslashes: the shell deletes a
-/// file named by a relative path permanently. On Unix the file goes to the desktop's trash: that of the user,
-/// or that of the file system which holds the file. Every program that supports the freedesktop.org layout can
-/// restore it. If the file system offers no trash, the file is copied into the user's own.
+/// On Windows the path is passed to the shell unchanged. **Windows deletes permanently, without asking**, a file
+/// that is named by a relative path, that lies on a network share or a drive without a recycle bin, or that is
+/// larger than the bin or has a name too long for it. Use a full path with backslashes.
+///
+/// On Unix the file goes to the desktop's trash: that of the user, or that of the file system which holds the
+/// file. Every program that supports the freedesktop.org layout can restore it. If the file system offers no
+/// trash, the file is copied into the user's own.
 /// \return FileOperationSucceeded, or FileOperationFailed if there is no such file or the system refuses. A
 ///         refusal is logged.
 UTILSDLL_EXPORT ErrorCodes moveFileToTrash(const QString& path);
+
+/// Where a file went that was moved to the recycle bin.
+struct UTILSDLL_EXPORT TrashReceipt {
+    bool isTrashed = false; ///< whether the file was moved
+    QString originalPath;   ///< where it was: an absolute path
+    QString trashPath;      ///< where it is; empty if the system does not report it
+};
+
+/// moveFileToTrash() with a receipt for restore(). The path may be relative.
+///
+/// \par Systems
+/// On Windows an empty trashPath after a success means that the shell did not report the place, as Wine does, or
+/// that it deleted the file permanently (see moveFileToTrash()).
+UTILSDLL_EXPORT TrashReceipt trash(const QString& path);
+
+/// Moves a file or a folder from the recycle bin back to where it was. Creates missing folders, never replaces
+/// an existing file, and removes the entry of the bin. Blocks as renameFile() does.
+/// \return whether the file was moved; false also for a receipt without a place
+UTILSDLL_EXPORT bool restore(const TrashReceipt& receipt);
 
 /// Deletes all files in a folder and below it. The folders stay.
 ///

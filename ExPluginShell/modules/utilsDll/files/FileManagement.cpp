@@ -104,6 +104,19 @@ QString nativeCleanPath(const QString& path)
     return QDir::toNativeSeparators(QDir::cleanPath(path));
 }
 
+bool movedToTrash(const QString& path, QString* place)
+{
+    if (!QFileInfo::exists(path)) {
+        return false;
+    }
+    if (Platform::moveToRecycleBin(path, place)) {
+        return true;
+    }
+    UTILSDLL_LOG(LogLevel::Error, "TOLVAN_NAMESPACE::moveFileToTrash")
+        << "the recycle bin does not take " << path;
+    return false;
+}
+
 /// \return the result of the entry handled last; false if there was none
 bool removeEntries(Platform::FolderContent folder)
 {
@@ -149,15 +162,21 @@ bool renameFile(const QString& from, const QString& to)
 
 ErrorCodes moveFileToTrash(const QString& path)
 {
-    if (!QFileInfo::exists(path)) {
-        return FileOperationFailed;
-    }
-    if (!Platform::moveToRecycleBin(path)) {
-        UTILSDLL_LOG(LogLevel::Error, "TOLVAN_NAMESPACE::moveFileToTrash")
-            << "the recycle bin does not take " << path;
-        return FileOperationFailed;
-    }
-    return FileOperationSucceeded;
+    return movedToTrash(path, nullptr) ? FileOperationSucceeded : FileOperationFailed;
+}
+
+TrashReceipt trash(const QString& path)
+{
+    TrashReceipt receipt;
+    receipt.originalPath = QFileInfo(path).absoluteFilePath();
+    receipt.isTrashed = movedToTrash(QDir::toNativeSeparators(receipt.originalPath), &receipt.trashPath);
+    return receipt;
+}
+
+bool restore(const TrashReceipt& receipt)
+{
+    return !receipt.trashPath.isEmpty() &&
+           Platform::restoreFromRecycleBin(receipt.trashPath, receipt.originalPath);
 }
 
 bool removeDirectoryContent(const QDir& dir)

@@ -1,5 +1,7 @@
 #include "platform/FileMoves.h"
 
+#include "platform/TreeCopy.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -67,40 +69,6 @@ bool renameInPlace(const fs::path& from, const fs::path& to)
     return (errno == EINVAL || errno == ENOSYS) && renameByClaim(from, to);
 }
 
-/// The content has to be on the disk before the only other copy is deleted.
-void flushToDisk(const fs::path& path)
-{
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file >= 0) {
-        fsync(file);
-        close(file);
-    }
-}
-
-/// \throws fs::filesystem_error, also for what can't be copied (sockets, devices)
-void copyTree(const fs::path& from, const fs::path& to)
-{
-    const fs::file_status status = fs::symlink_status(from);
-    if (fs::is_symlink(status)) {
-        fs::copy_symlink(from, to);
-        return;
-    }
-    if (fs::is_directory(status)) {
-        fs::create_directory(to);
-        for (const fs::directory_entry& entry : fs::directory_iterator(from)) {
-            copyTree(entry.path(), to / entry.path().filename());
-        }
-        fs::permissions(to, status.permissions());
-    } else if (fs::is_regular_file(status)) {
-        fs::copy_file(from, to);
-        flushToDisk(to);
-    } else {
-        throw fs::filesystem_error("not a file or folder", from,
-                                   std::make_error_code(std::errc::not_supported));
-    }
-    fs::last_write_time(to, fs::last_write_time(from));
-}
-
 /// The content of a read-only folder could not be removed.
 void makeRemovable(const fs::path& folder)
 {
@@ -126,13 +94,8 @@ bool moveByCopying(const QString& from, const QString& to)
     if (!beside.isValid()) {
         return false;
     }
-    bool moved = false;
-    try {
-        const fs::path copy = systemPath(beside.path()) / "content";
-        copyTree(source, copy);
-        moved = renameInPlace(copy, target);
-    } catch (const fs::filesystem_error&) {
-    }
+    const fs::path copy = systemPath(beside.path()) / "content";
+    const bool moved = TreeCopy().copy(source, copy) && renameInPlace(copy, target);
     if (!moved) {
         makeRemovable(systemPath(beside.path()));
         return false;

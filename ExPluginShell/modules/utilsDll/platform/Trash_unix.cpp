@@ -23,6 +23,7 @@ namespace
 {
 
 constexpr int longestFileName = 255;
+const QLatin1String infoSuffix(".trashinfo");
 
 struct TrashFolder {
     QString path;
@@ -58,11 +59,14 @@ bool prepare(const TrashFolder& trash)
 std::optional<TrashFolder> trashOfUser()
 {
     const QString data = knownFolder(KnownFolder::LocalAppData);
-    const TrashFolder trash{data + QStringLiteral("/Trash"), {}};
-    if (data.isEmpty() || !QDir().mkpath(data) || !prepare(trash)) {
+    if (data.isEmpty() || !QDir().mkpath(data)) {
         return std::nullopt;
     }
-    return trash;
+    // The desktops accept a link to another folder of the user here.
+    const QString given = data + QStringLiteral("/Trash");
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const TrashFolder trash{real.isEmpty() ? given : real, {}};
+    return prepare(trash) ? std::make_optional(trash) : std::nullopt;
 }
 
 /// The highest folder above \a folder that is still on the same file system.
@@ -115,7 +119,7 @@ QByteArray nameInTrash(const QByteArray& fileName, int attempt)
     const QByteArray number = attempt == 1 ? QByteArray() : '.' + QByteArray::number(attempt);
     const int dot = fileName.lastIndexOf('.');
     const QByteArray base = dot > 0 ? fileName.left(dot) : fileName;
-    const int room = longestFileName - static_cast<int>(sizeof ".trashinfo") - number.size();
+    const int room = longestFileName - infoSuffix.size() - 1 - number.size();
     const QByteArray suffix = shortened(fileName.mid(base.size()), qMax(room / 2, room - base.size()));
     return shortened(base, room - suffix.size()) + number + suffix;
 }
@@ -144,14 +148,14 @@ bool claimName(const QString& infoFile, const QByteArray& text, bool& taken)
     return written && closed;
 }
 
-bool moveInto(const TrashFolder& trash, const QString& folder, const QString& fileName)
+bool moveInto(const TrashFolder& trash, const QString& folder, const QString& fileName, QString* place)
 {
     const QString path = QDir(folder).filePath(fileName);
     const QByteArray text =
         infoText(trash.pathsRelativeTo.isEmpty() ? path : QDir(trash.pathsRelativeTo).relativeFilePath(path));
     for (int attempt = 1; attempt < 100000; ++attempt) {
         const QString name = QFile::decodeName(nameInTrash(QFile::encodeName(fileName), attempt));
-        const QString infoFile = trash.path + QStringLiteral("/info/") + name + QStringLiteral(".trashinfo");
+        const QString infoFile = trash.path + QStringLiteral("/info/") + name + infoSuffix;
         bool taken = false;
         if (!claimName(infoFile, text, taken)) {
             if (taken) {
@@ -161,6 +165,9 @@ bool moveInto(const TrashFolder& trash, const QString& folder, const QString& fi
         }
         const QString target = trash.path + QStringLiteral("/files/") + name;
         if (moveWithoutReplacing(path, target)) {
+            if (place) {
+                *place = target;
+            }
             return true;
         }
         QFile::remove(infoFile);
@@ -173,23 +180,35 @@ bool moveInto(const TrashFolder& trash, const QString& folder, const QString& fi
 
 } // namespace
 
-bool moveToRecycleBin(const QString& path)
+bool moveToRecycleBin(const QString& path, QString* place)
 {
     const QFileInfo file(QDir::cleanPath(path));
     const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
-    const auto status = statusOf(file.absoluteFilePath());
+    // The folder decides: on overlay file systems a file may report another device than the folder it lies in.
+    const auto status = statusOf(folder);
     const auto home = trashOfUser();
     const auto homeStatus = home ? statusOf(home->path) : std::nullopt;
-    if (!status || !homeStatus || folder.isEmpty() || file.fileName().isEmpty()) {
+    if (!status || !homeStatus || file.fileName().isEmpty()) {
         return false;
     }
     if (homeStatus->st_dev != status->st_dev) {
         const auto other = trashOfFileSystem(topFolder(folder, status->st_dev));
-        if (other && moveInto(*other, folder, file.fileName())) {
+        if (other && moveInto(*other, folder, file.fileName(), place)) {
             return true;
         }
     }
-    return moveInto(*home, folder, file.fileName());
+    return moveInto(*home, folder, file.fileName(), place);
+}
+
+bool restoreFromRecycleBin(const QString& place, const QString& path)
+{
+    const QFileInfo file(place);
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (!moveWithoutReplacing(place, path)) {
+        return false;
+    }
+    QFile::remove(QDir::cleanPath(file.path() + QStringLiteral("/../info/") + file.fileName() + infoSuffix));
+    return true;
 }
 
 } // namespace TOLVAN_NAMESPACE::Platform
