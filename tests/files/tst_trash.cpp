@@ -158,11 +158,11 @@ void TrashTest::receipt()
 
 void TrashTest::linkInPlaceOfTheBin()
 {
-    QVERIFY(QDir().mkpath(path("elsewhere")) && QDir().mkpath(QFileInfo(bin()).path()));
-    QVERIFY(QFile::link(path("elsewhere"), bin()));
+    QVERIFY(QDir().mkpath(path("target")) && QDir().mkpath(QFileInfo(bin()).path()));
+    QVERIFY(QFile::link(path("target"), bin()));
     QCOMPARE(moveFileToTrash(FileTree::write(path("a"), "content")), FileOperationSucceeded);
     QVERIFY(QFile::remove(bin()));
-    QCOMPARE(FileTree::read(path("elsewhere/files/a")), QByteArray("content"));
+    QCOMPARE(FileTree::read(path("target/files/a")), QByteArray("content"));
 }
 
 /// Files report the device of their layer there, not that of their folder.
