@@ -13,7 +13,7 @@ cd "$work"
 python3 - <<'PYTHON'
 import array, os, random
 random.seed(1)
-os.makedirs("big"); os.makedirs("small")
+os.makedirs("big"); os.makedirs("small"); os.makedirs("many")
 words = [bytes(random.choices(b"abcdefghijklmnopqrstuvwxyz", k=random.randint(2, 9))) for _ in range(3000)]
 for i in range(10):  # photographs: no longer compressible
     open(f"big/photo{i}.jpg", "wb").write(random.randbytes(8 << 20))
@@ -21,8 +21,9 @@ for i in range(10):  # photographs: no longer compressible
 for i in range(3):  # raw data: a slow ramp with noise in the low bits
     open(f"big/raw{i}.raw", "wb").write(
         array.array("H", ((j >> 6) + random.getrandbits(5) & 0x3FFF for j in range(10 << 20))).tobytes())
-for i in range(20000):
-    open(f"small/f{i:05}.txt", "wb").write(b" ".join(random.choices(words, k=random.randint(50, 400))))
+for folder, count in (("small", 20000), ("many", 50000)):
+    for i in range(count):
+        open(f"{folder}/f{i:05}.txt", "wb").write(b" ".join(random.choices(words, k=random.randint(50, 400))))
 PYTHON
 
 make_tree() {
@@ -61,7 +62,7 @@ report() {
     printf '\n'
 }
 
-for kind in big small; do
+for kind in big small many; do
     for _ in 1 2 3 4 5; do
         rm -f ./*.zip
         measure ours "$tool" pack ours.zip "$kind"
