@@ -7,9 +7,23 @@
 namespace
 {
 
-constexpr int keptLines = 500;
+constexpr int keptLines = 2000;
+
+/// "function: text", where a function name has no blank.
+LogLine parsed(char level, const QString& line)
+{
+    const int colon = line.indexOf(QLatin1String(": "));
+    const bool hasFunction = colon > 0 && line.lastIndexOf(QLatin1Char(' '), colon - 1) < 0;
+    return {QTime::currentTime(), level, hasFunction ? line.left(colon) : QString(),
+            hasFunction ? line.mid(colon + 2) : line};
+}
 
 } // namespace
+
+LiveLog::LiveLog()
+{
+    qRegisterMetaType<LogLine>();
+}
 
 LiveLog& LiveLog::instance()
 {
@@ -31,7 +45,7 @@ void LiveLog::init(const std::string& folder, const std::string& name, char leve
 
 void LiveLog::log(char level, const char* text)
 {
-    const QString line = QLatin1Char(level) + QStringLiteral("  ") + QString::fromUtf8(text);
+    const LogLine line = parsed(level, QString::fromUtf8(text));
     {
         const QMutexLocker lock(&m_mutex);
         m_lines += line;
@@ -45,7 +59,7 @@ void LiveLog::log(char level, const char* text)
     Q_EMIT lineAdded(line);
 }
 
-QStringList LiveLog::lines() const
+QVector<LogLine> LiveLog::lines() const
 {
     const QMutexLocker lock(&m_mutex);
     return m_lines;

@@ -4,7 +4,16 @@
 
 #include <QMutex>
 #include <QObject>
-#include <QStringList>
+#include <QTime>
+#include <QVector>
+
+/// One line of the log.
+struct LogLine {
+    QTime time;
+    char level = 'D';
+    QString function; ///< empty if the text does not begin with one
+    QString text;
+};
 
 /// The host's own logger: keeps the last lines for the logging page and passes every line on to the product's
 /// logger library, where that is found. Thread-safe; lives as long as the process.
@@ -20,17 +29,19 @@ public:
     void init(const std::string& folder, const std::string& name, char level) override;
     void log(char level, const char* text) override;
 
-    /// The last lines, oldest first, each "level text".
-    QStringList lines() const;
+    /// The last lines, oldest first.
+    QVector<LogLine> lines() const;
 
 Q_SIGNALS:
     /// A line came in. Emitted in the thread that logged.
-    void lineAdded(const QString& line);
+    void lineAdded(const LogLine& line);
 
 private:
-    LiveLog() = default;
+    LiveLog();
 
     mutable QMutex m_mutex;
-    QStringList m_lines;
+    QVector<LogLine> m_lines;
     ILoggerInterface* m_file = nullptr;
 };
+
+Q_DECLARE_METATYPE(LogLine)

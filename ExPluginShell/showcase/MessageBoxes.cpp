@@ -50,8 +50,8 @@ const QVector<MessageBoxCall>& messageBoxCalls()
         {"rotate", QT_TRANSLATE_NOOP("MessageBoxes", "Rotate"),
          QT_TRANSLATE_NOOP("MessageBoxes", "The camera was held upright. Do you want to rotate the picture?"),
          [](QWidget* parent, const QString& text, int height) {
-             return CMessageBox::rotateQuestion(parent, text, height) ? QStringLiteral("true")
-                                                                      : QStringLiteral("false");
+             return CMessageBox::rotateQuestion(parent, text, height) ? QStringLiteral("Rotate")
+                                                                      : QStringLiteral("Cancel");
          }},
         {"quit", QT_TRANSLATE_NOOP("MessageBoxes", "Quit during work"),
          QT_TRANSLATE_NOOP("MessageBoxes",

@@ -3,83 +3,193 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRandomGenerator>
+#include <QTransform>
 
 #include <cmath>
+#include <vector>
 
 namespace
 {
 
-constexpr double horizon = 0.62; // parts of the height
+// The scene is painted upright and level on 1500 x 1000 units, then photographed at a tilt.
+constexpr double sceneWidth = 1500.0;
+constexpr double sceneHeight = 1060.0;
+constexpr double quay = 760.0; // where the houses stand
+constexpr double tilt = 2.4;   // degrees by which the camera was turned
+constexpr double lean = 0.085; // part of the width by which each upright edge falls inwards at the top
 
-void paintSky(QPainter& painter, double width, double height)
+void paintSky(QPainter& painter)
 {
-    QLinearGradient sky(0, 0, 0, height * horizon);
-    sky.setColorAt(0.0, QColor(38, 56, 92));
-    sky.setColorAt(0.55, QColor(148, 132, 158));
-    sky.setColorAt(0.85, QColor(236, 172, 132));
-    sky.setColorAt(1.0, QColor(250, 208, 150));
-    painter.fillRect(QRectF(0, 0, width, height * horizon), sky);
-    QRadialGradient sun(width * 0.68, height * 0.50, width * 0.22);
-    sun.setColorAt(0.0, QColor(255, 244, 214, 255));
-    sun.setColorAt(0.14, QColor(255, 236, 190, 235));
-    sun.setColorAt(0.20, QColor(255, 214, 150, 120));
+    QLinearGradient sky(0, 0, 0, quay);
+    sky.setColorAt(0.0, QColor(30, 58, 104));
+    sky.setColorAt(0.45, QColor(96, 124, 168));
+    sky.setColorAt(0.78, QColor(226, 176, 148));
+    sky.setColorAt(1.0, QColor(252, 214, 160));
+    painter.fillRect(QRectF(-400, -400, sceneWidth + 800, quay + 400), sky);
+    QRadialGradient sun(1130, 640, 520);
+    sun.setColorAt(0.0, QColor(255, 240, 205, 230));
+    sun.setColorAt(0.25, QColor(255, 214, 150, 110));
     sun.setColorAt(1.0, QColor(255, 190, 130, 0));
-    painter.fillRect(QRectF(0, 0, width, height * horizon), sun);
-}
-
-/// A ridge of sums of sines, from far and pale to near and dark.
-QPainterPath ridge(double width, double base, double relief, double phase)
-{
-    constexpr double step = 2.0;
-    QPainterPath path(QPointF(0, base));
-    for (double x = 0; x <= width + step; x += step) {
-        const double t = x / width * 6.283 + phase;
-        const double y = std::sin(t) + 0.5 * std::sin(2.3 * t + 1.0) + 0.24 * std::sin(5.1 * t + phase) +
-                         0.10 * std::sin(11.7 * t) + 0.04 * std::sin(29.0 * t + 2.0);
-        path.lineTo(x, base - relief * (1.15 + 0.6 * y));
+    painter.fillRect(QRectF(0, 0, sceneWidth, quay), sun);
+    QRandomGenerator random(7);
+    painter.setPen(Qt::NoPen);
+    for (int cloud = 0; cloud < 9; ++cloud) {
+        const QPointF middle(random.bounded(sceneWidth), 90 + random.bounded(330));
+        for (int puff = 0; puff < 11; ++puff) {
+            const double across = 60 + random.bounded(150);
+            painter.setBrush(QColor(255, 232, 214, 9));
+            painter.drawEllipse(middle + QPointF(random.bounded(240) - 120, random.bounded(24) - 12), across,
+                                across * 0.12);
+        }
     }
-    path.lineTo(width, base);
-    path.closeSubpath();
-    return path;
 }
 
-void paintMountains(QPainter& painter, double width, double height)
+void paintHills(QPainter& painter)
 {
     const struct {
-        double relief;
+        double height;
         double phase;
-        QColor top;
-        QColor foot;
-    } ridges[] = {
-        {0.17, 0.4, {128, 122, 156}, {206, 164, 152}},
-        {0.11, 2.1, {86, 90, 126}, {150, 128, 140}},
-        {0.06, 4.0, {44, 52, 78}, {82, 80, 104}},
-    };
-    const double base = height * horizon;
+        QColor color;
+    } ridges[] = {{120, 0.4, {136, 138, 166}}, {74, 2.2, {96, 104, 136}}};
     for (const auto& entry : ridges) {
-        QLinearGradient slope(0, base - height * entry.relief * 2.0, 0, base);
-        slope.setColorAt(0.0, entry.top);
-        slope.setColorAt(1.0, entry.foot);
-        painter.fillPath(ridge(width, base, height * entry.relief, entry.phase), slope);
+        QPainterPath ridge(QPointF(-400, quay));
+        for (double x = -400; x <= sceneWidth + 400; x += 6) {
+            const double t = x / 210 + entry.phase;
+            ridge.lineTo(x, quay - entry.height * (1.1 + 0.5 * std::sin(t) + 0.22 * std::sin(2.7 * t)));
+        }
+        ridge.lineTo(sceneWidth + 400, quay);
+        painter.fillPath(ridge, entry.color);
     }
 }
 
-/// The lake mirrors what is above it, darker and drawn out by ripples.
-void paintLake(QImage& image)
+void paintWindows(QPainter& painter, const QRectF& wall, int columns, int rows, QRandomGenerator& random)
 {
-    const int shore = static_cast<int>(image.height() * horizon);
-    for (int y = shore; y < image.height(); ++y) {
-        const double depth = static_cast<double>(y - shore) / (image.height() - shore);
-        const double ripple = 1.0 + 5.0 * depth;
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const double wave = std::sin(y * 0.9 + std::sin(x * 0.011) * 3.0) * ripple;
-            const int mirrored = shore - 1 - static_cast<int>((y - shore) * 0.92 + wave);
-            const QRgb above = image.pixel(x, qBound(0, mirrored, shore - 1));
-            const double dim = 0.82 - 0.42 * depth;
+    const double stepX = wall.width() / columns;
+    const double stepY = (wall.height() - 70) / rows;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const QRectF window(wall.x() + stepX * (column + 0.28), wall.y() + 20 + stepY * (row + 0.18),
+                                stepX * 0.44, stepY * 0.6);
+            const bool lit = random.bounded(100) < 22;
+            painter.fillRect(window.adjusted(-3, -3, 3, 5), QColor(240, 232, 218, 190));
+            QLinearGradient glass(window.topLeft(), window.bottomRight());
+            glass.setColorAt(0, lit ? QColor(255, 222, 150) : QColor(58, 70, 92));
+            glass.setColorAt(1, lit ? QColor(240, 170, 90) : QColor(112, 126, 148));
+            painter.fillRect(window, glass);
+            painter.fillRect(QRectF(window.center().x() - 1, window.y(), 2, window.height()),
+                             QColor(240, 232, 218));
+            painter.fillRect(QRectF(window.x(), window.y() + window.height() * 0.4, window.width(), 2),
+                             QColor(240, 232, 218));
+        }
+    }
+}
+
+void paintHouse(QPainter& painter, const QRectF& wall, const QColor& color, int gable,
+                QRandomGenerator& random)
+{
+    QLinearGradient light(wall.topLeft(), wall.topRight());
+    light.setColorAt(0, color.darker(122));
+    light.setColorAt(1, color.lighter(104));
+    painter.fillRect(wall, light);
+    QPainterPath roof;
+    if (gable == 0) { // a pointed gable
+        roof.moveTo(wall.left() - 6, wall.top());
+        roof.lineTo(wall.center().x(), wall.top() - wall.width() * 0.55);
+        roof.lineTo(wall.right() + 6, wall.top());
+    } else if (gable == 1) { // a stepped one
+        const double step = wall.width() / 9;
+        roof.moveTo(wall.left(), wall.top());
+        for (int i = 0; i < 4; ++i) {
+            roof.lineTo(wall.left() + step * i, wall.top() - step * (i + 1));
+            roof.lineTo(wall.left() + step * (i + 1), wall.top() - step * (i + 1));
+        }
+        for (int i = 4; i > 0; --i) {
+            roof.lineTo(wall.right() - step * i, wall.top() - step * i);
+            roof.lineTo(wall.right() - step * (i - 1), wall.top() - step * i);
+        }
+        roof.lineTo(wall.right(), wall.top());
+    } else { // a hipped roof
+        roof.moveTo(wall.left() - 8, wall.top());
+        roof.lineTo(wall.left() + wall.width() * 0.2, wall.top() - 66);
+        roof.lineTo(wall.right() - wall.width() * 0.2, wall.top() - 66);
+        roof.lineTo(wall.right() + 8, wall.top());
+    }
+    roof.closeSubpath();
+    painter.fillPath(roof, gable == 1 ? color.darker(106) : QColor(112, 62, 52));
+    paintWindows(painter, wall, std::max(2, int(wall.width() / 52)), std::max(3, int(wall.height() / 92)),
+                 random);
+    painter.fillRect(QRectF(wall.center().x() - 17, wall.bottom() - 58, 34, 58), QColor(66, 44, 38));
+    painter.fillRect(QRectF(wall.left(), wall.top(), wall.width(), 7), QColor(245, 236, 220, 180));
+}
+
+void paintTower(QPainter& painter, const QRectF& wall)
+{
+    QLinearGradient light(wall.topLeft(), wall.topRight());
+    light.setColorAt(0, QColor(122, 104, 92));
+    light.setColorAt(1, QColor(206, 178, 148));
+    painter.fillRect(wall, light);
+    for (double y = wall.top() + 150; y < wall.bottom() - 40; y += 118) {
+        painter.fillRect(QRectF(wall.left() - 5, y, wall.width() + 10, 8), QColor(232, 214, 188));
+        painter.fillRect(QRectF(wall.center().x() - 11, y + 34, 22, 52), QColor(56, 52, 58));
+    }
+    painter.setBrush(QColor(244, 238, 224));
+    painter.setPen(QPen(QColor(72, 60, 52), 5));
+    const QPointF clock(wall.center().x(), wall.top() + 74);
+    painter.drawEllipse(clock, 38, 38);
+    painter.drawLine(clock, clock + QPointF(0, -28));
+    painter.drawLine(clock, clock + QPointF(19, 9));
+    QPainterPath spire(QPointF(wall.left() - 12, wall.top()));
+    spire.lineTo(wall.center().x(), wall.top() - 178);
+    spire.lineTo(wall.right() + 12, wall.top());
+    spire.closeSubpath();
+    painter.fillPath(spire, QColor(66, 96, 98));
+}
+
+void paintTown(QPainter& painter)
+{
+    QRandomGenerator random(1839);
+    const QColor colors[] = {{186, 96, 74},   {222, 178, 112}, {150, 84, 70},   {206, 196, 176},
+                             {122, 132, 126}, {198, 134, 90},  {214, 202, 170}, {160, 102, 86}};
+    double x = -210;
+    for (int house = 0; x < sceneWidth + 200; ++house) {
+        const double width = 118 + random.bounded(70);
+        const double height = 250 + random.bounded(150);
+        paintHouse(painter, QRectF(x, quay - height, width, height), colors[house % 8], house % 3, random);
+        x += width + 1;
+        if (house == 5) {
+            paintTower(painter, QRectF(x, quay - 560, 128, 560));
+            x += 129;
+        }
+    }
+    painter.fillRect(QRectF(-400, quay - 6, sceneWidth + 800, 26), QColor(92, 84, 80));
+    painter.fillRect(QRectF(-400, quay + 8, sceneWidth + 800, 22), QColor(58, 54, 56));
+}
+
+/// The water mirrors the town, darker and drawn out by ripples.
+void paintWater(QImage& scene, double scale)
+{
+    const int shore = int((quay + 28) * scale);
+    const int width = scene.width();
+    std::vector<double> sine(width);
+    std::vector<double> cosine(width);
+    for (int x = 0; x < width; ++x) {
+        const double phase = std::sin(x / scale * 0.02) * 2.5;
+        sine[x] = std::sin(phase);
+        cosine[x] = std::cos(phase);
+    }
+    for (int y = shore; y < scene.height(); ++y) {
+        const double depth = double(y - shore) / (scene.height() - shore);
+        const double height = (1.5 + 9.0 * depth) * scale;
+        const double rise = std::sin(y / scale * 0.75) * height;
+        const double fall = std::cos(y / scale * 0.75) * height;
+        const int dim = int((0.74 - 0.3 * depth) * 256);
+        const double mirror = shore - 30 * scale - (y - shore) * 1.9;
+        auto* const line = reinterpret_cast<QRgb*>(scene.scanLine(y));
+        for (int x = 0; x < width; ++x) { // a sine of a sum
+            const int row = qBound(0, int(mirror - rise * cosine[x] - fall * sine[x]), shore - 1);
+            const QRgb above = reinterpret_cast<const QRgb*>(scene.constScanLine(row))[x];
             line[x] =
-                qRgb(static_cast<int>(qRed(above) * dim * 0.92), static_cast<int>(qGreen(above) * dim * 0.97),
-                     static_cast<int>(qBlue(above) * dim));
+                qRgb(qRed(above) * dim * 220 >> 16, qGreen(above) * dim * 246 >> 16, qBlue(above) * dim >> 8);
         }
     }
 }
@@ -87,34 +197,67 @@ void paintLake(QImage& image)
 /// Darker corners and the grain of a sensor.
 void develop(QImage& image)
 {
-    QRandomGenerator random(1839);
+    quint32 noise = 1839;
     for (int y = 0; y < image.height(); ++y) {
         auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const double dy = 2.0 * y / image.height() - 1.0;
         for (int x = 0; x < image.width(); ++x) {
             const double dx = 2.0 * x / image.width() - 1.0;
-            const double dy = 2.0 * y / image.height() - 1.0;
-            const double light = 1.0 - 0.16 * (dx * dx + dy * dy);
-            const int grain = static_cast<int>(random.bounded(13)) - 6;
-            const auto channel = [&](int value) {
-                return qBound(0, static_cast<int>(value * light) + grain, 255);
-            };
+            const int light = int(256 - 40 * (dx * dx + dy * dy));
+            noise = noise * 1664525 + 1013904223;
+            const int grain = int(noise >> 29) - 4;
+            const auto channel = [&](int value) { return qBound(0, (value * light >> 8) + grain, 255); };
             line[x] = qRgb(channel(qRed(line[x])), channel(qGreen(line[x])), channel(qBlue(line[x])));
         }
     }
+}
+
+/// From the scene to a picture of \a size: uprights converge, as with a camera pointed upwards, and the
+/// horizon leans.
+QTransform throughTheLens(const QSizeF& size)
+{
+    const double margin = 110; // of the scene, never in the picture
+    const QPolygonF frame{QVector<QPointF>{{margin, 0},
+                                           {sceneWidth - margin, 0},
+                                           {sceneWidth - margin, sceneHeight - 60},
+                                           {margin, sceneHeight - 60}}};
+    const QPolygonF seen{QVector<QPointF>{{size.width() * lean, 0},
+                                          {size.width() * (1 - lean), 0},
+                                          {size.width() * 1.02, size.height()},
+                                          {-size.width() * 0.02, size.height()}}};
+    QTransform keystone;
+    QTransform::quadToQuad(frame, seen, keystone);
+    QTransform turn;
+    turn.translate(size.width() / 2, size.height() / 2);
+    turn.rotate(tilt);
+    turn.scale(1.08, 1.08);
+    turn.translate(-size.width() / 2, -size.height() / 2);
+    return keystone * turn;
 }
 
 } // namespace
 
 QImage paintedPhoto(const QSize& size)
 {
-    QImage image(size.expandedTo({8, 8}), QImage::Format_RGB32);
+    const QSize least = size.expandedTo({8, 8});
+    const double scale = std::max(least.width() / sceneWidth, least.height() / sceneHeight);
+    QImage scene(QSize(int(sceneWidth * scale) + 1, int(sceneHeight * scale) + 1), QImage::Format_RGB32);
     {
-        QPainter painter(&image);
+        QPainter painter(&scene);
         painter.setRenderHint(QPainter::Antialiasing);
-        paintSky(painter, image.width(), image.height());
-        paintMountains(painter, image.width(), image.height());
+        painter.scale(scale, scale);
+        paintSky(painter);
+        paintHills(painter);
+        paintTown(painter);
     }
-    paintLake(image);
-    develop(image);
-    return image;
+    paintWater(scene, scale);
+    QImage photo(least, QImage::Format_RGB32);
+    photo.fill(QColor(30, 58, 104));
+    QPainter painter(&photo);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setTransform(QTransform::fromScale(1 / scale, 1 / scale) * throughTheLens(least));
+    painter.drawImage(0, 0, scene);
+    painter.end();
+    develop(photo);
+    return photo;
 }

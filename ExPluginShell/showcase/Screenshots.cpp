@@ -2,6 +2,7 @@
 
 #include "MessageBoxes.h"
 #include "pages/Pages.h"
+#include "pages/PageWidget.h"
 #include "ShowcaseWindow.h"
 #include "StoredLanguage.h"
 
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
+#include <QProcess>
 #include <QTableView>
 #include <QTextStream>
 #include <QTimer>
@@ -21,7 +23,8 @@
 namespace
 {
 
-constexpr QSize windowSize(1080, 720);
+constexpr QSize windowSize(1280, 800);
+constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 /// Suppresses the offscreen platform's warning about size hints.
 class QuietPlatform
@@ -61,6 +64,10 @@ bool writePages(const QDir& folder)
     int number = 0;
     for (const Page& page : pages()) {
         window.showPage(number);
+        QApplication::processEvents();
+        if (auto* const shown = qobject_cast<PageWidget*>(window.currentPage())) {
+            shown->prepareForPicture();
+        }
         QApplication::processEvents();
         const QString name =
             QStringLiteral("%1-%2").arg(++number, 2, 10, QLatin1Char('0')).arg(QLatin1String(page.name));
@@ -134,6 +141,12 @@ bool writeScreenshots(const QString& folder)
         ok = writePages(QDir(root.filePath(language))) && ok;
         ok = writeDialogs(QDir(root.filePath(language))) && ok;
         ok = writeWholePage(root, QStringLiteral("style-") + language) && ok;
+    }
+    if (!qEnvironmentVariableIsSet(scaleVariable)) { // once more at double size, in a process of its own
+        qputenv(scaleVariable, "2");
+        const QStringList arguments{QStringLiteral("--screenshots"), root.filePath(QStringLiteral("2x"))};
+        ok = QProcess::execute(QCoreApplication::applicationFilePath(), arguments) == 0 && ok;
+        qunsetenv(scaleVariable);
     }
     QTextStream(stdout) << "Pictures of the showcase: " << QDir::toNativeSeparators(root.absolutePath())
                         << '\n';

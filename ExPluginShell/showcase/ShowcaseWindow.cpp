@@ -1,5 +1,6 @@
 #include "ShowcaseWindow.h"
 
+#include "CodeSample.h"
 #include "pages/Pages.h"
 
 #include <utilsDll/controls/IconViewer.h>
@@ -13,6 +14,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -26,12 +29,16 @@ namespace
 
 const QString geometryKey = QStringLiteral("showcase/geometry");
 const QString pageKey = QStringLiteral("showcase/page");
+constexpr int codeHeight = 176;
 
 /// What only this window has; everything else is the product's look.
 const char* const windowSheet = R"(
 #navigation { background-color: #18191B; }
 #pageList { background-color: transparent; border: none; font-size: 14px; outline: none; }
-#pageList::item { padding: 8px 10px; border-radius: 4px; }
+#pageList::item { padding: 6px 8px; border-radius: 4px; }
+#toolBar { background-color: #18191B; border-radius: 6px; }
+#toolBar QToolButton { padding: 6px; }
+#answer { color: #7FD9E8; }
 #productName { font-size: 18px; color: #FFFFFF; }
 #languageLabel, #pageSummary, #pageSubtitle { color: #A9AEB5; }
 #pageHeading { font-size: 26px; color: #FFFFFF; }
@@ -41,7 +48,7 @@ const char* const windowSheet = R"(
 
 QString translated(const char* text)
 {
-    return QCoreApplication::translate("Pages", text);
+    return *text ? QCoreApplication::translate("Pages", text) : QString();
 }
 
 } // namespace
@@ -69,12 +76,14 @@ QWidget* ShowcaseWindow::makeNavigation()
 {
     m_list = new QListWidget(this);
     m_list->setObjectName(QStringLiteral("pageList"));
+    m_list->setIconSize(QSize(20, 20));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* const panel = new QWidget(this);
     panel->setObjectName(QStringLiteral("navigation"));
-    panel->setFixedWidth(232);
+    panel->setFixedWidth(240);
     auto* const layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(16, 20, 16, 20);
-    layout->setSpacing(16);
+    layout->setContentsMargins(8, 16, 8, 16);
+    layout->setSpacing(12);
     layout->addWidget(makeProductName());
     layout->addWidget(m_list, 1);
     layout->addWidget(makeLanguageChoice());
@@ -90,7 +99,7 @@ QWidget* ShowcaseWindow::makeProductName()
     auto* const name = new QLabel(QStringLiteral("Trelio Frame"), row);
     name->setObjectName(QStringLiteral("productName"));
     auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(14, 0, 0, 0); // in line with the names of the pages
+    layout->setContentsMargins(6, 0, 0, 0); // in line with the icons of the pages
     layout->setSpacing(10);
     layout->addWidget(logo);
     layout->addWidget(name, 1);
@@ -130,24 +139,38 @@ QVBoxLayout* ShowcaseWindow::makePageArea()
     m_summary->setObjectName(QStringLiteral("pageSummary"));
     m_summary->setWordWrap(true);
     m_stack = new QStackedWidget(this);
+    m_codeButton = new QPushButton(this);
+    m_codeButton->setCheckable(true);
+    m_codeButton->setAutoDefault(false);
+    m_code = new QPlainTextEdit(this);
+    m_code->setObjectName(QStringLiteral("code"));
+    m_code->setReadOnly(true);
+    m_code->setTabChangesFocus(true);
+    m_code->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_code->setFixedHeight(codeHeight);
+    m_code->hide();
+    connect(m_codeButton, &QPushButton::toggled, m_code, &QWidget::setVisible);
+    auto* const head = new QHBoxLayout;
+    head->addWidget(m_heading, 1);
+    head->addWidget(m_codeButton);
     auto* column = new QVBoxLayout;
-    column->setContentsMargins(32, 20, 32, 24);
+    column->setContentsMargins(24, 14, 24, 18);
     column->setSpacing(8);
-    column->addWidget(m_heading);
+    column->addLayout(head);
     column->addWidget(m_summary);
-    column->addSpacing(12);
     column->addWidget(m_stack, 1);
+    column->addWidget(m_code);
     return column;
 }
 
 void ShowcaseWindow::addPages()
 {
     for (const Page& page : pages()) {
-        m_list->addItem(QString());
+        m_list->addItem(
+            new QListWidgetItem(QIcon(QStringLiteral(":/icons/") + QLatin1String(page.icon)), {}));
         auto* area = new QScrollArea(m_stack);
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
-        area->setWidget(page.make(area));
         m_stack->addWidget(area);
     }
 }
@@ -158,10 +181,25 @@ void ShowcaseWindow::showPage(int index)
         return;
     }
     const Page page = pages().at(index);
+    auto* const area = static_cast<QScrollArea*>(m_stack->widget(index));
+    if (!area->widget()) { // made when it is first shown
+        area->setWidget(page.make(area));
+    }
     m_list->setCurrentRow(index);
     m_stack->setCurrentIndex(index);
     m_heading->setText(translated(page.title));
     m_summary->setText(translated(page.summary));
+    m_summary->setVisible(*page.summary);
+    const QString code = codeSample(QString::fromLatin1(page.source));
+    m_codeButton->setVisible(!code.isEmpty());
+    m_codeButton->setChecked(!page.fillsWindow);
+    m_code->setPlainText(code);
+    m_code->setVisible(m_codeButton->isChecked() && !code.isEmpty());
+}
+
+QWidget* ShowcaseWindow::currentPage() const
+{
+    return static_cast<QScrollArea*>(m_stack->currentWidget())->widget();
 }
 
 void ShowcaseWindow::step(int rows)
@@ -175,6 +213,8 @@ void ShowcaseWindow::retranslate()
     setWindowTitle(tr("Trelio Frame – Showcase"));
     m_list->setAccessibleName(tr("Pages"));
     m_languageLabel->setText(tr("&Language"));
+    m_codeButton->setText(tr("Show the code"));
+    m_code->setAccessibleName(tr("Code of this page"));
     const auto all = pages();
     for (int i = 0; i < all.size(); ++i) {
         m_list->item(i)->setText(translated(all.at(i).title));
@@ -186,7 +226,7 @@ void ShowcaseWindow::restore()
 {
     CSettings settings;
     if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
-        resize(1080, 720);
+        resize(1280, 800);
     }
     const QString name = settings.value(pageKey).toString();
     const auto all = pages();

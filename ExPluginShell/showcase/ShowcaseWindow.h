@@ -5,6 +5,8 @@
 class QComboBox;
 class QLabel;
 class QListWidget;
+class QPlainTextEdit;
+class QPushButton;
 class QStackedWidget;
 class QVBoxLayout;
 
@@ -19,6 +21,8 @@ public:
 
     /// Shows the page in row \a index of pages().
     void showPage(int index);
+    /// The page in view.
+    QWidget* currentPage() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -41,6 +45,8 @@ private:
     QLabel* m_heading = nullptr;
     QLabel* m_summary = nullptr;
     QStackedWidget* m_stack = nullptr;
+    QPushButton* m_codeButton = nullptr;
+    QPlainTextEdit* m_code = nullptr;
     QLabel* m_languageLabel = nullptr;
     QComboBox* m_languages = nullptr;
 };

@@ -75,7 +75,7 @@ void ShowcaseWindowTest::nothingToComeBackTo()
     settings.setValue(QStringLiteral("showcase/geometry"), geometry);
     settings.setValue(QStringLiteral("showcase/page"), page);
     const ShowcaseWindow window;
-    QCOMPARE(window.size(), QSize(1080, 720));
+    QCOMPARE(window.size(), QSize(1280, 800));
     QCOMPARE(headingOf(window), QStringLiteral("First"));
 }
 

@@ -1,21 +1,29 @@
 #include "FilesPage.h"
 
-#include "FileWork.h"
 #include "Pages.h"
 
+#include <utilsDll/ArchiveJob.h>
 #include <utilsDll/FileManagement.h>
 #include <utilsDll/NativeDialogs.h>
+#include <utilsDll/ProgressBox.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+constexpr int fieldWidth = 340;
+
+} // namespace
 
 QWidget* makeFilesPage(QWidget* parent)
 {
@@ -27,85 +35,89 @@ FilesPage::FilesPage(QWidget* parent)
 {
     addNames();
     addArchive();
-    addFolderButtons();
+    addAnswer();
     column()->addStretch(1);
     languageChanged();
 }
 
-FilesPage::~FilesPage() = default; // ends the work
-
 void FilesPage::addNames()
 {
-    auto* form = addForm();
-    m_name = new QLineEdit(QStringLiteral("Holiday.jpg"), this);
-    m_verdict = new QLabel(this);
-    m_sizes = new QLabel(this);
-    connect(m_name, &QLineEdit::textChanged, this, &FilesPage::checkName);
-    addRow(form, QT_TR_NOOP("File name"), m_name);
-    addRow(form, QT_TR_NOOP("As a name and as a path"), m_verdict);
-    auto* paths = new QWidget(this);
-    auto* row = new QHBoxLayout(paths);
-    row->setContentsMargins(0, 0, 0, 0);
-    m_firstPath = new QLineEdit(QStringLiteral("photos/sea.jpg"), paths);
-    m_secondPath = new QLineEdit(QStringLiteral("Photos/Sea.png"), paths);
-    for (QLineEdit* const path : {m_firstPath, m_secondPath}) {
-        row->addWidget(path);
-        connect(path, &QLineEdit::textChanged, this, &FilesPage::comparePaths);
-    }
-    m_comparison = new QLabel(this);
-    addRow(form, QT_TR_NOOP("Two paths"), paths);
-    addRow(form, QT_TR_NOOP("As a whole and without suffix"), m_comparison);
-    addRow(form, QT_TR_NOOP("Sizes as text"), m_sizes);
+    auto* const form = addForm();
+    const auto addField = [&](const char* title, const QString& text, void (FilesPage::*check)()) {
+        auto* const field = new QLineEdit(text, this);
+        field->setFixedWidth(fieldWidth);
+        connect(field, &QLineEdit::textChanged, this, check);
+        addRow(form, title, field);
+        return field;
+    };
+    const auto addVerdict = [&](const char* title) {
+        auto* const label = new QLabel(this);
+        addRow(form, title, label);
+        return label;
+    };
+    m_name = addField(QT_TR_NOOP("File name"), QStringLiteral("Holiday.jpg"), &FilesPage::checkName);
+    m_asName = addVerdict(QT_TR_NOOP("As a name"));
+    m_asPath = addVerdict(QT_TR_NOOP("As a path"));
+    m_firstPath =
+        addField(QT_TR_NOOP("First path"), QStringLiteral("photos/sea.jpg"), &FilesPage::comparePaths);
+    m_secondPath =
+        addField(QT_TR_NOOP("Second path"), QStringLiteral("Photos/Sea.png"), &FilesPage::comparePaths);
+    m_whole = addVerdict(QT_TR_NOOP("Compared as a whole"));
+    m_withoutSuffix = addVerdict(QT_TR_NOOP("Compared without the suffix"));
+    m_sizes = addVerdict(QT_TR_NOOP("Sizes as text"));
 }
 
 void FilesPage::addArchive()
 {
     addTitle(QT_TR_NOOP("A folder as an archive"));
-    auto* row = new QHBoxLayout;
-    m_folder = new QLineEdit(QDir::toNativeSeparators(FileWork::sampleFolder()), this);
-    row->addWidget(m_folder, 1);
-    row->addWidget(makeButton(QT_TR_NOOP("Choose..."), [this] { chooseFolder(); }));
+    auto* const row = new QHBoxLayout;
+    m_folder = new QLineEdit(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()), this);
+    m_folder->setMinimumWidth(fieldWidth);
+    translate(QT_TR_NOOP("Folder"), [this](const QString& text) { m_folder->setAccessibleName(text); });
+    row->addWidget(m_folder);
+    row->addWidget(makeButton(QT_TR_NOOP("Choose…"), [this] { chooseFolder(); }));
+    row->addStretch();
     column()->addLayout(row);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(makeButton(QT_TR_NOOP("Pack"), [this] { start(true); }));
-    buttons->addWidget(makeButton(QT_TR_NOOP("Unpack and compare"), [this] { start(false); }));
-    m_cancel = makeButton(QT_TR_NOOP("Cancel"), [this] {
-        if (m_work) {
-            m_work->requestInterruption();
-        }
-    });
-    m_cancel->setEnabled(false);
-    buttons->addWidget(m_cancel);
-    m_bar = new QProgressBar(this);
-    m_bar->setRange(0, 100);
-    m_bar->setValue(0);
-    buttons->addWidget(m_bar, 1);
-    column()->addLayout(buttons);
-    m_result = new QLabel(this);
-    m_result->setWordWrap(true);
-    column()->addWidget(m_result);
+    const auto unpacked = [] { return QDir::temp().filePath(QStringLiteral("trelio-showcase-unpacked")); };
+    addButtons(
+        {makeButton(QT_TR_NOOP("Pack"),
+                    [this] { runJob(ArchiveTask::pack({m_folder->text()}, archivePath()), tr("Packing")); }),
+         makeButton(QT_TR_NOOP("Unpack"),
+                    [=] {
+                        runJob(ArchiveTask::unpack(archivePath(), unpacked()), tr("Unpacking"));
+                        QDir(unpacked()).removeRecursively();
+                    }),
+         makeButton(QT_TR_NOOP("Show in the file browser"),
+                    [this] {
+                        selectFilesInShell(QDir::tempPath(), {archivePath()});
+                        answer(
+                            [this] { return tr("Asked the file browser to show %1.").arg(archivePath()); });
+                    }),
+         makeButton(QT_TR_NOOP("Send to the recycle bin"), [this] {
+             const bool moved = moveFileToTrash(archivePath()) == FileOperationSucceeded;
+             answer([moved] {
+                 return moved ? tr("The archive is in the recycle bin.") : tr("There is no archive.");
+             });
+         })});
 }
 
-void FilesPage::addFolderButtons()
+//! [code]
+void FilesPage::runJob(const ArchiveTask& task, const QString& title)
 {
-    addTitle(QT_TR_NOOP("The archive"));
-    auto* row = new QHBoxLayout;
-    row->addWidget(makeButton(QT_TR_NOOP("Show in the file browser"),
-                              [this] { selectFilesInShell(QDir::tempPath(), {archivePath()}); }));
-    row->addWidget(makeButton(QT_TR_NOOP("Send to the recycle bin"), [this] { trashArchive(); }));
-    row->addStretch(1);
-    column()->addLayout(row);
+    CArchiveJob job(task);
+    CProgressBox box(title, window());
+    connect(&job, &CArchiveJob::progressed, &box,
+            qOverload<qint64, qint64, const QString&>(&CProgressBox::setProgress));
+    const CProgressBox::Result result = box.run(job);
+    answer([=, report = job.report()] {
+        return result == CProgressBox::Stopped ? tr("Cancelled: no archive is left.") : report.summary();
+    });
 }
+//! [code]
 
 QString FilesPage::archivePath() const
 {
     return QDir::toNativeSeparators(QDir::temp().filePath(QStringLiteral("trelio-showcase.zip")));
-}
-
-QString FilesPage::unpackedPath() const
-{
-    return QDir::temp().filePath(QStringLiteral("trelio-showcase-unpacked"));
 }
 
 void FilesPage::languageChanged()
@@ -122,19 +134,19 @@ void FilesPage::checkName()
     const auto verdict = [this](bool isPath) {
         return validateFileName(m_name->text(), isPath) ? tr("may be used") : tr("refused");
     };
-    m_verdict->setText(verdict(false) + QStringLiteral("  ·  ") + verdict(true));
+    m_asName->setText(verdict(false));
+    m_asPath->setText(verdict(true));
 }
 
 void FilesPage::comparePaths()
 {
     const auto verdict = [this](FileCompareCondition condition) {
-        return isEqualFileOrDirNames(QFileInfo(m_firstPath->text()), QFileInfo(m_secondPath->text()),
-                                     condition)
-                   ? tr("equal")
-                   : tr("different");
+        const QFileInfo first(m_firstPath->text());
+        return isEqualFileOrDirNames(first, QFileInfo(m_secondPath->text()), condition) ? tr("equal")
+                                                                                        : tr("different");
     };
-    m_comparison->setText(verdict(CompareFullPath) + QStringLiteral("  ·  ") +
-                          verdict(CompareDirAndBaseName));
+    m_whole->setText(verdict(CompareFullPath));
+    m_withoutSuffix->setText(verdict(CompareDirAndBaseName));
 }
 
 void FilesPage::chooseFolder()
@@ -147,49 +159,9 @@ void FilesPage::chooseFolder()
     }
 }
 
-void FilesPage::start(bool pack)
+void FilesPage::prepareForPicture()
 {
-    if (m_work) {
-        return;
-    }
-    m_packing = pack;
-    m_work = pack ? std::make_unique<FileWork>(FileWork::Pack, m_folder->text(), archivePath())
-                  : std::make_unique<FileWork>(FileWork::Unpack, archivePath(), unpackedPath());
-    connect(m_work.get(), &FileWork::progress, m_bar, &QProgressBar::setValue);
-    connect(m_work.get(), &FileWork::finished, this, &FilesPage::workEnded);
-    m_cancel->setEnabled(true);
-    say(m_result, [] { return QString(); });
-    m_bar->setValue(0);
-    m_work->start();
-}
-
-void FilesPage::workEnded()
-{
-    m_cancel->setEnabled(false);
-    const bool done = m_work->succeeded();
-    const int files = m_work->fileCount();
-    m_work.reset();
-    if (!done) {
-        say(m_result, [] { return tr("Not done: cancelled, or a file can't be read or written."); });
-        return;
-    }
-    m_bar->setValue(100);
-    if (m_packing) {
-        const QString size = fileSizeToString(QFileInfo(archivePath()).size());
-        say(m_result, [=] { return tr("Files packed: %1, archive: %2").arg(files).arg(size); });
-        return;
-    }
-    const QString difference = FileWork::firstDifference(m_folder->text(), unpackedPath());
-    say(m_result, [=] {
-        return difference.isEmpty() ? tr("Files unpacked: %1. Both folders are equal.").arg(files)
-                                    : tr("The folders differ: %1").arg(difference);
-    });
-    QDir(unpackedPath()).removeRecursively();
-}
-
-void FilesPage::trashArchive()
-{
-    const bool moved = moveFileToTrash(archivePath()) == FileOperationSucceeded;
-    say(m_result,
-        [moved] { return moved ? tr("The archive is in the recycle bin.") : tr("There is no archive."); });
+    CArchiveJob job(ArchiveTask::pack({QCoreApplication::applicationFilePath()}, archivePath()));
+    job.run();
+    answer([report = job.report()] { return report.summary(); });
 }

@@ -2,52 +2,43 @@
 
 #include "PageWidget.h"
 
-#include <memory>
-
-class FileWork;
 class QLabel;
 class QLineEdit;
-class QProgressBar;
-class QPushButton;
+namespace TOLVAN_NAMESPACE
+{
+struct ArchiveTask;
+}
 
-/// File names checked and paths compared while they are typed, a folder packed and unpacked with a bar, files
-/// shown and thrown away.
+/// File names checked and paths compared while they are typed, a folder packed and unpacked, files shown and
+/// thrown away.
 class FilesPage : public PageWidget
 {
     Q_OBJECT
 
 public:
     explicit FilesPage(QWidget* parent);
-    ~FilesPage() override;
+
+    void prepareForPicture() override;
 
 protected:
     void languageChanged() override;
 
-private Q_SLOTS:
-    void checkName();
-    void comparePaths();
-    void workEnded();
-
 private:
     void addNames();
     void addArchive();
-    void addFolderButtons();
+    void checkName();
+    void comparePaths();
     void chooseFolder();
-    void start(bool pack);
-    void trashArchive();
+    void runJob(const TOLVAN_NAMESPACE::ArchiveTask& task, const QString& title);
     QString archivePath() const;
-    QString unpackedPath() const;
 
     QLineEdit* m_name = nullptr;
-    QLabel* m_verdict = nullptr;
+    QLabel* m_asName = nullptr;
+    QLabel* m_asPath = nullptr;
     QLineEdit* m_firstPath = nullptr;
     QLineEdit* m_secondPath = nullptr;
-    QLabel* m_comparison = nullptr;
+    QLabel* m_whole = nullptr;
+    QLabel* m_withoutSuffix = nullptr;
     QLabel* m_sizes = nullptr;
     QLineEdit* m_folder = nullptr;
-    QProgressBar* m_bar = nullptr;
-    QLabel* m_result = nullptr;
-    QPushButton* m_cancel = nullptr;
-    std::unique_ptr<FileWork> m_work;
-    bool m_packing = false;
 };

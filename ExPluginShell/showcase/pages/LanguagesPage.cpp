@@ -47,12 +47,21 @@ void LanguagesPage::addTable()
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(m_table, &QTableView::activated, this,
-            [languages](const QModelIndex& index) { languages->changeLanguage(index.row()); });
+    connect(m_table, &QTableView::activated, this, [this](const QModelIndex& index) { use(index.row()); });
     column()->addWidget(m_table);
-    addButtons({makeButton(QT_TR_NOOP("Use this language"),
-                           [this, languages] { languages->changeLanguage(m_table->currentIndex().row()); })});
+    addButtons({makeButton(QT_TR_NOOP("Use this language"), [this] { use(m_table->currentIndex().row()); })});
+    addAnswer();
 }
+
+//! [code]
+void LanguagesPage::use(int row)
+{
+    auto* const languages = CLanguageManager::instance();
+    const bool changed = languages->changeLanguage(row);
+    const QString name = languages->model()->index(row, 0).data().toString();
+    answer([=] { return changed ? tr("Now in use: %1").arg(name) : tr("Already in use: %1").arg(name); });
+}
+//! [code]
 
 void LanguagesPage::addSamples()
 {

@@ -18,6 +18,7 @@ protected:
 
 private:
     void addTable();
+    void use(int row);
     void addSamples();
 
     QTableView* m_table = nullptr;

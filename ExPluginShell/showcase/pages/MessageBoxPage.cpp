@@ -43,7 +43,7 @@ void MessageBoxPage::addFields()
 {
     m_text = new QPlainTextEdit(this);
     m_text->setTabChangesFocus(true);
-    m_text->setFixedHeight(90);
+    m_text->setFixedSize(520, 90);
     m_height = new QSpinBox(this);
     m_height->setRange(120, 600);
     m_height->setValue(200);
@@ -70,8 +70,7 @@ void MessageBoxPage::addBoxes()
         grid->setColumnStretch(i % columns, 1);
     }
     column()->addLayout(grid);
-    m_answer = new QLabel(this);
-    column()->addWidget(m_answer);
+    addAnswer();
 }
 
 void MessageBoxPage::addAbout()
@@ -81,19 +80,22 @@ void MessageBoxPage::addAbout()
                 makeButton(QT_TR_NOOP("About the product family"), [this] { CAboutOstraDlg(this).exec(); })});
 }
 
+//! [code]
 void MessageBoxPage::showBox(int kind)
 {
     const MessageBoxCall& call = messageBoxCalls().at(kind);
     const QString own = m_text->toPlainText();
-    m_answerName = call.show(this, own.isEmpty() ? translated(call.sample) : own, m_height->value());
-    languageChanged();
+    const QString chosen = call.show(this, own.isEmpty() ? translated(call.sample) : own, m_height->value());
+    answer([=] {
+        return chosen.isEmpty() ? tr("%1: read and closed.").arg(translated(call.title))
+                                : tr("%1: the answer is %2.").arg(translated(call.title), chosen);
+    });
 }
+//! [code]
 
 void MessageBoxPage::languageChanged()
 {
     for (int i = 0; i < m_buttons.size(); ++i) {
         m_buttons.at(i)->setText(translated(messageBoxCalls().at(i).title));
     }
-    m_answer->setText(m_answerName.isEmpty() ? tr("No answer yet")
-                                             : tr("The last answer: %1").arg(m_answerName));
 }

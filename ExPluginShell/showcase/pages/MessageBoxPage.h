@@ -2,7 +2,6 @@
 
 #include "PageWidget.h"
 
-class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 class QSpinBox;
@@ -27,6 +26,4 @@ private:
     QVector<QPushButton*> m_buttons;
     QPlainTextEdit* m_text = nullptr;
     QSpinBox* m_height = nullptr;
-    QLabel* m_answer = nullptr;
-    QString m_answerName;
 };

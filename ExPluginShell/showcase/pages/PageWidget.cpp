@@ -33,6 +33,20 @@ void PageWidget::apply(const Text& text) const
     text.apply(QCoreApplication::translate(metaObject()->className(), text.source));
 }
 
+void PageWidget::addAnswer()
+{
+    m_answer = new QLabel(this);
+    m_answer->setObjectName(QStringLiteral("answer"));
+    m_answer->setWordWrap(true);
+    m_answer->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_column->addWidget(m_answer);
+}
+
+void PageWidget::answer(std::function<QString()> text)
+{
+    say(m_answer, std::move(text));
+}
+
 QLabel* PageWidget::addTitle(const char* source)
 {
     auto* label = addText(source);
@@ -64,7 +78,7 @@ QFormLayout* PageWidget::addForm()
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(8);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     m_column->addLayout(form);
     return form;
 }

@@ -30,6 +30,9 @@ class PageWidget : public QWidget
 public:
     explicit PageWidget(QWidget* parent);
 
+    /// Does the work that a picture of the page should show. Called for pictures only; may turn the event loop.
+    virtual void prepareForPicture() {}
+
 protected:
     /// Calls \a apply with the translation of \a source now and whenever the language changes. The context is
     /// the class of the page, so \a source is marked with QT_TR_NOOP; outside of this call, whose name the
@@ -54,6 +57,11 @@ protected:
     /// Adds a row with a translated label to \a form.
     void addRow(QFormLayout* form, const char* source, QWidget* field);
 
+    /// Adds the line that answer() fills.
+    void addAnswer();
+    /// What came of the last action; follows the language.
+    void answer(std::function<QString()> text);
+
     /// Called after every change of the language, for texts that are put together.
     virtual void languageChanged() {}
     void changeEvent(QEvent* event) override;
@@ -69,4 +77,5 @@ private:
     QVBoxLayout* m_column;
     std::vector<Text> m_texts;
     std::map<QLabel*, std::function<QString()>> m_said;
+    QLabel* m_answer = nullptr;
 };

@@ -13,20 +13,25 @@ struct Page {
     /// with its content, without margins. A page renews its own texts (see PageWidget) and needs neither a
     /// display nor a network to be built; slow work starts when the user asks for it.
     QWidget* (*make)(QWidget* parent);
+    const char* icon = "";    ///< its icon in the list, below ":/icons/"
+    const char* source = "";  ///< the source file whose marked lines the page can show
+    bool fillsWindow = false; ///< the code is shown when asked for only
 };
 
 /// All pages, in the order of the list.
 QVector<Page> pages();
 
 // Each page's factory stands in its own source file.
+QWidget* makeWorkplace(QWidget* parent);
 QWidget* makeLoggingPage(QWidget* parent);
 QWidget* makeSettingsPage(QWidget* parent);
 QWidget* makeStoragePage(QWidget* parent);
 QWidget* makeLanguagesPage(QWidget* parent);
 QWidget* makeAsyncPage(QWidget* parent);
 QWidget* makeMessageBoxPage(QWidget* parent);
-QWidget* makeDrawingPage(QWidget* parent);
-QWidget* makeNativeDialogsPage(QWidget* parent);
+QWidget* makeStatePage(QWidget* parent);
+QWidget* makeResourcesPage(QWidget* parent);
+QWidget* makeFatalPage(QWidget* parent);
 QWidget* makeStylePage(QWidget* parent);
 QWidget* makeWebServicePage(QWidget* parent);
 QWidget* makeFilesPage(QWidget* parent);

@@ -2,6 +2,10 @@
 
 #include "PageWidget.h"
 
+#include <memory>
+
+class CTemporarySettings;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 
@@ -12,18 +16,25 @@ class SettingsPage : public PageWidget
 
 public:
     explicit SettingsPage(QWidget* parent);
+    ~SettingsPage() override;
+
+    void prepareForPicture() override;
 
 protected:
     void languageChanged() override;
 
 private:
+    void addMode();
     void addSwitches();
     void addValues();
     void addSuiteFile();
+    void setTemporary(bool on);
     void readValue();
+    void write();
     void writeSuiteValue();
 
-    QLabel* m_store = nullptr;
+    std::unique_ptr<CTemporarySettings> m_temporary;
+    QComboBox* m_level = nullptr;
     QLineEdit* m_key = nullptr;
     QLineEdit* m_value = nullptr;
     QLineEdit* m_suiteValue = nullptr;

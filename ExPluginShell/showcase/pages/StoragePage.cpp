@@ -6,8 +6,10 @@
 
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLocale>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTime>
 #include <QVBoxLayout>
 
 using Location = TOLVAN_NAMESPACE::CStorageLocation;
@@ -66,10 +68,18 @@ StoragePage::StoragePage(QWidget* parent)
     m_table->setWordWrap(false);
     m_table->setTextElideMode(Qt::ElideMiddle);
     column()->addWidget(m_table, 1);
-    addButtons({makeButton(QT_TR_NOOP("Refresh"), [this] { fill(); })});
+    addButtons({makeButton(QT_TR_NOOP("Refresh"), [this] {
+        fill();
+        const QTime now = QTime::currentTime();
+        answer([now] {
+            return tr("Read again at %1.").arg(QLocale().toString(now, QStringLiteral("HH:mm:ss")));
+        });
+    })});
+    addAnswer();
     languageChanged();
 }
 
+//! [code]
 void StoragePage::fill()
 {
     m_table->setRowCount(0);
@@ -87,6 +97,8 @@ void StoragePage::fill()
         }
     }
 }
+
+//! [code]
 
 void StoragePage::languageChanged()
 {

@@ -4,6 +4,7 @@
 #include "Pages.h"
 
 #include <QComboBox>
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -115,6 +116,7 @@ void WebServicePage::showRequest()
     m_result->clear();
 }
 
+//! [code]
 void WebServicePage::ask()
 {
     m_service->start(); // if it fails, the transport answers with a fault
@@ -124,6 +126,8 @@ void WebServicePage::ask()
     QtSoapMessage request = LengthService::request(m_amount->value(), m_unit->currentText());
     m_transport.submitRequest(request, QStringLiteral("/lengths"));
 }
+
+//! [code]
 
 void WebServicePage::showAnswer(const QtSoapMessage& answer)
 {
@@ -146,4 +150,12 @@ void WebServicePage::languageChanged()
     if (!m_result->text().isEmpty()) {
         showResult();
     }
+}
+
+void WebServicePage::prepareForPicture()
+{
+    QEventLoop loop;
+    connect(&m_transport, qOverload<>(&QtSoapHttpTransport::responseReady), &loop, &QEventLoop::quit);
+    ask();
+    loop.exec();
 }

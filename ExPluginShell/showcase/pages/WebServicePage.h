@@ -18,6 +18,8 @@ class WebServicePage : public PageWidget
 public:
     explicit WebServicePage(QWidget* parent);
 
+    void prepareForPicture() override;
+
 protected:
     void languageChanged() override;
 

@@ -12,5 +12,6 @@ QVector<Section> sections()
         {"Asynchronous execution", &showAsync},
         {"Files and archives", &showFiles},
         {"Web service", &showWebService},
+        {"Workplace", &showWorkplace},
     };
 }

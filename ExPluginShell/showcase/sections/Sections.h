@@ -22,3 +22,4 @@ void showLanguages(Report& report);
 void showWebService(Report& report);
 void showAsync(Report& report);
 void showFiles(Report& report);
+void showWorkplace(Report& report);

@@ -4,44 +4,20 @@
 <context>
     <name>AsyncPage</name>
     <message>
-        <source>Move the slider: its many requests become one call.</source>
-        <translation>Bewegen Sie den Regler: Aus vielen Anforderungen wird ein Aufruf.</translation>
-    </message>
-    <message>
-        <source>Not running.</source>
-        <translation>Läuft nicht.</translation>
-    </message>
-    <message>
-        <source>While the page waits, clicks are held back and delivered after the wait.</source>
-        <translation>Während die Seite wartet, werden Klicks zurückgehalten und danach zugestellt.</translation>
-    </message>
-    <message>
-        <source>Clicks: 0</source>
-        <translation>Klicks: 0</translation>
-    </message>
-    <message>
-        <source>%1 items on a pool of two threads.</source>
-        <translation>%1 Aufgaben auf zwei Threads.</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Starten</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
         <source>Delayed calls</source>
         <translation>Verzögerte Aufrufe</translation>
+    </message>
+    <message>
+        <source>Move the slider: its many requests become one call.</source>
+        <translation>Bewegen Sie den Regler: Aus vielen Anforderungen wird ein Aufruf.</translation>
     </message>
     <message>
         <source>Periodic call</source>
         <translation>Regelmäßiger Aufruf</translation>
     </message>
     <message>
-        <source>Work items</source>
-        <translation>Aufgaben</translation>
+        <source>Not running.</source>
+        <translation>Läuft nicht.</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -60,32 +36,48 @@
         <translation>Klicken Sie mich inzwischen</translation>
     </message>
     <message>
-        <source>Requests: %1, calls: %2</source>
-        <translation>Anforderungen: %1, Aufrufe: %2</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>Während die Seite wartet, werden Klicks zurückgehalten und danach zugestellt.</translation>
+    </message>
+    <message>
+        <source>No clicks yet.</source>
+        <translation>Noch keine Klicks.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n Anforderung</numerusform>
+            <numerusform>%n Anforderungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n Aufruf</numerusform>
+            <numerusform>%n Aufrufe</numerusform>
+        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>Alle %1 ms.</translation>
     </message>
-    <message>
-        <source>Stopped. Calls: %1</source>
-        <translation>Angehalten. Aufrufe: %1</translation>
-    </message>
-    <message>
-        <source>Calls: %1</source>
-        <translation>Aufrufe: %1</translation>
-    </message>
-    <message>
-        <source>%1 of %2 items finished, %3 of them stopped.</source>
-        <translation>%1 von %2 Aufgaben beendet, davon %3 angehalten.</translation>
+    <message numerus="yes">
+        <source>Stopped after %n call(s).</source>
+        <translation>
+            <numerusform>Nach %n Aufruf angehalten.</numerusform>
+            <numerusform>Nach %n Aufrufen angehalten.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>%1 ms Wartezeit. Klicks werden zurückgehalten.</translation>
     </message>
-    <message>
-        <source>The wait is over. Clicks held back and delivered now: %1</source>
-        <translation>Die Wartezeit ist um. Zurückgehaltene und jetzt zugestellte Klicks: %1</translation>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>Die Wartezeit ist um. %n Klick zurückgehalten und danach zugestellt.</numerusform>
+            <numerusform>Die Wartezeit ist um. %n Klicks zurückgehalten und danach zugestellt.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
@@ -95,36 +87,59 @@
         <source>The worker has finished.</source>
         <translation>Die Aufgabe ist beendet.</translation>
     </message>
-    <message>
-        <source>Clicks: %1</source>
-        <translation>Klicks: %1</translation>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n Klick</numerusform>
+            <numerusform>%n Klicks</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>DrawingPage</name>
+    <name>FatalPage</name>
     <message>
-        <source>Drag across the picture to draw a line</source>
-        <translation>Ziehen Sie über das Bild, um eine Linie zu zeichnen</translation>
+        <source>Little free space</source>
+        <translation>Wenig freier Speicherplatz</translation>
     </message>
     <message>
-        <source>Picture with guide lines</source>
-        <translation>Bild mit Hilfslinien</translation>
+        <source>The drive of the temporary folder is almost full.</source>
+        <translation>Das Laufwerk des temporären Ordners ist fast voll.</translation>
     </message>
     <message>
-        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
-        <translation>Einfg fügt eine Linie hinzu und Entf entfernt sie, Bild auf und Bild ab wählen eine, die Pfeiltasten bewegen ihr Ende, mit Umschalt ihren Anfang.</translation>
+        <source>Out of memory</source>
+        <translation>Kein Arbeitsspeicher mehr</translation>
     </message>
     <message>
-        <source>Stretch the pattern</source>
-        <translation>Muster strecken</translation>
+        <source>A program of its own, which will be closed.</source>
+        <translation>Ein eigenständiges Programm, das geschlossen wird.</translation>
     </message>
     <message>
-        <source>Remove all lines</source>
-        <translation>Alle Linien entfernen</translation>
+        <source>Out of memory in the photo editor</source>
+        <translation>Kein Arbeitsspeicher mehr im Bildeditor</translation>
     </message>
     <message>
-        <source>Lines: %1</source>
-        <translation>Linien: %1</translation>
+        <source>The editor may become unstable.</source>
+        <translation>Der Editor kann instabil werden.</translation>
+    </message>
+    <message>
+        <source>Unhandled exception</source>
+        <translation>Unbehandelte Ausnahme</translation>
+    </message>
+    <message>
+        <source>The program will be closed.</source>
+        <translation>Das Programm wird geschlossen.</translation>
+    </message>
+    <message>
+        <source>The texts are prepared in the current language while all is well. On Windows the system&apos;s own message box shows them, on Linux a message program (kdialog, zenity or xmessage) or the standard error output.</source>
+        <translation>Die Texte werden vorab in der aktuellen Sprache vorbereitet. Unter Windows zeigt sie das Meldungsfenster des Systems, unter Linux ein Meldungsprogramm (kdialog, zenity oder xmessage) oder die Standardfehlerausgabe.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Shown and closed: %1</source>
+        <translation>Gezeigt und geschlossen: %1</translation>
     </message>
 </context>
 <context>
@@ -134,16 +149,28 @@
         <translation>Dateiname</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>Als Name und als Pfad</translation>
+        <source>As a name</source>
+        <translation>Als Name</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>Zwei Pfade</translation>
+        <source>As a path</source>
+        <translation>Als Pfad</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>Im Ganzen und ohne Endung</translation>
+        <source>First path</source>
+        <translation>Erster Pfad</translation>
+    </message>
+    <message>
+        <source>Second path</source>
+        <translation>Zweiter Pfad</translation>
+    </message>
+    <message>
+        <source>Compared as a whole</source>
+        <translation>Im Ganzen verglichen</translation>
+    </message>
+    <message>
+        <source>Compared without the suffix</source>
+        <translation>Ohne Endung verglichen</translation>
     </message>
     <message>
         <source>Sizes as text</source>
@@ -154,7 +181,7 @@
         <translation>Ein Ordner als Archiv</translation>
     </message>
     <message>
-        <source>Choose...</source>
+        <source>Choose…</source>
         <translation>Wählen …</translation>
     </message>
     <message>
@@ -162,24 +189,40 @@
         <translation>Packen</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>Entpacken und vergleichen</translation>
+        <source>Packing</source>
+        <translation>Packen</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <source>Unpack</source>
+        <translation>Entpacken</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>Das Archiv</translation>
+        <source>Unpacking</source>
+        <translation>Entpacken</translation>
     </message>
     <message>
         <source>Show in the file browser</source>
         <translation>Im Dateimanager zeigen</translation>
     </message>
     <message>
+        <source>Asked the file browser to show %1.</source>
+        <translation>Die Dateiverwaltung wurde gebeten, %1 zu zeigen.</translation>
+    </message>
+    <message>
         <source>Send to the recycle bin</source>
         <translation>In den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>Das Archiv liegt im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>Es gibt kein Archiv.</translation>
+    </message>
+    <message>
+        <source>Cancelled: no archive is left.</source>
+        <translation>Abgebrochen: Es bleibt kein Archiv zurück.</translation>
     </message>
     <message>
         <source>may be used</source>
@@ -201,36 +244,20 @@
         <source>Choose a folder</source>
         <translation>Ordner wählen</translation>
     </message>
-    <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>Nicht ausgeführt: abgebrochen, oder eine Datei ist nicht lesbar oder schreibbar.</translation>
-    </message>
-    <message>
-        <source>Files packed: %1, archive: %2</source>
-        <translation>Gepackte Dateien: %1, Archiv: %2</translation>
-    </message>
-    <message>
-        <source>Files unpacked: %1. Both folders are equal.</source>
-        <translation>Entpackte Dateien: %1. Beide Ordner sind gleich.</translation>
-    </message>
-    <message>
-        <source>The folders differ: %1</source>
-        <translation>Die Ordner unterscheiden sich: %1</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>Das Archiv liegt im Papierkorb.</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>Es gibt kein Archiv.</translation>
-    </message>
 </context>
 <context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
         <translation>Diese Sprache verwenden</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>Jetzt in Gebrauch: %1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>Bereits in Gebrauch: %1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -266,14 +293,49 @@
     </message>
 </context>
 <context>
+    <name>LogModel</name>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
     <name>LoggingPage</name>
     <message>
         <source>Log folder</source>
         <translation>Ordner der Protokolle</translation>
     </message>
     <message>
-        <source>Minimum level</source>
-        <translation>Mindeststufe</translation>
+        <source>Minimum level written</source>
+        <translation>Geschriebene Mindeststufe</translation>
     </message>
     <message>
         <source>A line from the showcase</source>
@@ -294,6 +356,10 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>Mit der Stufe %1 protokolliert.</translation>
     </message>
     <message>
         <source>The log of this process</source>
@@ -331,12 +397,12 @@
         <translation>Über die Produktfamilie</translation>
     </message>
     <message>
-        <source>No answer yet</source>
-        <translation>Noch keine Antwort</translation>
+        <source>%1: read and closed.</source>
+        <translation>%1: gelesen und geschlossen.</translation>
     </message>
     <message>
-        <source>The last answer: %1</source>
-        <translation>Die letzte Antwort: %1</translation>
+        <source>%1: the answer is %2.</source>
+        <translation>%1: Die Antwort ist %2.</translation>
     </message>
 </context>
 <context>
@@ -399,45 +465,10 @@
     </message>
 </context>
 <context>
-    <name>NativeDialogsPage</name>
-    <message>
-        <source>Pictures (*.jpg *.png *.tif);;All files (*)</source>
-        <translation>Bilder (*.jpg *.png *.tif);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Open a file</source>
-        <translation>Datei öffnen</translation>
-    </message>
-    <message>
-        <source>Open files</source>
-        <translation>Dateien öffnen</translation>
-    </message>
-    <message>
-        <source>Save a file</source>
-        <translation>Datei speichern</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Ordner wählen</translation>
-    </message>
-    <message>
-        <source>Choose a folder by its pictures</source>
-        <translation>Ordner anhand der Bilder wählen</translation>
-    </message>
-    <message>
-        <source>What was chosen</source>
-        <translation>Was gewählt wurde</translation>
-    </message>
-</context>
-<context>
     <name>Pages</name>
     <message>
-        <source>Logging</source>
-        <translation>Protokoll</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>Jede Zeile geht über eine Brücke an den Protokollschreiber des Prozesses.</translation>
+        <source>Workplace</source>
+        <translation>Arbeitsplatz</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -448,6 +479,14 @@
         <translation>Voreinstellungen dieses Produkts und die gemeinsame Datei der Produktfamilie.</translation>
     </message>
     <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>Eine Wahl für alle Produkte; Texte, Datum und Zahlen folgen sofort.</translation>
+    </message>
+    <message>
         <source>Storage</source>
         <translation>Speicherorte</translation>
     </message>
@@ -456,12 +495,20 @@
         <translation>Alle Ordner und Dateien, die das Produkt kennt.</translation>
     </message>
     <message>
-        <source>Languages</source>
-        <translation>Sprachen</translation>
+        <source>State and process</source>
+        <translation>Zustand und Prozess</translation>
     </message>
     <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>Eine Wahl für alle Produkte; Texte, Datum und Zahlen folgen sofort.</translation>
+        <source>What the product remembers about its launches, and the process it runs in.</source>
+        <translation>Was das Produkt sich über seine Starts merkt, und der Prozess, in dem es läuft.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -472,12 +519,12 @@
         <translation>Verzögerte Aufrufe, Aufgaben und Wartezeiten: Das Fenster bleibt bedienbar.</translation>
     </message>
     <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
+        <source>Resources</source>
+        <translation>Ressourcen</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
+        <source>Icons, fonts, countries, rules and style sheets that come with the library.</source>
+        <translation>Symbole, Schriften, Länder, Regeln und Stylesheets, die mit der Bibliothek kommen.</translation>
     </message>
     <message>
         <source>Appearance</source>
@@ -496,20 +543,12 @@
         <translation>Die eigenen Meldungsfenster des Produkts: 520 Pixel breit, mit Maus oder Tastatur zu beantworten.</translation>
     </message>
     <message>
-        <source>Drawing tools</source>
-        <translation>Zeichenwerkzeuge</translation>
+        <source>Fatal messages</source>
+        <translation>Schwere Fehler</translation>
     </message>
     <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>Hilfslinien und Mauszeiger der Korrekturwerkzeuge auf einem vom Programm gemalten Bild.</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>Systemdialoge</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>Die Dialoge des Systems für Dateien und Ordner.</translation>
+        <source>Texts that can be shown when the process is in trouble, without allocating memory.</source>
+        <translation>Texte, die sich im Notfall anzeigen lassen, ohne Speicher anzufordern.</translation>
     </message>
     <message>
         <source>Web service</source>
@@ -519,12 +558,125 @@
         <source>A SOAP client and the small service that it asks, both in this process.</source>
         <translation>Ein SOAP-Client und der kleine Dienst, den er befragt, beide in diesem Prozess.</translation>
     </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>Jede Zeile geht über eine Brücke an den Protokollschreiber des Prozesses.</translation>
+    </message>
+</context>
+<context>
+    <name>ResourcesPage</name>
+    <message>
+        <source>Icons</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Schriften</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Länder</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Style sheets</source>
+        <translation>Stylesheets</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n Symbol</numerusform>
+            <numerusform>%n Symbole</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>Kein Symbol ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n Regel führt weiter von</numerusform>
+            <numerusform>%n Regeln führen weiter von</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>Maus darüber</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Gedrückt</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Values are kept in</source>
-        <translation>Werte liegen in</translation>
+        <source>Settings are kept in %1.</source>
+        <translation>Einstellungen liegen in %1.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>Einstellungen liegen wieder im Einstellungsspeicher des Systems.</translation>
+    </message>
+    <message>
+        <source>Logged from the next start on: %1</source>
+        <translation>Protokolliert ab dem nächsten Start: %1</translation>
     </message>
     <message>
         <source>Minimum log level</source>
@@ -537,6 +689,14 @@
     <message>
         <source>Crash reports may be sent</source>
         <translation>Absturzberichte dürfen gesendet werden</translation>
+    </message>
+    <message>
+        <source>Stored: on</source>
+        <translation>Gespeichert: ein</translation>
+    </message>
+    <message>
+        <source>Stored: off</source>
+        <translation>Gespeichert: aus</translation>
     </message>
     <message>
         <source>Any value</source>
@@ -559,6 +719,10 @@
         <translation>Entfernen</translation>
     </message>
     <message>
+        <source>Removed: %1</source>
+        <translation>Entfernt: %1</translation>
+    </message>
+    <message>
         <source>The file of the product family</source>
         <translation>Die Datei der Produktfamilie</translation>
     </message>
@@ -575,12 +739,16 @@
         <translation>In die Datei schreiben</translation>
     </message>
     <message>
-        <source>a temporary file, gone at the end</source>
-        <translation>einer temporären Datei, am Ende gelöscht</translation>
+        <source>Written and read back: %1 = %2</source>
+        <translation>Geschrieben und zurückgelesen: %1 = %2</translation>
     </message>
     <message>
-        <source>the system&apos;s own store</source>
-        <translation>dem Speicher des Systems</translation>
+        <source>Written into the file of the product family.</source>
+        <translation>In die Datei der Produktfamilie geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file of the product family cannot be written.</source>
+        <translation>Die Datei der Produktfamilie kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -596,6 +764,105 @@
     <message>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>Show the code</source>
+        <translation>Quelltext zeigen</translation>
+    </message>
+    <message>
+        <source>Code of this page</source>
+        <translation>Quelltext dieser Seite</translation>
+    </message>
+</context>
+<context>
+    <name>StatePage</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>First launch on this profile</source>
+        <translation>Erster Start mit diesem Profil</translation>
+    </message>
+    <message>
+        <source>Mode of the last launch</source>
+        <translation>Modus des letzten Starts</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keiner</translation>
+    </message>
+    <message>
+        <source>Identifier of this user</source>
+        <translation>Kennung dieses Benutzers</translation>
+    </message>
+    <message>
+        <source>Reseller</source>
+        <translation>Händler</translation>
+    </message>
+    <message>
+        <source>Results saved as actions</source>
+        <translation>Ergebnisse als Aktionen gespeichert</translation>
+    </message>
+    <message>
+        <source>Crash reports may be sent</source>
+        <translation>Absturzberichte dürfen gesendet werden</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>File version</source>
+        <translation>Dateiversion</translation>
+    </message>
+    <message>
+        <source>unknown: the file carries no version</source>
+        <translation>unbekannt: Die Datei trägt keine Version</translation>
+    </message>
+    <message>
+        <source>Process number</source>
+        <translation>Prozessnummer</translation>
+    </message>
+    <message>
+        <source>Folder of the Qt plug-ins</source>
+        <translation>Ordner der Qt-Plug-ins</translation>
+    </message>
+    <message>
+        <source>Crash counter</source>
+        <translation>Absturzzähler</translation>
+    </message>
+    <message>
+        <source>A module counts up before risky work and resets the counter after it. What is left after a crash is seen at the next start.</source>
+        <translation>Ein Modul zählt vor riskanter Arbeit hoch und setzt den Zähler danach zurück. Was nach einem Absturz übrig ist, zeigt sich beim nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Runs that ended abnormally</source>
+        <translation>Nicht ordentlich beendete Läufe</translation>
+    </message>
+    <message>
+        <source>Count up</source>
+        <translation>Hochzählen</translation>
+    </message>
+    <message>
+        <source>Counted up: work is under way.</source>
+        <translation>Hochgezählt: Die Arbeit läuft.</translation>
+    </message>
+    <message>
+        <source>Reset the counter</source>
+        <translation>Zähler zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset: the work ended well.</source>
+        <translation>Zurückgesetzt: Die Arbeit endete ordentlich.</translation>
     </message>
 </context>
 <context>
@@ -651,6 +918,10 @@
     <message>
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Read again at %1.</source>
+        <translation>Erneut gelesen um %1.</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -921,6 +1192,99 @@
     </message>
 </context>
 <context>
+    <name>ToolPanel</name>
+    <message>
+        <source>Accept</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>Kein Werkzeug</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>Wählen Sie links ein Werkzeug. Die Regeln des Produkts bestimmen, was ein Klick sonst noch ein- oder ausschaltet oder anwendet.</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizont</translation>
+    </message>
+    <message>
+        <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
+        <translation>Ziehen Sie eine Linie entlang dessen, was waagerecht sein soll. Mit Umschalt dreht sie sich in Schritten von 15°.</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>Stürzende Linien</translation>
+    </message>
+    <message>
+        <source>Lay both lines along edges that are upright in reality. They snap to the thirds of the picture and to each other; with Ctrl they do not.</source>
+        <translation>Legen Sie beide Linien an Kanten, die in Wirklichkeit senkrecht sind. Sie rasten an den Dritteln des Bildes und aneinander ein; mit Strg nicht.</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Verzeichnung</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>Alle Wörter müssen vorkommen, in beliebiger Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>Tilt-Shift</translation>
+    </message>
+    <message>
+        <source>What lies between the outer lines stays sharp.</source>
+        <translation>Was zwischen den äußeren Linien liegt, bleibt scharf.</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Unschärfe</translation>
+    </message>
+    <message>
+        <source>Width of the sharp area</source>
+        <translation>Breite des scharfen Bereichs</translation>
+    </message>
+    <message>
+        <source>The calibration database cannot be read.</source>
+        <translation>Die Kalibrierungsdatenbank kann nicht gelesen werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lens(es) found</source>
+        <translation>
+            <numerusform>%n Objektiv gefunden</numerusform>
+            <numerusform>%n Objektive gefunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n millisecond(s)</source>
+        <translation>
+            <numerusform>%n Millisekunde</numerusform>
+            <numerusform>%n Millisekunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>WebServicePage</name>
     <message>
         <source>Amount</source>
@@ -949,6 +1313,192 @@
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Workplace</name>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizont</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>Stürzende Linien</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Verzeichnung</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>Tilt-Shift</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) read. The rule behind a click is shown here.</source>
+        <translation>
+            <numerusform>%n Regel gelesen. Hier steht die Regel hinter jedem Klick.</numerusform>
+            <numerusform>%n Regeln gelesen. Hier steht die Regel hinter jedem Klick.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules cannot be read: %1</source>
+        <translation>Die Regeln können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen …</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Reset all corrections</source>
+        <translation>Alle Korrekturen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Preview of the current tool</source>
+        <translation>Vorschau des aktuellen Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Compare before and after</source>
+        <translation>Vorher und nachher vergleichen</translation>
+    </message>
+    <message>
+        <source>Save the corrections as a preset</source>
+        <translation>Korrekturen als Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Apply to the full picture</source>
+        <translation>Auf das ganze Bild anwenden</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>Pack…</source>
+        <translation>Packen …</translation>
+    </message>
+    <message>
+        <source>Send the saved picture to the recycle bin</source>
+        <translation>Gespeichertes Bild in den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>No rule of %1 holds for %2.</source>
+        <translation>Keine Regel von %1 gilt für %2.</translation>
+    </message>
+    <message>
+        <source>Rule: %1</source>
+        <translation>Regel: %1</translation>
+    </message>
+    <message>
+        <source>No corrections yet</source>
+        <translation>Noch keine Korrekturen</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>Vorher und nachher sind gleich.</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>Vorher und nachher unterscheiden sich.</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>Messwert: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo</source>
+        <translation>Foto öffnen</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.jpeg *.png *.bmp)</source>
+        <translation>Bilder (*.jpg *.jpeg *.png *.bmp)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Applying the corrections</source>
+        <translation>Korrekturen werden angewendet</translation>
+    </message>
+    <message>
+        <source>Stopped. The picture is unchanged.</source>
+        <translation>Angehalten. Das Bild ist unverändert.</translation>
+    </message>
+    <message>
+        <source>Applied in %1 s</source>
+        <translation>Angewendet in %1 s</translation>
+    </message>
+    <message>
+        <source>Save the picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.png)</source>
+        <translation>Bilder (*.jpg *.png)</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved: %2</source>
+        <translation>%1 kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Pack the saved pictures</source>
+        <translation>Gespeicherte Bilder packen</translation>
+    </message>
+    <message>
+        <source>Archives (*.zip)</source>
+        <translation>Archive (*.zip)</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>%1 wird gepackt</translation>
+    </message>
+    <message>
+        <source>Save a preset</source>
+        <translation>Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>My preset</source>
+        <translation>Meine Vorgabe</translation>
+    </message>
+    <message>
+        <source>Preset saved: %1</source>
+        <translation>Vorgabe gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>In the recycle bin: %1</source>
+        <translation>Im Papierkorb: %1</translation>
+    </message>
+    <message>
+        <source>Cannot be moved to the recycle bin: %1</source>
+        <translation>Kann nicht in den Papierkorb verschoben werden: %1</translation>
     </message>
 </context>
 </TS>

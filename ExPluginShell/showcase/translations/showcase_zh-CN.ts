@@ -4,44 +4,20 @@
 <context>
     <name>AsyncPage</name>
     <message>
-        <source>Move the slider: its many requests become one call.</source>
-        <translation>移动滑块：多次请求合并为一次调用。</translation>
-    </message>
-    <message>
-        <source>Not running.</source>
-        <translation>未运行。</translation>
-    </message>
-    <message>
-        <source>While the page waits, clicks are held back and delivered after the wait.</source>
-        <translation>等待期间的点击会被保留，等待结束后再送达。</translation>
-    </message>
-    <message>
-        <source>Clicks: 0</source>
-        <translation>点击：0</translation>
-    </message>
-    <message>
-        <source>%1 items on a pool of two threads.</source>
-        <translation>两个线程上的 %1 个任务。</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>开始</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
         <source>Delayed calls</source>
         <translation>延迟调用</translation>
+    </message>
+    <message>
+        <source>Move the slider: its many requests become one call.</source>
+        <translation>移动滑块：多次请求合并为一次调用。</translation>
     </message>
     <message>
         <source>Periodic call</source>
         <translation>周期调用</translation>
     </message>
     <message>
-        <source>Work items</source>
-        <translation>工作项</translation>
+        <source>Not running.</source>
+        <translation>未运行。</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -60,32 +36,44 @@
         <translation>期间点击我</translation>
     </message>
     <message>
-        <source>Requests: %1, calls: %2</source>
-        <translation>请求：%1，调用：%2</translation>
+        <source>While the page waits, clicks are held back and delivered after the wait.</source>
+        <translation>等待期间的点击会被保留，等待结束后再送达。</translation>
+    </message>
+    <message>
+        <source>No clicks yet.</source>
+        <translation>还没有点击。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n 次请求</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n 次调用</numerusform>
+        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
         <translation>每 %1 毫秒。</translation>
     </message>
-    <message>
-        <source>Stopped. Calls: %1</source>
-        <translation>已停止。调用：%1</translation>
-    </message>
-    <message>
-        <source>Calls: %1</source>
-        <translation>调用：%1</translation>
-    </message>
-    <message>
-        <source>%1 of %2 items finished, %3 of them stopped.</source>
-        <translation>%2 个任务中已完成 %1 个，其中 %3 个被停止。</translation>
+    <message numerus="yes">
+        <source>Stopped after %n call(s).</source>
+        <translation>
+            <numerusform>%n 次调用后停止。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>等待 %1 毫秒。点击会被保留。</translation>
     </message>
-    <message>
-        <source>The wait is over. Clicks held back and delivered now: %1</source>
-        <translation>等待结束。被保留并已送达的点击：%1</translation>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>等待结束。%n 次点击被保留并在之后送达。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
@@ -95,36 +83,58 @@
         <source>The worker has finished.</source>
         <translation>工作线程已完成。</translation>
     </message>
-    <message>
-        <source>Clicks: %1</source>
-        <translation>点击：%1</translation>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n 次点击</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>DrawingPage</name>
+    <name>FatalPage</name>
     <message>
-        <source>Drag across the picture to draw a line</source>
-        <translation>在图片上拖动以绘制线条</translation>
+        <source>Little free space</source>
+        <translation>可用空间不足</translation>
     </message>
     <message>
-        <source>Picture with guide lines</source>
-        <translation>带参考线的图片</translation>
+        <source>The drive of the temporary folder is almost full.</source>
+        <translation>临时文件夹所在的驱动器几乎已满。</translation>
     </message>
     <message>
-        <source>Insert adds a line and Delete removes it, Page Up and Page Down choose one, the arrow keys move its end, with Shift its start.</source>
-        <translation>Insert 添加线条，Delete 删除线条，Page Up 和 Page Down 选择线条，方向键移动终点，Shift 加方向键移动起点。</translation>
+        <source>Out of memory</source>
+        <translation>内存不足</translation>
     </message>
     <message>
-        <source>Stretch the pattern</source>
-        <translation>拉伸图案</translation>
+        <source>A program of its own, which will be closed.</source>
+        <translation>独立程序，将被关闭。</translation>
     </message>
     <message>
-        <source>Remove all lines</source>
-        <translation>删除所有线条</translation>
+        <source>Out of memory in the photo editor</source>
+        <translation>照片编辑器内存不足</translation>
     </message>
     <message>
-        <source>Lines: %1</source>
-        <translation>线条：%1</translation>
+        <source>The editor may become unstable.</source>
+        <translation>编辑器可能变得不稳定。</translation>
+    </message>
+    <message>
+        <source>Unhandled exception</source>
+        <translation>未处理的异常</translation>
+    </message>
+    <message>
+        <source>The program will be closed.</source>
+        <translation>程序将被关闭。</translation>
+    </message>
+    <message>
+        <source>The texts are prepared in the current language while all is well. On Windows the system&apos;s own message box shows them, on Linux a message program (kdialog, zenity or xmessage) or the standard error output.</source>
+        <translation>文本在一切正常时以当前语言准备好。在 Windows 上由系统的消息框显示，在 Linux 上由消息程序（kdialog、zenity 或 xmessage）或标准错误输出显示。</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Shown and closed: %1</source>
+        <translation>已显示并关闭：%1</translation>
     </message>
 </context>
 <context>
@@ -134,16 +144,28 @@
         <translation>文件名</translation>
     </message>
     <message>
-        <source>As a name and as a path</source>
-        <translation>作为名称和路径</translation>
+        <source>As a name</source>
+        <translation>作为名称</translation>
     </message>
     <message>
-        <source>Two paths</source>
-        <translation>两个路径</translation>
+        <source>As a path</source>
+        <translation>作为路径</translation>
     </message>
     <message>
-        <source>As a whole and without suffix</source>
-        <translation>完整比较和不含扩展名比较</translation>
+        <source>First path</source>
+        <translation>第一个路径</translation>
+    </message>
+    <message>
+        <source>Second path</source>
+        <translation>第二个路径</translation>
+    </message>
+    <message>
+        <source>Compared as a whole</source>
+        <translation>整体比较</translation>
+    </message>
+    <message>
+        <source>Compared without the suffix</source>
+        <translation>不含扩展名比较</translation>
     </message>
     <message>
         <source>Sizes as text</source>
@@ -151,10 +173,10 @@
     </message>
     <message>
         <source>A folder as an archive</source>
-        <translation>将文件夹打包</translation>
+        <translation>将文件夹压缩</translation>
     </message>
     <message>
-        <source>Choose...</source>
+        <source>Choose…</source>
         <translation>选择…</translation>
     </message>
     <message>
@@ -162,24 +184,40 @@
         <translation>压缩</translation>
     </message>
     <message>
-        <source>Unpack and compare</source>
-        <translation>解包并比较</translation>
+        <source>Packing</source>
+        <translation>正在压缩</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
+        <source>Unpack</source>
+        <translation>解压</translation>
     </message>
     <message>
-        <source>The archive</source>
-        <translation>压缩文件</translation>
+        <source>Unpacking</source>
+        <translation>正在解压</translation>
     </message>
     <message>
         <source>Show in the file browser</source>
         <translation>在文件管理器中显示</translation>
     </message>
     <message>
+        <source>Asked the file browser to show %1.</source>
+        <translation>已请求文件浏览器显示 %1。</translation>
+    </message>
+    <message>
         <source>Send to the recycle bin</source>
         <translation>移到回收站</translation>
+    </message>
+    <message>
+        <source>The archive is in the recycle bin.</source>
+        <translation>压缩文件已在回收站中。</translation>
+    </message>
+    <message>
+        <source>There is no archive.</source>
+        <translation>没有压缩文件。</translation>
+    </message>
+    <message>
+        <source>Cancelled: no archive is left.</source>
+        <translation>已取消：没有留下压缩文件。</translation>
     </message>
     <message>
         <source>may be used</source>
@@ -201,36 +239,20 @@
         <source>Choose a folder</source>
         <translation>选择文件夹</translation>
     </message>
-    <message>
-        <source>Not done: cancelled, or a file can&apos;t be read or written.</source>
-        <translation>未完成：已取消，或有文件无法读写。</translation>
-    </message>
-    <message>
-        <source>Files packed: %1, archive: %2</source>
-        <translation>已压缩的文件：%1，压缩文件：%2</translation>
-    </message>
-    <message>
-        <source>Files unpacked: %1. Both folders are equal.</source>
-        <translation>已解压的文件：%1。两个文件夹相同。</translation>
-    </message>
-    <message>
-        <source>The folders differ: %1</source>
-        <translation>文件夹不同：%1</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>压缩文件已在回收站中。</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>没有压缩文件。</translation>
-    </message>
 </context>
 <context>
     <name>LanguagesPage</name>
     <message>
         <source>Use this language</source>
         <translation>使用此语言</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>现在使用：%1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>已在使用：%1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -266,14 +288,49 @@
     </message>
 </context>
 <context>
+    <name>LogModel</name>
+    <message>
+        <source>Debug</source>
+        <translation>调试</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+</context>
+<context>
     <name>LoggingPage</name>
     <message>
         <source>Log folder</source>
         <translation>日志文件夹</translation>
     </message>
     <message>
-        <source>Minimum level</source>
-        <translation>最低级别</translation>
+        <source>Minimum level written</source>
+        <translation>写入的最低级别</translation>
     </message>
     <message>
         <source>A line from the showcase</source>
@@ -294,6 +351,10 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>已按级别“%1”记录。</translation>
     </message>
     <message>
         <source>The log of this process</source>
@@ -331,12 +392,12 @@
         <translation>关于产品系列</translation>
     </message>
     <message>
-        <source>No answer yet</source>
-        <translation>尚无应答</translation>
+        <source>%1: read and closed.</source>
+        <translation>%1：已阅读并关闭。</translation>
     </message>
     <message>
-        <source>The last answer: %1</source>
-        <translation>上次应答：%1</translation>
+        <source>%1: the answer is %2.</source>
+        <translation>%1：回答是 %2。</translation>
     </message>
 </context>
 <context>
@@ -399,45 +460,10 @@
     </message>
 </context>
 <context>
-    <name>NativeDialogsPage</name>
-    <message>
-        <source>Pictures (*.jpg *.png *.tif);;All files (*)</source>
-        <translation>图片 (*.jpg *.png *.tif);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Open a file</source>
-        <translation>打开文件</translation>
-    </message>
-    <message>
-        <source>Open files</source>
-        <translation>打开多个文件</translation>
-    </message>
-    <message>
-        <source>Save a file</source>
-        <translation>保存文件</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>选择文件夹</translation>
-    </message>
-    <message>
-        <source>Choose a folder by its pictures</source>
-        <translation>按图片选择文件夹</translation>
-    </message>
-    <message>
-        <source>What was chosen</source>
-        <translation>所选内容</translation>
-    </message>
-</context>
-<context>
     <name>Pages</name>
     <message>
-        <source>Logging</source>
-        <translation>日志</translation>
-    </message>
-    <message>
-        <source>Every line goes through one bridge to the logger of the process.</source>
-        <translation>每一行都经由同一桥接到达进程的日志记录器。</translation>
+        <source>Workplace</source>
+        <translation>工作区</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -448,6 +474,14 @@
         <translation>此产品的首选项，以及产品系列共享的文件。</translation>
     </message>
     <message>
+        <source>Languages</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
+        <translation>一次选择适用于所有产品；文字、日期和数字立即随之改变。</translation>
+    </message>
+    <message>
         <source>Storage</source>
         <translation>存储位置</translation>
     </message>
@@ -456,12 +490,20 @@
         <translation>产品使用的所有文件夹和文件。</translation>
     </message>
     <message>
-        <source>Languages</source>
-        <translation>语言</translation>
+        <source>State and process</source>
+        <translation>状态和进程</translation>
     </message>
     <message>
-        <source>One choice for all products; texts, dates and numbers follow it at once.</source>
-        <translation>一次选择适用于所有产品；文字、日期和数字立即随之改变。</translation>
+        <source>What the product remembers about its launches, and the process it runs in.</source>
+        <translation>产品记录的启动信息，以及它所在的进程。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
+        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -472,12 +514,12 @@
         <translation>延迟调用、工作项和等待：处理期间窗口仍可响应。</translation>
     </message>
     <message>
-        <source>Files</source>
-        <translation>文件</translation>
+        <source>Resources</source>
+        <translation>资源</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
+        <source>Icons, fonts, countries, rules and style sheets that come with the library.</source>
+        <translation>随库提供的图标、字体、国家、规则和样式表。</translation>
     </message>
     <message>
         <source>Appearance</source>
@@ -496,20 +538,12 @@
         <translation>产品自有的消息框：宽 520 像素，可用鼠标或键盘应答。</translation>
     </message>
     <message>
-        <source>Drawing tools</source>
-        <translation>绘图工具</translation>
+        <source>Fatal messages</source>
+        <translation>严重错误</translation>
     </message>
     <message>
-        <source>Guide lines and cursors of the correction tools, on a picture painted by code.</source>
-        <translation>校正工具的参考线和光标，图片由程序绘制。</translation>
-    </message>
-    <message>
-        <source>Native dialogs</source>
-        <translation>系统对话框</translation>
-    </message>
-    <message>
-        <source>The dialogs of the system for files and folders.</source>
-        <translation>用于文件和文件夹的系统对话框。</translation>
+        <source>Texts that can be shown when the process is in trouble, without allocating memory.</source>
+        <translation>进程出现问题时无需分配内存即可显示的文本。</translation>
     </message>
     <message>
         <source>Web service</source>
@@ -519,12 +553,123 @@
         <source>A SOAP client and the small service that it asks, both in this process.</source>
         <translation>SOAP 客户端及其调用的小型服务，两者都在本进程中。</translation>
     </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Every line goes through one bridge to the logger of the process.</source>
+        <translation>每一行都经由同一桥接到达进程的日志记录器。</translation>
+    </message>
+</context>
+<context>
+    <name>ResourcesPage</name>
+    <message>
+        <source>Icons</source>
+        <translation>图标</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>国家</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Style sheets</source>
+        <translation>样式表</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n 个图标</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>未选择图标。</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>已复制：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n 条规则的起点：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>悬停</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>已选中</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>禁用</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>焦点</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Values are kept in</source>
-        <translation>值保存于</translation>
+        <source>Settings are kept in %1.</source>
+        <translation>设置保存在 %1。</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>设置重新保存在系统设置存储中。</translation>
+    </message>
+    <message>
+        <source>Logged from the next start on: %1</source>
+        <translation>下次启动起记录：%1</translation>
     </message>
     <message>
         <source>Minimum log level</source>
@@ -537,6 +682,14 @@
     <message>
         <source>Crash reports may be sent</source>
         <translation>允许发送崩溃报告</translation>
+    </message>
+    <message>
+        <source>Stored: on</source>
+        <translation>已保存：开</translation>
+    </message>
+    <message>
+        <source>Stored: off</source>
+        <translation>已保存：关</translation>
     </message>
     <message>
         <source>Any value</source>
@@ -559,6 +712,10 @@
         <translation>删除</translation>
     </message>
     <message>
+        <source>Removed: %1</source>
+        <translation>已删除：%1</translation>
+    </message>
+    <message>
         <source>The file of the product family</source>
         <translation>产品系列的文件</translation>
     </message>
@@ -575,12 +732,16 @@
         <translation>写入文件</translation>
     </message>
     <message>
-        <source>a temporary file, gone at the end</source>
-        <translation>临时文件，结束时删除</translation>
+        <source>Written and read back: %1 = %2</source>
+        <translation>已写入并读回：%1 = %2</translation>
     </message>
     <message>
-        <source>the system&apos;s own store</source>
-        <translation>系统自身的存储</translation>
+        <source>Written into the file of the product family.</source>
+        <translation>已写入产品系列的文件。</translation>
+    </message>
+    <message>
+        <source>The file of the product family cannot be written.</source>
+        <translation>无法写入产品系列的文件。</translation>
     </message>
 </context>
 <context>
@@ -596,6 +757,105 @@
     <message>
         <source>&amp;Language</source>
         <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Show the code</source>
+        <translation>显示代码</translation>
+    </message>
+    <message>
+        <source>Code of this page</source>
+        <translation>本页代码</translation>
+    </message>
+</context>
+<context>
+    <name>StatePage</name>
+    <message>
+        <source>yes</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>First launch on this profile</source>
+        <translation>此配置的首次启动</translation>
+    </message>
+    <message>
+        <source>Mode of the last launch</source>
+        <translation>上次启动的模式</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>尚无</translation>
+    </message>
+    <message>
+        <source>Identifier of this user</source>
+        <translation>此用户的标识符</translation>
+    </message>
+    <message>
+        <source>Reseller</source>
+        <translation>经销商</translation>
+    </message>
+    <message>
+        <source>Results saved as actions</source>
+        <translation>结果保存为动作</translation>
+    </message>
+    <message>
+        <source>Crash reports may be sent</source>
+        <translation>允许发送崩溃报告</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>进程</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>File version</source>
+        <translation>文件版本</translation>
+    </message>
+    <message>
+        <source>unknown: the file carries no version</source>
+        <translation>未知：文件没有版本</translation>
+    </message>
+    <message>
+        <source>Process number</source>
+        <translation>进程号</translation>
+    </message>
+    <message>
+        <source>Folder of the Qt plug-ins</source>
+        <translation>Qt 插件的文件夹</translation>
+    </message>
+    <message>
+        <source>Crash counter</source>
+        <translation>崩溃计数</translation>
+    </message>
+    <message>
+        <source>A module counts up before risky work and resets the counter after it. What is left after a crash is seen at the next start.</source>
+        <translation>模块在有风险的工作之前计数，之后清零。崩溃后留下的计数在下次启动时可见。</translation>
+    </message>
+    <message>
+        <source>Runs that ended abnormally</source>
+        <translation>异常结束的次数</translation>
+    </message>
+    <message>
+        <source>Count up</source>
+        <translation>计数</translation>
+    </message>
+    <message>
+        <source>Counted up: work is under way.</source>
+        <translation>已计数：工作进行中。</translation>
+    </message>
+    <message>
+        <source>Reset the counter</source>
+        <translation>计数清零</translation>
+    </message>
+    <message>
+        <source>Reset: the work ended well.</source>
+        <translation>已清零：工作正常结束。</translation>
     </message>
 </context>
 <context>
@@ -651,6 +911,10 @@
     <message>
         <source>Refresh</source>
         <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Read again at %1.</source>
+        <translation>已于 %1 重新读取。</translation>
     </message>
     <message>
         <source>not on this system</source>
@@ -921,6 +1185,97 @@
     </message>
 </context>
 <context>
+    <name>ToolPanel</name>
+    <message>
+        <source>Accept</source>
+        <translation>接受</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>没有工具</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>请在左侧选择工具。点击还会打开、关闭或应用什么，由产品的规则决定。</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
+        <translation>沿着应当水平的物体拖出一条线。按住 Shift 时以 15° 为步长转动。</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>梯形校正</translation>
+    </message>
+    <message>
+        <source>Lay both lines along edges that are upright in reality. They snap to the thirds of the picture and to each other; with Ctrl they do not.</source>
+        <translation>将两条线沿着现实中竖直的边缘放置。它们会吸附到图片的三分线以及彼此；按住 Ctrl 时不吸附。</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>畸变</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>相机和镜头</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>所有词都必须出现，顺序不限。</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>裁剪</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>宽高比</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>移轴</translation>
+    </message>
+    <message>
+        <source>What lies between the outer lines stays sharp.</source>
+        <translation>外侧线条之间的部分保持清晰。</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>模糊</translation>
+    </message>
+    <message>
+        <source>Width of the sharp area</source>
+        <translation>清晰区域的宽度</translation>
+    </message>
+    <message>
+        <source>The calibration database cannot be read.</source>
+        <translation>无法读取校准数据库。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lens(es) found</source>
+        <translation>
+            <numerusform>找到 %n 个镜头</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n millisecond(s)</source>
+        <translation>
+            <numerusform>%n 毫秒</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>WebServicePage</name>
     <message>
         <source>Amount</source>
@@ -949,6 +1304,191 @@
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>Workplace</name>
+    <message>
+        <source>Horizon</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Keystoning</source>
+        <translation>梯形校正</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>畸变</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>裁剪</translation>
+    </message>
+    <message>
+        <source>Tilt-shift</source>
+        <translation>移轴</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) read. The rule behind a click is shown here.</source>
+        <translation>
+            <numerusform>已读取 %n 条规则。每次点击所依据的规则显示在这里。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules cannot be read: %1</source>
+        <translation>无法读取规则：%1</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Reset all corrections</source>
+        <translation>重置所有校正</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Preview of the current tool</source>
+        <translation>当前工具的预览</translation>
+    </message>
+    <message>
+        <source>Compare before and after</source>
+        <translation>比较校正前后</translation>
+    </message>
+    <message>
+        <source>Save the corrections as a preset</source>
+        <translation>将校正保存为预设</translation>
+    </message>
+    <message>
+        <source>Apply to the full picture</source>
+        <translation>应用到整张图片</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Pack…</source>
+        <translation>压缩…</translation>
+    </message>
+    <message>
+        <source>Send the saved picture to the recycle bin</source>
+        <translation>将保存的图片移到回收站</translation>
+    </message>
+    <message>
+        <source>No rule of %1 holds for %2.</source>
+        <translation>%1 没有适用于 %2 的规则。</translation>
+    </message>
+    <message>
+        <source>Rule: %1</source>
+        <translation>规则：%1</translation>
+    </message>
+    <message>
+        <source>No corrections yet</source>
+        <translation>还没有校正</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>校正前后相同。</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>校正前后不同。</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>差异值：%1</translation>
+    </message>
+    <message>
+        <source>Open a photo</source>
+        <translation>打开照片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.jpeg *.png *.bmp)</source>
+        <translation>图片 (*.jpg *.jpeg *.png *.bmp)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Applying the corrections</source>
+        <translation>正在应用校正</translation>
+    </message>
+    <message>
+        <source>Stopped. The picture is unchanged.</source>
+        <translation>已停止。图片未更改。</translation>
+    </message>
+    <message>
+        <source>Applied in %1 s</source>
+        <translation>应用用时 %1 秒</translation>
+    </message>
+    <message>
+        <source>Save the picture</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.png)</source>
+        <translation>图片 (*.jpg *.png)</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>正在保存 %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved: %2</source>
+        <translation>无法保存 %1：%2</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>Pack the saved pictures</source>
+        <translation>压缩保存的图片</translation>
+    </message>
+    <message>
+        <source>Archives (*.zip)</source>
+        <translation>压缩文件 (*.zip)</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>正在压缩到 %1</translation>
+    </message>
+    <message>
+        <source>Save a preset</source>
+        <translation>保存预设</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>My preset</source>
+        <translation>我的预设</translation>
+    </message>
+    <message>
+        <source>Preset saved: %1</source>
+        <translation>预设已保存：%1</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>In the recycle bin: %1</source>
+        <translation>已移到回收站：%1</translation>
+    </message>
+    <message>
+        <source>Cannot be moved to the recycle bin: %1</source>
+        <translation>无法移到回收站：%1</translation>
     </message>
 </context>
 </TS>

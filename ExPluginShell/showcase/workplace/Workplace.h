@@ -1,0 +1,102 @@
+#pragma once
+
+#include "Correction.h"
+#include "pages/PageWidget.h"
+#include "Photo.h"
+#include "RulesMachine.h"
+
+#include <array>
+
+class Canvas;
+class CQRunnableItem;
+class QButtonGroup;
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QToolButton;
+class ToolPanel;
+
+/// The page the showcase opens on: a photo, the correction tools and what becomes of the result.
+///
+/// The tools obey the rules of the product, see RulesMachine. Corrections are carried out on a small picture
+/// while one works, and on the full one when "Apply" is pressed. Saving, packing and presets stand in
+/// WorkplaceFiles.cpp.
+class Workplace : public PageWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Workplace(QWidget* parent);
+
+    void prepareForPicture() override;
+    /// What the user does: presses the button of a tool, or confirms, cancels or resets it.
+    void perform(const QString& module, const QString& activity);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private Q_SLOTS:
+    void replay(); // also a delayed call
+
+private:
+    // Making the page
+    QWidget* makeToolBar();
+    QHBoxLayout* makeCommands();
+    QWidget* makeSide();
+    QToolButton* makeTool(const QString& icon, const char* text, int size);
+    void connectParts();
+
+    // The tools
+    void toolClicked(int tool);
+    void touch();
+    void carryOut(const RulesMachine::Rule& rule);
+    void showTools();
+    Step* shownStep();
+    void resetStep(Tool tool);
+
+    // The picture
+    void setPhoto(const Photo& photo);
+    void undo();
+    void resetAll();
+    QVector<Step> steps() const;
+    void renewBase();
+    void showPicture();
+    void setComparing(bool on);
+
+    // WorkplaceFiles.cpp
+    void open();
+    void apply();
+    void showResult(const QImage& result, qint64 milliseconds);
+    void save();
+    void pack();
+    void trash();
+    void savePreset();
+    void usePreset(int index);
+    void listPresets();
+    bool run(CQRunnableItem& item, const QString& title);
+
+    RulesMachine m_rules;
+    Photo m_photo;
+    std::array<Step, toolCount> m_steps;
+    QVector<Step> m_applied;
+    QImage m_original; ///< of the size of the canvas
+    QImage m_base;     ///< with all applied steps
+    QImage m_result;   ///< the full picture; null until it was computed
+    QStringList m_saved;
+
+    Canvas* m_canvas;
+    ToolPanel* m_panel;
+    QButtonGroup* m_tools;
+    QToolButton* m_undo = nullptr;
+    QToolButton* m_compare = nullptr;
+    QToolButton* m_preview = nullptr;
+    QToolButton* m_trash = nullptr;
+    QComboBox* m_presets = nullptr;
+    QPushButton* m_apply = nullptr;
+    QPushButton* m_save = nullptr;
+    QPushButton* m_pack = nullptr;
+    QLabel* m_rule;
+    QLabel* m_answer;
+    QLabel* m_history = nullptr;
+};

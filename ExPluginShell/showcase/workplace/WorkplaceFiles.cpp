@@ -1,0 +1,221 @@
+#include "RenderItem.h"
+#include "Workplace.h"
+
+#include <utilsDll/ArchiveJob.h>
+#include <utilsDll/FileManagement.h>
+#include <utilsDll/GuiUtils.h>
+#include <utilsDll/MessageBox.h>
+#include <utilsDll/NativeDialogs.h>
+#include <utilsDll/ProgressBox.h>
+#include <utilsDll/Settings.h>
+
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QInputDialog>
+#include <QLocale>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+constexpr int boxHeight = 165;
+const QString presetsKey = QStringLiteral("showcase/presets");
+
+/// Writes a picture to a file.
+class SaveItem : public CQRunnableItem
+{
+public:
+    SaveItem(QImage picture, QString path)
+        : m_picture(std::move(picture))
+        , m_path(std::move(path))
+    {
+        setAutoDelete(false);
+    }
+    bool doRun() override
+    {
+        QImageWriter writer(m_path);
+        writer.setQuality(92);
+        const bool written = writer.write(m_picture);
+        error = writer.errorString();
+        return written;
+    }
+    QString error;
+
+private:
+    const QImage m_picture;
+    const QString m_path;
+};
+
+CNativeDialogs& dialogs()
+{
+    return Singleton<CNativeDialogs>::instance();
+}
+
+} // namespace
+
+void Workplace::open()
+{
+    const QString path = dialogs().getOpenFileName(this, tr("Open a photo"), QDir::homePath(),
+                                                   tr("Pictures (*.jpg *.jpeg *.png *.bmp)"), nullptr, {});
+    if (path.isEmpty()) {
+        return;
+    }
+    QString error;
+    const Photo photo = Photo::fromFile(path, &error);
+    if (photo.small.isNull()) {
+        CMessageBox::critical(this, tr("%1 cannot be read: %2").arg(QFileInfo(path).fileName(), error),
+                              boxHeight);
+        return;
+    }
+    setPhoto(photo);
+}
+
+//! [code]
+bool Workplace::run(CQRunnableItem& item, const QString& title)
+{
+    CProgressBox box(title, window());
+    if (auto* const render = qobject_cast<RenderItem*>(&item)) {
+        connect(render, &RenderItem::progress, &box, [&box](int percent) { box.setProgress(percent, 100); });
+    }
+    return box.run(item) == CProgressBox::Succeeded;
+}
+//! [code]
+
+void Workplace::apply()
+{
+    RenderItem item(m_photo.full, steps());
+    QElapsedTimer timer;
+    timer.start();
+    if (!run(item, tr("Applying the corrections"))) {
+        say(m_answer, [] { return tr("Stopped. The picture is unchanged."); });
+        return;
+    }
+    showResult(item.result(), timer.elapsed());
+}
+
+void Workplace::showResult(const QImage& result, qint64 milliseconds)
+{
+    m_result = result;
+    double difference = 0.0;
+    const QImage after = result.scaled(m_original.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    compareImages(m_original, after, difference, differenceThreshold);
+    say(m_answer, [=] {
+        return tr("Applied in %1 s").arg(QLocale().toString(milliseconds / 1000.0, 'f', 1)) +
+               QStringLiteral("\n") + sizeToString(result.size()) + QStringLiteral("\n") +
+               tr("Measure: %1").arg(QLocale().toString(difference, 'g', 3));
+    });
+    showTools();
+}
+
+void Workplace::save()
+{
+    const QString name = QFileInfo(m_photo.name).completeBaseName() + QStringLiteral("-corrected.jpg");
+    const QString path = dialogs().getSaveFileName(this, tr("Save the picture"), QDir::home().filePath(name),
+                                                   tr("Pictures (*.jpg *.png)"), nullptr, {});
+    if (path.isEmpty()) {
+        return;
+    }
+    SaveItem item(m_result, path);
+    if (!run(item, tr("Saving %1").arg(QFileInfo(path).fileName()))) {
+        CMessageBox::critical(this, tr("%1 cannot be saved: %2").arg(QFileInfo(path).fileName(), item.error),
+                              boxHeight);
+        return;
+    }
+    m_saved.removeAll(path);
+    m_saved += path;
+    say(m_answer, [path] {
+        return tr("Saved: %1").arg(QFileInfo(path).fileName()) + QStringLiteral("\n") +
+               fileSizeToString(QFileInfo(path).size());
+    });
+    showTools();
+}
+
+void Workplace::pack()
+{
+    const QString path = dialogs().getSaveFileName(this, tr("Pack the saved pictures"),
+                                                   QDir::home().filePath(QStringLiteral("pictures.zip")),
+                                                   tr("Archives (*.zip)"), nullptr, {});
+    if (path.isEmpty()) {
+        return;
+    }
+    CArchiveJob job(ArchiveTask::pack(m_saved, path));
+    CProgressBox box(tr("Packing %1").arg(QFileInfo(path).fileName()), window());
+    connect(&job, &CArchiveJob::progressed, &box,
+            qOverload<qint64, qint64, const QString&>(&CProgressBox::setProgress));
+    const bool packed = box.run(job) == CProgressBox::Succeeded;
+    const ArchiveReport report = job.report();
+    if (!packed && !report.stopped) {
+        CMessageBox::critical(this, report.summary(), boxHeight);
+    }
+    say(m_answer, [report] { return report.summary(); });
+}
+
+void Workplace::savePreset()
+{
+    bool accepted = false;
+    const QString name = QInputDialog::getText(this, tr("Save a preset"), tr("Name"), QLineEdit::Normal,
+                                               tr("My preset"), &accepted);
+    if (!accepted || name.trimmed().isEmpty()) {
+        return;
+    }
+    QVariantList stored;
+    for (const Step& step : steps()) {
+        stored += step.toMap();
+    }
+    CSettings settings;
+    QVariantMap presets = settings.value(presetsKey).toMap();
+    presets[name.trimmed()] = stored;
+    settings.setValue(presetsKey, presets);
+    settings.sync();
+    listPresets();
+    say(m_answer, [name] { return tr("Preset saved: %1").arg(name.trimmed()); });
+}
+
+void Workplace::listPresets()
+{
+    const QString chosen = m_presets->currentData().toString();
+    m_presets->clear();
+    m_presets->addItem(tr("Presets"));
+    const QVariantMap presets = CSettings().value(presetsKey).toMap();
+    for (auto it = presets.begin(); it != presets.end(); ++it) {
+        m_presets->addItem(it.key(), it.key());
+    }
+    m_presets->setCurrentIndex(qMax(0, m_presets->findData(chosen)));
+}
+
+void Workplace::usePreset(int index)
+{
+    if (index <= 0) {
+        return;
+    }
+    resetAll();
+    for (const QVariant& stored :
+         CSettings().value(presetsKey).toMap().value(m_presets->itemText(index)).toList()) {
+        const Step step = Step::fromMap(stored.toMap());
+        if (step.tool == Tool::Distortion) {
+            perform(moduleOf(step.tool), QStringLiteral("ModuleActivate"));
+            m_steps[int(step.tool)] = step;
+        } else {
+            m_applied += step;
+        }
+    }
+    showTools();
+    replay();
+}
+
+void Workplace::trash()
+{
+    const QString path = m_saved.takeLast();
+    const bool moved = moveFileToTrash(QDir::toNativeSeparators(path)) == FileOperationSucceeded;
+    say(m_answer, [=] {
+        return (moved ? tr("In the recycle bin: %1") : tr("Cannot be moved to the recycle bin: %1"))
+            .arg(QFileInfo(path).fileName());
+    });
+    showTools();
+}
