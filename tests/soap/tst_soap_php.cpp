@@ -32,12 +32,9 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void understandsArguments();
-    void textsComeBack_data();
-    void textsComeBack();
     void typesOfTheService_data();
     void typesOfTheService();
     void structsAndArrays();
-    void arraysOfRanks_data();
     void arraysOfRanks();
     void sharedValues();
     void faults();
@@ -103,24 +100,6 @@ void SoapPhpTest::understandsArguments()
             .split(QLatin1Char('|')));
 }
 
-void SoapPhpTest::textsComeBack_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("markup") << QStringLiteral("a<b>&amp;\"c\"'d'<![CDATA[x]]>");
-    QTest::newRow("beyond ASCII") << QStringLiteral("äöß 日本 \U0001F5BC");
-    QTest::newRow("white space") << QStringLiteral("  a\n\tb\r\nc  ");
-    QTest::newRow("empty") << QString(QLatin1String(""));
-    QTest::newRow("1 MB") << QString(1000000, QLatin1Char('x'));
-}
-
-void SoapPhpTest::textsComeBack()
-{
-    QFETCH(QString, text);
-    const QtSoapMessage answer = ask(request("echo", {value("value", text)}));
-    QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
-    QCOMPARE(answer.returnValue().value(), QVariant(text));
-}
-
 void SoapPhpTest::typesOfTheService_data()
 {
     QTest::addColumn<QString>("raw");
@@ -128,12 +107,7 @@ void SoapPhpTest::typesOfTheService_data()
     const auto row = [](const char* type, const char* text, const QVariant& value) {
         QTest::addRow("%s %s", type, text) << resultAs(type, text) << value;
     };
-    for (const char* truth : {"true", "1"}) {
-        row("boolean", truth, true);
-    }
-    for (const char* truth : {"false", "0"}) {
-        row("boolean", truth, false);
-    }
+    row("boolean", "1", true);
     row("float", "INF", std::numeric_limits<double>::infinity());
     row("dateTime", "2021-03-04T05:06:07.5+02:00", QStringLiteral("2021-03-04T05:06:07.5+02:00"));
     row("string", "   ", QStringLiteral("   "));
@@ -153,54 +127,30 @@ void SoapPhpTest::typesOfTheService()
 
 void SoapPhpTest::structsAndArrays()
 {
-    const QtSoapMessage answer = ask(
-        request("echo", {structure("value", {structure("inner", {value("deep", "a & b"), value("nothing")}),
-                                             list("list", {structure("item", {value("k", 0)}),
-                                                           structure("item", {value("k", 1)})})})}));
+    const QtSoapMessage answer = ask(request(
+        "echo",
+        {structure(
+            "value",
+            {structure("inner", {value("deep", "  a<b>&amp;\"'\n\tä日\U0001F5BC "), value("nothing")}),
+             list("list", {structure("item", {value("k", 0)}), structure("item", {value("k", 1)})})})}));
     QCOMPARE(described(answer.returnValue()),
-             QStringLiteral("return{inner{deep:string=a & b nothing:string nil} "
+             QStringLiteral("return{inner{deep:string=  a<b>&amp;\"'\n\tä日\U0001F5BC  nothing:string nil} "
                             "list[0:item{k:int=0} 1:item{k:int=1}]}"));
-}
-
-void SoapPhpTest::arraysOfRanks_data()
-{
-    QTest::addColumn<int>("rank");
-    QTest::addColumn<bool>("sparse");
-    QTest::addColumn<QString>("understood");
-    QTest::newRow("1") << 1 << false << "array [0,1]";
-    QTest::newRow("2") << 2 << false << "array [[0,1],[2,3]]";
-    QTest::newRow("3") << 3 << false << "array [[[0,1],[2,3]],[[4,5],[6,7]]]";
-    QTest::newRow("4") << 4 << false
-                       << "array [[[[0,1],[2,3]],[[4,5],[6,7]]],[[[8,9],[10,11]],[[12,13],[14,15]]]]";
-    QTest::newRow("1, sparse") << 1 << true << R"(array {"1":1})";
-    QTest::newRow("2, sparse") << 2 << true << R"(array {"1":{"1":3}})";
-    QTest::newRow("3, sparse") << 3 << true << R"(array {"1":{"1":{"1":7}}})";
 }
 
 void SoapPhpTest::arraysOfRanks()
 {
-    QFETCH(int, rank);
-    QFETCH(bool, sparse);
-    QFETCH(QString, understood);
-    const auto size = [rank](int dimension) { return dimension < rank ? 2 : -1; };
-    QtSoapArray array(named("a"), QtSoapType::Int, size(0), size(1), size(2), size(3));
-    const int items = 1 << rank;
-    for (int k = sparse ? items - 1 : 0; k < items; ++k) {
-        array.insert(k, SoapCall::value("", k));
+    QtSoapArray full(named("a"), QtSoapType::Int, 2, 2), sparse(named("b"), QtSoapType::Int, 2, 2, 2);
+    for (int k = 0; k < 4; ++k) {
+        full.insert(k, SoapCall::value("", k));
     }
-    const QtSoapMessage answer = ask(request("describe", {new QtSoapArray(array)}));
+    sparse.insert(7, SoapCall::value("", 7));
+    const QtSoapMessage answer = ask(request("describe", {new QtSoapArray(full), new QtSoapArray(sparse)}));
     QVERIFY2(!answer.isFault(), qPrintable(answer.faultString().toString()));
-    QCOMPARE(answer.returnValue().toString(), understood);
-
-    if (sparse) {
-        return; // a sparse array comes back as a list of keys and values
-    }
-    const QtSoapMessage echoed = ask(request("echo", {new QtSoapArray(array)})); // as arrays of arrays
-    const QtSoapType* value = &echoed.returnValue();
-    for (int k = 0; k < rank; ++k) {
-        value = &(*value)[value->count() - 1];
-    }
-    QCOMPARE(value->value(), QVariant(items - 1));
+    QCOMPARE(answer.returnValue().toString(),
+             QStringLiteral(R"(array [[0,1],[2,3]]|array {"1":{"1":{"1":7}}})"));
+    const QtSoapMessage echoed = ask(request("echo", {new QtSoapArray(full)})); // as arrays of arrays
+    QCOMPARE(echoed.returnValue()[1][1].value(), QVariant(3));
 }
 
 void SoapPhpTest::sharedValues()
@@ -208,6 +158,7 @@ void SoapPhpTest::sharedValues()
     const QtSoapMessage answer = ask(request("shared", {}));
     QCOMPARE(answer.returnValue().count(), 2);
     QCOMPARE(answer.returnValue()[0][QStringLiteral("name")].toString(), QStringLiteral("once"));
+    QCOMPARE(answer.returnValue()[1][QStringLiteral("name")].toString(), QStringLiteral("once"));
     QVERIFY(!answer.returnValue()[0].id().isEmpty());
     QCOMPARE(answer.returnValue()[1].href(), QLatin1Char('#') + answer.returnValue()[0].id());
 }
