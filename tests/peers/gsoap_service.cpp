@@ -13,7 +13,8 @@ int p__describe(soap* context, char* text, bool truth, double number, p__Person*
     std::string all = text ? text : "(nil)";
     all += truth ? "|true|" : "|false|";
     all += std::to_string(number) + '|';
-    all += person ? std::string(person->name) + ' ' + std::to_string(person->first_x002dborn_x002e2) : "(nil)";
+    all +=
+        person ? std::string(person->name) + ' ' + std::to_string(person->first_x002dborn_x002e2) : "(nil)";
     for (int k = 0; numbers && k < numbers->__size; ++k) {
         all += '|' + std::to_string(numbers->__ptr[k]);
     }

@@ -13,7 +13,8 @@ QtSoapSimpleType* number(int n)
 
 } // namespace
 
-/// Arrays: positions of 1 to 5 dimensions, refusals, iterators, and their form in messages.
+/// Arrays: positions of 1 to 5 dimensions, refusals, iterators, and their form in messages. References between
+/// elements, which form lists as well.
 class SoapArraysTest : public QObject
 {
     Q_OBJECT
@@ -24,8 +25,11 @@ private Q_SLOTS:
     void arrayRefuses();
     void mixedItemsAreKept();
     void arrayIteratorVisitsInOrder();
+    void longArrays();
     void arrays_data();
     void arrays();
+    void references_data();
+    void references();
 };
 
 void SoapArraysTest::arrayPositions()
@@ -120,6 +124,35 @@ void SoapArraysTest::arrayIteratorVisitsInOrder()
     QVERIFY(it != QtSoapArrayIterator(grid));
 }
 
+/// The items of a long array that was read lie in blocks; nothing of that can be seen.
+void SoapArraysTest::longArrays()
+{
+    constexpr int items = 1000;
+    QByteArray text;
+    for (int k = 0; k < items; ++k) {
+        text += k == 700 ? QByteArray("<s><t>x</t></s>") : "<i>" + QByteArray::number(k) + "</i>";
+    }
+    QtSoapMessage message, again;
+    QVERIFY(message.setContent(envelope("<r><a c:arrayType='d:int[]'>" + text + "</a></r>")));
+    auto& array = const_cast<QtSoapArray&>(dynamic_cast<const QtSoapArray&>(message.returnValue()));
+    QtSoapArray copy(array);
+    QCOMPARE(array.count(), items);
+    QCOMPARE(array[699].toInt(), 699);
+    QCOMPARE(described(array[700]), QStringLiteral("s{t:string=x}"));
+    QVERIFY(!array[items].isValid() && !array.at(-1).isValid());
+    array.insert(500, number(5000));
+    array.append(number(1));
+    QCOMPARE(array.count(), items + 1);
+    QCOMPARE(array[500].toInt() + array[items].toInt(), 5001);
+    QVERIFY(again.setContent(message.toXmlString().toUtf8()));
+    QCOMPARE(described(again.returnValue()), described(array));
+    QCOMPARE(copy[500].toInt(), 500);
+    copy = array;
+    QCOMPARE(described(copy), described(array));
+    array.clear();
+    QCOMPARE(array.count() + array.at(400).toInt(), 0);
+}
+
 void SoapArraysTest::arrays_data()
 {
     QTest::addColumn<QByteArray>("attributes");
@@ -162,6 +195,56 @@ void SoapArraysTest::arrays()
     QtSoapMessage again; // and as written by the library
     QVERIFY2(again.setContent(message.toXmlString().toUtf8()), qPrintable(again.errorString()));
     QCOMPARE(described(again.returnValue()), contents);
+}
+
+void SoapArraysTest::references_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("contents"); // of the first entry; or the error
+    QTest::newRow("entries of the body")
+        << QByteArray("<r><v href='#1'/></r><multiRef id='1'><n href='#2'/></multiRef>"
+                      "<multiRef id='2' i:type='d:int'>7</multiRef>")
+        << "r{v{n:int=7}}";
+    QTest::newRow("shared inside") << QByteArray("<r><a id='1'><x>1</x></a><b href='#1'/><c href='#1'/></r>")
+                                   << "r{a{x:string=1} b{x:string=1} c{x:string=1}}";
+    QTest::newRow("array, and its items")
+        << QByteArray("<r><l href='#1'/></r><m id='1' c:arrayType='d:int[2]'><i href='#2'/><i>3</i></m>"
+                      "<m id='2' i:type='d:int'>2</m>")
+        << "r{l[0:i:int=2 1:i:int=3]}";
+    QTest::newRow("to something outside")
+        << QByteArray("<r><v href='cid:1'/><w href='#gone'/></r>") << "r{v:string nil w:string nil}";
+    QTest::newRow("to itself") << QByteArray("<r><v id='1' href='#1'/></r>") << "refers to itself";
+    QTest::newRow("in a circle") << QByteArray("<r><a id='1'><b href='#1'/></a></r>") << "refers to itself";
+    QByteArray bomb = "<r href='#9'/><m id='0'><x/></m>";
+    for (char k = '1'; k <= '9'; ++k) {
+        const QByteArray one = QByteArray("<x href='#") + char(k - 1) + "'/>";
+        bomb += QByteArray("<m id='") + k + "'>" + one.repeated(10) + "</m>";
+    }
+    QTest::newRow("ten to the ninth") << bomb << "References make";
+    QByteArray deep = "<r href='#0'/>";
+    for (int k = 0; k < 300; ++k) {
+        deep += QStringLiteral("<m id='%1'><x href='#%2'/></m>").arg(k).arg(k + 1).toUtf8();
+    }
+    QTest::newRow("300 levels") << deep << "References nest";
+}
+
+void SoapArraysTest::references()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, contents);
+    QtSoapMessage message, again;
+    const bool read = message.setContent(envelope(body));
+    if (!contents.startsWith(QStringLiteral("r{"))) {
+        QVERIFY(!read);
+        QVERIFY2(message.errorString().contains(contents), qPrintable(message.errorString()));
+        return;
+    }
+    QVERIFY2(read, qPrintable(message.errorString()));
+    QCOMPARE(described(message.method()), contents);
+    QVERIFY(message.method()[message.method().count() - 1].href().startsWith(QLatin1Char('#')));
+    QVERIFY(again.setContent(message.toXmlString().toUtf8())); // written out
+    QCOMPARE(described(again.method()), contents);
+    QCOMPARE(again.bodyItemCount(), message.bodyItemCount());
 }
 
 TOLVAN_CORE_TEST_MAIN(SoapArraysTest)

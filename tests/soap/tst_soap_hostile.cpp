@@ -61,6 +61,7 @@ private Q_SLOTS:
     void isAccepted_data();
     void isAccepted();
     void truncatedAnywhere();
+    void limitsOfTheClient();
 };
 
 void SoapHostileTest::isRefused_data()
@@ -83,7 +84,7 @@ void SoapHostileTest::isRefused_data()
     text("SOAP 1.2", "<Envelope xmlns='http://www.w3.org/2003/05/soap-envelope'><Body/></Envelope>",
          "another SOAP version");
     text("no namespace", "<Envelope><Body/></Envelope>", "another SOAP version");
-    text("no body", "<e:Envelope xmlns:e='" SOAPv11_ENVELOPE "'/>", "no body");
+    text("no body", "<e:Envelope xmlns:e='" SOAPv11_ENVELOPE "'><e:Header/></e:Envelope>", "no body");
     text("two bodies", envelope("</e:Body><e:Body>"), "two bodies");
     text("header behind the body", envelope("</e:Body><e:Header/><e:Body>"), "behind the body");
     text("something behind the envelope", envelope("") + "<a/>", "Line 1");
@@ -105,7 +106,8 @@ void SoapHostileTest::isRefused_data()
     row("100,000 levels, open", "levels", [] { return envelope(repeated("<a>", 100000)); });
     row("100 MB of text", "larger than 64 MiB",
         [] { return envelope("<a>" + QByteArray(100000000, 'x') + "</a>"); });
-    row("3,000,000 elements", "elements", [] { return envelope(repeated("<a/>", 3000000)); });
+    row("3,000,000 elements", "of memory", [] { return envelope(repeated("<a/>", 3000000)); });
+    row("60 MB of text", "of memory", [] { return envelope("<a>" + QByteArray(60000000, 'x') + "</a>"); });
     row("a tag of 100,000 attributes", "A tag is longer",
         [] { return envelope("<a" + numbered(" a", "=''", 100000) + "/>"); });
     row("the same in UTF-16", "A tag is longer",
@@ -181,6 +183,7 @@ void SoapHostileTest::isAccepted_data()
         << envelope("").replace("</e:Envelope>", "<x>y</x> </e:Envelope>\n<!-- -->");
     QTest::newRow("10,000 names and namespaces") << envelope(numbered("<a xmlns='u", "'/>", 10000));
     QTest::newRow("byte order mark") << "\xEF\xBB\xBF" + envelope("");
+    QTest::newRow("blank lines before the declaration") << "\r\n \n<?xml version='1.0'?>" + envelope("");
 }
 
 void SoapHostileTest::isAccepted()
@@ -201,6 +204,30 @@ void SoapHostileTest::truncatedAnywhere()
         QVERIFY2(!message.setContent(whole.left(length)), whole.left(length).constData());
         QVERIFY(message.isFault() && !message.errorString().isEmpty());
     }
+}
+
+void SoapHostileTest::limitsOfTheClient()
+{
+    const QByteArray document = envelope("<r>" + repeated("<a>x</a>", 20) + "</r>");
+    QtSoapMessage message;
+    QVERIFY(message.setContent(document));
+    const auto error = [&](const QtSoapLimits& limits) {
+        message.setLimits(limits);
+        return message.setContent(document) ? QString() : message.errorString();
+    };
+    QtSoapLimits limits;
+    limits.elements = 23; // envelope, body and entry
+    QCOMPARE(error(limits), QString());
+    limits.elements = 22;
+    QVERIFY(error(limits).contains(QStringLiteral("more than 22 elements")));
+    limits = QtSoapLimits();
+    limits.documentBytes = document.size() - 1;
+    QVERIFY(error(limits).contains(QStringLiteral("larger than")));
+    limits = QtSoapLimits();
+    limits.memoryBytes = 3000;
+    QVERIFY(error(limits).contains(QStringLiteral("of memory")));
+    QDomDocument tree;
+    QVERIFY(tree.setContent(document, true) && !message.setContent(tree));
 }
 
 TOLVAN_CORE_TEST_MAIN(SoapHostileTest)

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void texts_data();
     void texts();
     void namesThatXmlForbids();
+    void prefixesAndAttributes();
+    void prefixes();
     void literalAnswer();
     void encodedAnswer();
     void faults();
@@ -122,8 +124,9 @@ void SoapMessagesTest::texts_data()
     same("empty", QString(QLatin1String("")));
     same("long", QString(300000, QLatin1Char('x')));
     QTest::newRow("what XML cannot carry")
-        << QString(QStringLiteral("a\x01") + QChar(0xFFFE) + QChar(0xD800) + QLatin1Char('b') + QChar(0xDC00))
-        << QStringLiteral("a\uFFFD\uFFFD\uFFFDb\uFFFD");
+        << QString(QStringLiteral("a\x01") + QChar(0xFFFE) + QChar(0xD800) + QLatin1Char('b') +
+                   QChar(0xDC00) + QChar(0xD801)) // half of a pair, at the end
+        << QStringLiteral("a\uFFFD\uFFFD\uFFFDb\uFFFD\uFFFD");
 }
 
 void SoapMessagesTest::texts()
@@ -147,6 +150,9 @@ void SoapMessagesTest::namesThatXmlForbids()
     message.setMethod(QStringLiteral("a b><x/>"), QStringLiteral("urn:\"x"));
     message.addMethodArgument(QString(), QString(), 1);
     message.addMethodArgument(QStringLiteral("1st"), QString(), 2);
+    for (const char* name : {"a-b.9", "-a", "a:b", "z\u00D7", "_\u00C0"}) {
+        message.addMethodArgument(QString::fromUtf8(name), QString(), 4);
+    }
     auto* const item = value("i", 3);
     item->setId(QStringLiteral("\"<&"));
     message.addMethodArgument(item);
@@ -154,7 +160,68 @@ void SoapMessagesTest::namesThatXmlForbids()
     QCOMPARE(read.method().name().name(), QStringLiteral("a_x0020_b_x003e__x003c_x_x002f__x003e_"));
     QCOMPARE(read.method().name().uri(), QStringLiteral("urn:\"x"));
     QCOMPARE(read.method()[1].name().name(), QStringLiteral("_x0031_st"));
-    QCOMPARE(read.method()[2].id(), QStringLiteral("\"<&"));
+    QStringList names;
+    for (int k = 2; k < 7; ++k) {
+        names += read.method()[k].name().name();
+    }
+    QCOMPARE(names,
+             QStringList({QStringLiteral("a-b.9"), QStringLiteral("_x002d_a"), QStringLiteral("a_x003a_b"),
+                          QStringLiteral("z_x00d7_"), QStringLiteral("_\u00C0")}));
+    QCOMPARE(read.method()[7].id(), QStringLiteral("\"<&"));
+}
+
+void SoapMessagesTest::prefixesAndAttributes()
+{
+    const QString uri = QStringLiteral("urn:dsl");
+    Message message;
+    message.setMethod(QStringLiteral("u:GetInfo"), uri);
+    message.addMethodArgument(QStringLiteral("plain"), QString(), 1);
+    message.addMethodArgument(QStringLiteral("u:own"), QString(), 2);  // the prefix is in force
+    message.addMethodArgument(QStringLiteral("v:lost"), QString(), 3); // this one is not
+    message.addMethodArgument(QStringLiteral("xsi:bad"), uri, 4);      // has a meaning of its own
+    auto* const item = value("h", 5);
+    item->setAttribute(QtSoapQName(QStringLiteral("mustUnderstand"), QStringLiteral(SOAPv11_ENVELOPE)),
+                       QStringLiteral("0"));
+    item->setAttribute(QtSoapQName(QStringLiteral("mustUnderstand"), QStringLiteral(SOAPv11_ENVELOPE)),
+                       QStringLiteral("\"1\""));
+    item->setAttribute(QtSoapQName(QStringLiteral("lang"), QStringLiteral(XML_NAMESPACE)),
+                       QStringLiteral("en"));
+    item->setAttribute(QtSoapQName(QStringLiteral("a b"), uri), QStringLiteral("x"));
+    item->setAttribute(named("id"), QStringLiteral("not this way"));
+    item->setAttribute(named("gone"), QStringLiteral("x"));
+    item->setAttribute(named("gone"), QString());
+    message.addHeaderItem(new QtSoapSimpleType(*item));
+    delete item; // the copy has attributes of its own
+    const QDomElement header = written(message).firstChildElement().firstChildElement();
+    QCOMPARE(header.attributes().size(), 4); // three of these, and xsi:type
+    QCOMPARE(header.attributeNS(QStringLiteral(SOAPv11_ENVELOPE), QStringLiteral("mustUnderstand")),
+             QStringLiteral("\"1\""));
+    QCOMPARE(header.attributeNS(uri, QStringLiteral("a_x0020_b")), QStringLiteral("x"));
+    QVERIFY(message.headerItem(0).attribute(named("gone")).isNull());
+    QStringList names;
+    const QDomElement method = written(message).lastChildElement().firstChildElement();
+    for (QDomElement e = method.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        names += e.namespaceURI() + QLatin1Char(' ') + e.localName();
+    }
+    QCOMPARE(method.namespaceURI() + method.localName(), QStringLiteral("urn:dslGetInfo"));
+    QCOMPARE(names, QStringList({QStringLiteral(" plain"), QStringLiteral("urn:dsl own"),
+                                 QStringLiteral(" v_x003a_lost"), QStringLiteral("urn:dsl xsi_x003a_bad")}));
+}
+
+void SoapMessagesTest::prefixes()
+{
+    auto& namespaces = QtSoapNamespaces::instance();
+    QCOMPARE(namespaces.prefixFor(QStringLiteral(SOAPv11_ENVELOPE)), QStringLiteral("SOAP-ENV"));
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:a")).isEmpty());
+    namespaces.registerNamespace(QStringLiteral("p"), QStringLiteral("urn:a"));
+    namespaces.registerNamespace(QStringLiteral("p"), QStringLiteral("urn:b"));
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:a")).isEmpty());
+    QCOMPARE(namespaces.prefixFor(QStringLiteral("urn:b")), QStringLiteral("p"));
+    for (const char* prefix : {"xsi", "a:b", "", "xmlfoo"}) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot stand for \"urn:c\"")));
+        namespaces.registerNamespace(QLatin1String(prefix), QStringLiteral("urn:c"));
+    }
+    QVERIFY(namespaces.prefixFor(QStringLiteral("urn:c")).isEmpty());
 }
 
 void SoapMessagesTest::literalAnswer()
@@ -174,8 +241,10 @@ void SoapMessagesTest::literalAnswer()
     QCOMPARE(message.faultCode(), QtSoapMessage::Other);
     QVERIFY(!message.faultString().isValid());
     QVERIFY(message.setContent(envelope("<pingResponse xmlns='urn:u'/>")));
-    QVERIFY(!message.returnValue().isValid() && message.method().isValid());
+    QVERIFY(!message.returnValue().isValid());
+    QVERIFY(dynamic_cast<const QtSoapStruct*>(&message.method())); // clients look into it
     QVERIFY(message.setContent(envelope("")) && !message.method().isValid());
+    QVERIFY(message.setContent(QtSoapMessage().toXmlString().toUtf8()) && message.bodyItemCount() == 0);
 }
 
 void SoapMessagesTest::encodedAnswer()
@@ -260,13 +329,17 @@ void SoapMessagesTest::headerAndBody()
     message.addBodyItem(value("b", 4));
     Message read;
     QVERIFY(read.setContent(message.toXmlString().toUtf8()));
-    QCOMPARE(read.header().count(), 2);
-    QCOMPARE(read.header()[1].toInt(), 2);
-    QCOMPARE(read.body()[1].toInt(), 4);
+    QCOMPARE(read.headerItemCount(), 2);
+    QCOMPARE(read.headerItem(1).toInt(), 2);
+    QCOMPARE(read.bodyItem(1).toInt(), 4);
+    QtSoapStruct& body = read.body();
+    const Message shared(read);
+    body.insert(value("c", 5)); // through the reference from before the copy was made
+    QCOMPARE(shared.bodyItemCount(), 2);
     QDomDocument good, bad;
     QVERIFY(good.setContent(envelope(""), true) && bad.setContent(QByteArrayLiteral("<a/>"), true));
     QVERIFY(read.isValidSoapMessage(good) && !read.isValidSoapMessage(bad));
-    QVERIFY(!read.errorString().isEmpty() && read.body().count() == 2);
+    QVERIFY(!read.errorString().isEmpty() && read.body().count() == 3);
     read.clear();
     QVERIFY(!written(read).hasChildNodes());
 }

@@ -1,89 +1,20 @@
-#include "HttpLoopback.h"
-#include "SoapCall.h"
 #include "TestMain.h"
+#include "TransportCall.h"
 
 #include <QFile>
 #include <QNetworkProxy>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QThread>
-
-using namespace SoapCall;
-Q_DECLARE_METATYPE(HttpLoopback::Answer)
-Q_DECLARE_METATYPE(QtSoapMessage) // as clients with queued connections do, under the bare name
 
 namespace
 {
 
-const QByteArray good = envelope("<pingResponse><r>pong</r></pingResponse>");
-const QByteArray large = good + "<!--" + QByteArray(5000000, 'x') + "-->"; // more than fits the read-ahead
-const QByteArray serverFault =
-    envelope("<e:Fault><faultcode>e:Server.Busy</faultcode><faultstring>too busy</faultstring></e:Fault>");
-
 const QString unasked = QStringLiteral("Other The server could not be asked: ");
-
-/// A transport, its server, and what its signals carried.
-struct Call : QObject {
-    Q_OBJECT
-public:
-    Call()
-    {
-        transport.setHost(QStringLiteral("127.0.0.1"), server.serverPort());
-        transport.setTimeout(10000);
-        connect(&transport, SIGNAL(responseReady()), this, SLOT(onReady()));
-        qRegisterMetaType<QtSoapMessage>("QtSoapMessage");
-        connect(&transport, SIGNAL(responseReady(QtSoapMessage)), SLOT(onReady(QtSoapMessage)),
-                Qt::QueuedConnection);
-    }
-
-    void submit(const QString& path = QStringLiteral("/service"))
-    {
-        QtSoapMessage request; // need not outlive the call
-        request.setMethod(QStringLiteral("ping"), QStringLiteral("urn:ping"));
-        transport.submitRequest(request, path);
-    }
-
-    /// Submits and waits; false when there is not exactly one pair of signals.
-    bool ask(const QString& path = QStringLiteral("/service"))
-    {
-        order.clear();
-        submit(path);
-        return QTest::qWaitFor([this] { return order.size() >= 2; }, 40000) && order == QStringLiteral("ab");
-    }
-
-    /// "value" and the text of the first child, or the class of the fault and its text.
-    QString outcome() const
-    {
-        const QtSoapMessage& answer = transport.getResponse();
-        if (!answer.isFault()) {
-            return QStringLiteral("value ") + answer.returnValue().toString();
-        }
-        const char* const codes[] = {"VersionMismatch", "MustUnderstand", "Client", "Server", "Other"};
-        return QLatin1String(codes[answer.faultCode()]) + QLatin1Char(' ') + answer.faultString().toString();
-    }
-
-    HttpLoopback server;
-    QtSoapHttpTransport transport;
-    QString order;
-    QtSoapMessage received;
-
-public Q_SLOTS:
-    void onReady()
-    {
-        order += QLatin1Char('a');
-        QVERIFY(transport.networkReply());
-    }
-    void onReady(const QtSoapMessage& message)
-    {
-        order += QLatin1Char('b');
-        received = message;
-    }
-};
 
 } // namespace
 
-/// The transport against a server in the same program that behaves, and one that does not.
+/// The transport: where requests go and what they are, against a server in the same program.
 class SoapTransportTest : public QObject
 {
     Q_OBJECT
@@ -93,9 +24,8 @@ private Q_SLOTS:
     void actions_data();
     void actions();
     void overlappingAndFromItsSlot();
-    void answers_data();
-    void answers();
-    void endlessAnswerIsCutOff();
+    void addresses_data();
+    void addresses();
     void unreachable_data();
     void unreachable();
     void destroyed_data();
@@ -164,78 +94,37 @@ void SoapTransportTest::overlappingAndFromItsSlot()
     QCOMPARE(call.order.size(), 10);
 }
 
-void SoapTransportTest::answers_data()
+void SoapTransportTest::addresses_data()
 {
-    using Answer = HttpLoopback::Answer;
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<int>("timeout");
-    QTest::addColumn<QString>("outcome"); // what outcome() says of the answer, as a pattern
-    const auto row = [](const char* name, const char* outcome, const Answer& answer, int timeout = 10000) {
-        QTest::newRow(name) << answer << timeout << QString::fromUtf8(outcome);
+    QTest::addColumn<QString>("host"); // %1 is the port of the server
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("portGiven");
+    QTest::newRow("host with port") << "127.0.0.1:%1"
+                                    << "/s" << false;
+    QTest::newRow("address as host") << "http://127.0.0.1:%1/not-used"
+                                     << "/s" << false;
+    QTest::newRow("address as path") << "no-such-host.invalid"
+                                     << "http://127.0.0.1:%1/s" << false;
+    QTest::newRow("path without slash") << "127.0.0.1"
+                                        << "s" << true;
+    QTest::newRow("port in both") << "127.0.0.1:1"
+                                  << "/s" << true;
+}
+
+void SoapTransportTest::addresses()
+{
+    QFETCH(QString, host);
+    QFETCH(QString, path);
+    QFETCH(bool, portGiven);
+    Call call;
+    call.server.answer.body = good;
+    const auto filled = [&call](const QString& text) {
+        return text.contains(QLatin1Char('%')) ? text.arg(call.server.serverPort()) : text;
     };
-    const QByteArray ok = "200 OK", oops = "500 Oops", xml = "text/xml", html = "text/html";
-    const QByteArray latin = envelope("<r><a>\xF6\xDF</a></r>"), mail = "220 example.org ESMTP\r\n\r\n";
-    row("fault with 500", "^Server too busy$", {oops, xml, serverFault});
-    row("fault with 200", "^Server too busy$", {ok, xml, serverFault});
-    row("fault with 403", "^Server too busy$", {"403 No", xml, serverFault});
-    row("a message of another type", "^value pong$", {ok, "application/soap", good});
-    row("a large message", "^value pong$", {ok, xml, large});
-    row("taken on", "^value $", {"202 Accepted", xml, QByteArray()});
-    row("character set of the header", "^value öß$", {ok, "text/xml; charset=\"ISO-8859-1\"", latin});
-    row("character set of the document", "^value öß$",
-        {ok, "text/xml;charset=us-ascii", "<?xml version='1.0' encoding='iso-8859-1'?>" + latin});
-    row("HTML with 200", "^Client .*\\(text/html, 7 bytes\\) is no SOAP message", {ok, html, "<html/>"});
-    row("HTML with 404", "^Other .*status 404 Not Found", {"404 Not Found", html, "<html/>"});
-    row("redirection", "^Other .*status 302", {"302 Found", xml, QByteArray()});
-    row("500 without fault", "^Other .*status 500", {oops, xml, "stack trace"});
-    row("empty with 200", "^Other .*it is empty", {ok, xml, QByteArray()});
-    row("closes before the answer", "^Other .*could not be asked", {ok, xml, good, -1, 0});
-    row("closes in the header", "^(Client|Other) .", {ok, xml, good, -1, 30});
-    row("closes in the body", "^Other .*not complete", {ok, xml, good, -1, 150});
-    row("no HTTP", "^Other .", {ok, xml, mail, -1, mail.size(), 0, false, true});
-    row("100 MB announced", "^Other .*larger than 64 MiB", {ok, xml, good, 100000000});
-    row("silence", "^Other .*did not answer within 0.3 s", {ok, xml, good, -1, -1, 0, true}, 300);
-    row("body shorter than announced", "^Other .*within 0.3 s", {ok, xml, good, 100000}, 300);
-    row("slow, but moving", "^value pong$", {ok, xml, good, -1, -1, 10}, 2000);
-    // a loaded machine may let the shorter time pass between two bytes
-    row("too slow", "^Other .*(not complete after 3 s|within 0.3 s)", {ok, xml, good, -1, -1, 50}, 300);
-}
-
-void SoapTransportTest::answers()
-{
-    QFETCH(HttpLoopback::Answer, answer);
-    QFETCH(int, timeout);
-    QFETCH(QString, outcome);
-    Call call;
-    call.server.answer = answer;
-    call.transport.setTimeout(timeout);
-    QVERIFY(call.ask());
-    QVERIFY2(QRegularExpression(outcome).match(call.outcome()).hasMatch(), qPrintable(call.outcome()));
-    QCOMPARE(call.received.toXmlString(), call.transport.getResponse().toXmlString());
-    QTest::qWait(50);
-    QCOMPARE(call.order.size(), 2); // nothing more comes
-    call.server.answer = HttpLoopback::Answer();
-    call.server.answer.body = good; // and the transport is as good as new
-    call.transport.setTimeout(10000);
-    QVERIFY(call.ask());
+    call.transport.setHost(filled(host), false, portGiven ? call.server.serverPort() : 0);
+    QVERIFY(call.ask(filled(path)));
     QCOMPARE(call.outcome(), QStringLiteral("value pong"));
-    QVERIFY(call.transport.networkAccessManager()->findChildren<QNetworkReply*>().size() <= 2);
-}
-
-void SoapTransportTest::endlessAnswerIsCutOff()
-{
-    EndlessServer server;
-    Call call;
-    call.transport.setHost(QStringLiteral("127.0.0.1"), server.port);
-    call.submit();
-    qint64 received = 0;
-    QNetworkReply* const reply = call.transport.networkReply();
-    connect(reply, &QNetworkReply::metaDataChanged, this, [] { QThread::sleep(2); }); // a busy caller
-    connect(reply, &QNetworkReply::downloadProgress, this,
-            [&](qint64 bytes) { received = qMax(received, bytes); });
-    QTRY_COMPARE_WITH_TIMEOUT(call.order, QStringLiteral("ab"), 60000);
-    QVERIFY2(call.outcome().contains(QStringLiteral("larger than 64 MiB")), qPrintable(call.outcome()));
-    QVERIFY2(received > 0 && received < 70 * 1024 * 1024, qPrintable(QString::number(received)));
+    QCOMPARE(call.server.requests.first().line, QByteArray("POST /s HTTP/1.1"));
 }
 
 void SoapTransportTest::unreachable_data()

@@ -55,6 +55,7 @@ XmlBounds XmlBounds::of(const QByteArray& xml)
 {
     XmlBounds bounds;
     const char* const end = xml.constData() + xml.size();
+    const char* text = xml.constData();
     int depth = 0;
     for (const char* at = next(xml.constData(), end, '<'); at < end; at = next(at, end, '<')) {
         if (startsWith(at, end, "<!--")) {
@@ -68,6 +69,8 @@ XmlBounds XmlBounds::of(const QByteArray& xml)
             break;
         } else {
             const char* const tag = std::exchange(at, behindTag(at, end));
+            bounds.longestText = qMax(bounds.longestText, static_cast<int>(tag - text));
+            text = at;
             bounds.longestTag = qMax(bounds.longestTag, static_cast<int>(at - tag));
             if (startsWith(tag, end, "</")) {
                 depth = qMax(0, depth - 1);
@@ -76,6 +79,7 @@ XmlBounds XmlBounds::of(const QByteArray& xml)
             }
         }
     }
+    bounds.longestText = qMax(bounds.longestText, static_cast<int>(end - text));
     return bounds;
 }
 

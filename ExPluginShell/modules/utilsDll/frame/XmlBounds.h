@@ -14,6 +14,7 @@ namespace TOLVAN_NAMESPACE
 struct XmlBounds {
     int depth = 0;                ///< upper bound of the nesting of elements
     int longestTag = 0;           ///< bytes of the longest tag
+    int longestText = 0;          ///< upper bound of the bytes of a text between two tags
     bool hasDocumentType = false; ///< a document type was found; the scan ends there
 
     /// Measures \a xml, whose encoding must have the bytes of ASCII for markup, as UTF-8 has.

@@ -11,15 +11,6 @@ namespace TOLVAN_NAMESPACE
 namespace
 {
 
-QString checkTags(const QByteArray& document)
-{
-    const XmlBounds bounds = XmlBounds::of(document);
-    if (bounds.longestTag > SoapLimits::TagBytes) {
-        return QStringLiteral("A tag is longer than %1 bytes").arg(SoapLimits::TagBytes);
-    }
-    return bounds.hasDocumentType ? documentTypeRefusal() : QString();
-}
-
 bool isWide(const QByteArray& document)
 {
     return document.startsWith("\xFE\xFF") || document.startsWith("\xFF\xFE") ||
@@ -33,19 +24,25 @@ QString documentTypeRefusal()
     return QStringLiteral("A document type declaration is not allowed in a SOAP message");
 }
 
-QString checkSoapDocument(const QByteArray& document, QString* unicode)
+SoapDocumentCheck::SoapDocumentCheck(const QByteArray& document, const QtSoapLimits& limits)
 {
-    if (document.size() > SoapLimits::DocumentBytes) {
-        return QStringLiteral("The document is larger than %1 MiB")
-            .arg(SoapLimits::DocumentBytes / (1024 * 1024));
+    if (document.size() > limits.documentBytes) {
+        error =
+            QStringLiteral("The document is larger than %1 MiB").arg(limits.documentBytes / (1024 * 1024));
+        return;
     }
-    if (!isWide(document)) {
-        return checkTags(document);
+    if (isWide(document)) {
+        // Without a byte order mark the first character is '<', and the place of its zero byte gives the order.
+        QTextCodec* const fallback = QTextCodec::codecForName(document.at(0) == 0 ? "UTF-16BE" : "UTF-16LE");
+        utf8 = QTextCodec::codecForUtfText(document, fallback)->toUnicode(document).toUtf8();
     }
-    // Without a byte order mark the first character is '<', and the place of its zero byte gives the order.
-    QTextCodec* const fallback = QTextCodec::codecForName(document.at(0) == 0 ? "UTF-16BE" : "UTF-16LE");
-    *unicode = QTextCodec::codecForUtfText(document, fallback)->toUnicode(document);
-    return checkTags(unicode->toUtf8());
+    const XmlBounds bounds = XmlBounds::of(utf8.isNull() ? document : utf8);
+    if (bounds.longestTag > SoapLimits::TagBytes) {
+        error = QStringLiteral("A tag is longer than %1 bytes").arg(SoapLimits::TagBytes);
+    } else if (bounds.hasDocumentType) {
+        error = documentTypeRefusal();
+    }
+    memory = document.size() + utf8.size() + 2 * static_cast<qint64>(bounds.longestText);
 }
 
 bool isSoapEncoding(const QStringRef& encoding)

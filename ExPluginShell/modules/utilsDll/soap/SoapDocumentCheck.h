@@ -1,17 +1,22 @@
 #pragma once
 
+#include "qtsoaplimits.h"
+
 #include <QByteArray>
 #include <QString>
 
 namespace TOLVAN_NAMESPACE
 {
 
-/// Looks through a document before any XML reader sees it, and refuses what costs a reader more than its size:
+/// A look through a document before any XML reader sees it. Refuses what costs a reader more than its size:
 /// documents and tags that are too long, document types. Internal, not installed.
-/// \param document the bytes as received
-/// \param unicode receives the text if it is UTF-16 or UTF-32, and stays null otherwise
-/// \return what is wrong; empty if nothing is
-QString checkSoapDocument(const QByteArray& document, QString* unicode);
+struct SoapDocumentCheck {
+    SoapDocumentCheck(const QByteArray& document, const QtSoapLimits& limits);
+
+    QString error;     ///< what is wrong; empty if nothing is
+    QByteArray utf8;   ///< the text if it is UTF-16 or UTF-32; null otherwise
+    qint64 memory = 0; ///< bytes that the document takes, and the copy of its longest text in the reader
+};
 
 /// Returns the error text for a document with a document type.
 QString documentTypeRefusal();

@@ -46,8 +46,9 @@ QString uriOf(const QDomAttr& attribute)
 
 } // namespace
 
-SoapDomCursor::SoapDomCursor(const QDomNode& root)
-    : m_root(root)
+SoapDomCursor::SoapDomCursor(const QDomNode& root, const QtSoapLimits& limits)
+    : SoapXmlCursor(limits)
+    , m_root(root)
 {
     if (root.isDocument()) {
         if (!root.toDocument().doctype().isNull() && !root.toDocument().doctype().name().isEmpty()) {

@@ -10,7 +10,7 @@ class SoapDomCursor : public SoapXmlCursor
 {
 public:
     /// Walks \a root, which is an element or a document; anything else is an error.
-    explicit SoapDomCursor(const QDomNode& root);
+    explicit SoapDomCursor(const QDomNode& root, const QtSoapLimits& limits = QtSoapLimits());
 
     Token next() override;
     QString text() const override { return m_text; }

@@ -1,8 +1,10 @@
 #include "SoapEncoder.h"
 
+#include "SoapExtra.h"
 #include "SoapText.h"
 #include "SoapUris.h"
 
+#include <QSet>
 #include <typeinfo>
 
 namespace TOLVAN_NAMESPACE
@@ -29,20 +31,59 @@ QString bracketed(const QVector<int>& numbers)
     return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
 }
 
+/// Whether the classes write this attribute themselves, or no document could have it.
+bool isReserved(const QtSoapQName& name)
+{
+    const QString local = name.name();
+    if (name.uri().isEmpty()) {
+        return local == QLatin1String("id") || local == QLatin1String("href") ||
+               local == QLatin1String("xmlns");
+    }
+    return SoapUris::isSchemaInstance(name.uri()) || name.uri() == SoapUris::Encoding;
+}
+
 } // namespace
+
+/// Begins the element of a value. "p:local" is a local name with a prefix if the value has a namespace, or if the
+/// prefix is in force.
+void SoapEncoder::openNamed(const QtSoapQName& name)
+{
+    const QString text = name.name();
+    const int colon = text.indexOf(QLatin1Char(':'));
+    const QString prefix = text.left(colon);
+    if (colon > 0 && SoapText::isOwnPrefix(prefix) && SoapText::isElementName(text.mid(colon + 1))) {
+        const QString uri = name.uri().isEmpty() ? m_sink.uriOf(prefix) : name.uri();
+        if (!uri.isEmpty()) {
+            m_sink.open(text.mid(colon + 1), uri, prefix);
+            return;
+        }
+    }
+    m_sink.open(SoapText::elementName(text, QStringLiteral("item")), name.uri(), QString());
+}
 
 void SoapEncoder::open(const QtSoapType& value, const QString* position)
 {
-    const QtSoapQName name = value.name();
-    m_sink.open(SoapText::elementName(name.name(), QStringLiteral("item")), name.uri());
+    openNamed(value.name());
     if (position) {
         m_sink.attribute(positionAttribute, *position);
     }
-    if (const QString id = value.id(); !id.isEmpty()) {
+    if (const QString id = value.id(); !id.isEmpty() && !value.m_isReference) {
         m_sink.plainAttribute(QLatin1String("id"), id);
     }
-    if (const QString href = value.href(); !href.isEmpty()) {
+    if (const QString href = value.href(); !href.isEmpty() && !value.m_isReference) {
         m_sink.plainAttribute(QLatin1String("href"), href);
+    }
+    if (value.m_hasExtra) {
+        QSet<QString> written; // names may become the same when they are made valid
+        const auto extra = SoapExtra::of(&value);
+        for (const auto& [name, text] : qAsConst(extra->attributes)) {
+            const QtSoapQName valid(SoapText::elementName(name.name(), QStringLiteral("item")), name.uri());
+            const QString key = valid.uri() + QLatin1Char(' ') + valid.name();
+            if (!isReserved(valid) && !written.contains(key)) {
+                written.insert(key);
+                m_sink.clientAttribute(valid, text);
+            }
+        }
     }
 }
 
@@ -56,7 +97,7 @@ void SoapEncoder::encode(const QtSoapSimpleType& value, const QString* position)
             m_sink.attribute(typeAttribute, QLatin1String("xsd:") + typeName);
         }
         m_sink.text(value.toString());
-    } else if (value.href().isEmpty()) {
+    } else if (value.href().isEmpty() || value.m_isReference) {
         m_sink.attribute(nilAttribute, QStringLiteral("true"));
     }
     m_sink.close();

@@ -38,6 +38,7 @@ private:
     void encode(const QtSoapArray& value, const QString* position);
     void write(const QtSoapType& value, const QString* position);
     void open(const QtSoapType& value, const QString* position);
+    void openNamed(const QtSoapQName& name);
 
     SoapXmlSink& m_sink;
 };

@@ -1,5 +1,6 @@
 #include "SoapMessageReader.h"
 
+#include "SoapReferences.h"
 #include "SoapUris.h"
 
 namespace TOLVAN_NAMESPACE
@@ -28,12 +29,16 @@ bool SoapMessageReader::entries(QList<QtSmartPtr<QtSoapType>>& target)
 {
     for (;;) {
         switch (m_cursor.next()) {
-        case Token::StartElement:
-            target.append(m_values.value());
+        case Token::StartElement: {
+            const SoapElement& element = m_cursor.element();
+            // an answer without results is an empty struct, as clients look into it
+            const bool plain = &target == &m_body && !element.nil && element.href.isEmpty();
+            target.append(m_values.value(plain ? QtSoapType::Struct : QtSoapType::Other));
             if (target.last().isNull()) {
                 return false;
             }
             break;
+        }
         case Token::Text: // between entries there is only layout
             break;
         case Token::EndElement:
@@ -49,6 +54,7 @@ bool SoapMessageReader::entry()
 {
     const SoapElement element = m_cursor.element();
     m_values.note(element);
+    m_isEmpty = false;
     if (element.uri == SoapUris::Envelope && element.name == QLatin1String("Header")) {
         if (m_hasHeader || m_hasBody) {
             return m_cursor.fail(m_hasBody ? QStringLiteral("The header comes behind the body")
@@ -80,8 +86,11 @@ bool SoapMessageReader::read()
     if (m_cursor.next() != Token::End) { // what follows the envelope must be well-formed, too
         return m_cursor.fail(QStringLiteral("Something follows the envelope"));
     }
-    return (m_hasBody || m_cursor.fail(QStringLiteral("The envelope has no body"))) &&
-           m_values.checkIdentities();
+    if (!m_hasBody && !m_isEmpty) {
+        return m_cursor.fail(QStringLiteral("The envelope has no body"));
+    }
+    return m_values.checkIdentities() &&
+           (!m_values.hasReferences() || SoapReferences(m_cursor).resolve({&m_header, &m_body}));
 }
 
 } // namespace TOLVAN_NAMESPACE

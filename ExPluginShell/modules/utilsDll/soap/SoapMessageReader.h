@@ -24,6 +24,7 @@ public:
     bool isOtherVersion() const { return m_otherVersion; }
 
     bool hasHeader() const { return m_hasHeader; }
+    bool hasBody() const { return m_hasBody; }
     const QList<QtSmartPtr<QtSoapType>>& header() const { return m_header; }
     const QList<QtSmartPtr<QtSoapType>>& body() const { return m_body; }
 
@@ -37,6 +38,7 @@ private:
     QList<QtSmartPtr<QtSoapType>> m_header;
     QList<QtSmartPtr<QtSoapType>> m_body;
     bool m_otherVersion = false;
+    bool m_isEmpty = true; ///< as written for a message without contents
     bool m_hasHeader = false;
     bool m_hasBody = false;
 };

@@ -8,24 +8,65 @@
 namespace TOLVAN_NAMESPACE
 {
 
-SoapStreamCursor::SoapStreamCursor(const QByteArray& document)
+namespace
 {
-    QString unicode;
-    const QString refused = checkSoapDocument(document, &unicode);
-    m_decoded = !unicode.isNull();
-    if (!refused.isEmpty()) {
-        fail(refused);
-    } else if (m_decoded) {
-        m_reader.addData(unicode);
-    } else {
-        m_reader.addData(document);
+
+constexpr int pieceBytes = 64 * 1024;
+constexpr int longestPiece = 4 * 1024 * 1024;
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+} // namespace
+
+SoapStreamCursor::SoapStreamCursor(const QByteArray& document, const QtSoapLimits& limits)
+    : SoapXmlCursor(limits)
+    , m_document(document)
+    , m_piece(pieceBytes)
+{
+    const SoapDocumentCheck check(document, limits);
+    if (!check.error.isEmpty()) {
+        fail(check.error);
+        return;
     }
+    spend(check.memory);
+    m_decoded = !check.utf8.isNull();
+    if (m_decoded) {
+        m_document = check.utf8;
+        m_reader.addData(QString(QLatin1String(""))); // a declared encoding is not that of the bytes any more
+    }
+    // Some servers send blank lines before the declaration, where XML allows none.
+    m_fed = m_document.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+    while (m_fed < m_document.size() && isBlank(m_document.at(m_fed))) {
+        m_skippedLines += m_document.at(m_fed++) == '\n' ? 1 : 0;
+    }
+}
+
+/// Gives the reader the next piece of the document; it would decode all of a longer one at once.
+bool SoapStreamCursor::feed()
+{
+    if (m_fed >= m_document.size()) {
+        return false;
+    }
+    int size = qMin(m_piece, m_document.size() - m_fed);
+    const int tag = m_fed + size < m_document.size() ? m_document.lastIndexOf('<', m_fed + size) : -1;
+    if (tag > m_fed) { // between tags: the reader would look at the beginning of a tag once more
+        size = tag - m_fed;
+        m_piece = pieceBytes;
+    } else { // a text so long that the reader, which copies it with each piece, should get larger ones
+        m_piece = qMin(2 * m_piece, longestPiece);
+    }
+    m_reader.addData(QByteArray::fromRawData(m_document.constData() + m_fed, size));
+    m_fed += size;
+    return true;
 }
 
 SoapXmlCursor::Token SoapStreamCursor::failHere(const QString& error)
 {
     fail(QStringLiteral("Line %1, column %2: %3")
-             .arg(m_reader.lineNumber())
+             .arg(m_reader.lineNumber() + m_skippedLines)
              .arg(m_reader.columnNumber())
              .arg(error));
     return Token::Error;
@@ -40,6 +81,7 @@ QString SoapStreamCursor::shared(const QStringRef& name)
         return *known;
     }
     const QString copy = name.toString();
+    spend(SoapLimits::TextBytes + 2 * copy.size());
     if (m_names.size() < MaximumShared) {
         m_names.insert(copy, copy);
     }
@@ -86,6 +128,9 @@ SoapXmlCursor::Token SoapStreamCursor::advance()
         case QXmlStreamReader::EntityReference:
             return failHere(QStringLiteral("The entity \"%1\" is not defined").arg(m_reader.name()));
         case QXmlStreamReader::Invalid:
+            if (m_reader.error() == QXmlStreamReader::PrematureEndOfDocumentError && feed()) {
+                break;
+            }
             return failHere(m_reader.errorString());
         default: // comments and processing instructions
             break;
@@ -122,6 +167,8 @@ QDomElement SoapStreamCursor::takeElement()
 {
     QDomDocument document;
     const auto open = [&] {
+        constexpr int elementBytes = 800; // of a tree
+        spend(elementBytes);
         QDomElement element =
             document.createElementNS(m_reader.namespaceUri().toString(), m_reader.qualifiedName().toString());
         const QXmlStreamAttributes attributes = m_reader.attributes();
@@ -140,6 +187,7 @@ QDomElement SoapStreamCursor::takeElement()
             break;
         case Token::Text:
             current.appendChild(document.createTextNode(text()));
+            spend(SoapLimits::ValueBytes + 2 * m_reader.text().size());
             break;
         case Token::EndElement:
             current = current.parentNode().toElement();

@@ -13,7 +13,7 @@ namespace TOLVAN_NAMESPACE
 class SoapStreamCursor : public SoapXmlCursor
 {
 public:
-    explicit SoapStreamCursor(const QByteArray& document);
+    explicit SoapStreamCursor(const QByteArray& document, const QtSoapLimits& limits = QtSoapLimits());
 
     Token next() override;
     QString text() const override;
@@ -21,12 +21,17 @@ public:
 
 private:
     Token start();
+    bool feed();
     Token advance();
     Token failHere(const QString& error);
     QString shared(const QStringRef& name);
 
+    QByteArray m_document;
+    int m_fed = 0; ///< number of bytes that the reader has
+    int m_piece;   ///< number of bytes that it gets next
     QXmlStreamReader m_reader;
     bool m_decoded = false;          ///< the encoding was recognised by the first bytes
+    int m_skippedLines = 0;          ///< blank lines before the document
     QHash<QString, QString> m_names; ///< element names and URIs repeat: one copy of each
     QVector<int> m_declarations;     ///< number of namespace declarations, by level
     int m_namespaces = 0;            ///< their sum

@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <limits>
+#include <QDateTime>
 #include <QDebug>
+#include <QStringList>
 
 namespace TOLVAN_NAMESPACE::SoapText
 {
@@ -105,6 +107,31 @@ QVariant toVariant(QtSoapType::Type type, const QString& text)
     }
 }
 
+QString lexical(QtSoapType::Type type, const QVariant& value)
+{
+    switch (static_cast<QMetaType::Type>(value.type())) {
+    case QMetaType::QByteArray: {
+        const QByteArray bytes = value.toByteArray();
+        return QString::fromLatin1(type == QtSoapType::HexBinary ? bytes.toHex().toUpper()
+                                                                 : bytes.toBase64());
+    }
+    case QMetaType::QDateTime: {
+        const QDateTime moment =
+            value.toDateTime(); // without its offset, another time zone would read another moment
+        const QDateTime local = moment.timeSpec() == Qt::LocalTime || moment.timeSpec() == Qt::TimeZone
+                                    ? moment.toOffsetFromUtc(moment.offsetFromUtc())
+                                    : moment;
+        return local.toString(moment.time().msec() != 0 ? Qt::ISODateWithMs : Qt::ISODate);
+    }
+    case QMetaType::QDate:
+        return value.toDate().toString(Qt::ISODate);
+    case QMetaType::QTime:
+        return value.toTime().toString(value.toTime().msec() != 0 ? Qt::ISODateWithMs : Qt::ISODate);
+    default:
+        return fromVariant(value);
+    }
+}
+
 QString fromVariant(const QVariant& value)
 {
     const auto type = static_cast<QMetaType::Type>(value.type());
@@ -147,6 +174,14 @@ bool isElementName(const QString& name)
         }
     }
     return !name.isEmpty();
+}
+
+bool isOwnPrefix(const QString& prefix)
+{
+    static const QStringList fixed{QStringLiteral("SOAP-ENV"), QStringLiteral("SOAP-ENC"),
+                                   QStringLiteral("xsi"), QStringLiteral("xsd")};
+    return isElementName(prefix) && !prefix.startsWith(QLatin1String("xml"), Qt::CaseInsensitive) &&
+           !fixed.contains(prefix);
 }
 
 void appendEscaped(QString& xml, const QString& text)

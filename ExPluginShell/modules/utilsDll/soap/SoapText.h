@@ -10,6 +10,9 @@ namespace TOLVAN_NAMESPACE::SoapText
 /// type.
 QVariant toVariant(QtSoapType::Type type, const QString& text);
 
+/// \a value as the text of a value of \a type: dates in the ISO form, bytes in base64 or hexadecimal digits.
+QString lexical(QtSoapType::Type type, const QVariant& value);
+
 /// \a value as XML Schema writes it.
 QString fromVariant(const QVariant& value);
 
@@ -18,6 +21,10 @@ QString elementName(const QString& name, const QString& fallback);
 
 /// Whether \a name is an XML name without colon.
 bool isElementName(const QString& name);
+
+/// Whether clients may give the prefix \a prefix a meaning of their own: it is an XML name, and none of those that
+/// messages are written with.
+bool isOwnPrefix(const QString& prefix);
 
 /// Appends \a text to \a xml, escaped for the contents of an element and for an attribute in double quotes.
 void appendEscaped(QString& xml, const QString& text);

@@ -1,9 +1,12 @@
 #include "SoapValueReader.h"
 
 #include "qtsoaptypefactory.h"
+#include "SoapItemRun.h"
 #include "SoapLimits.h"
 #include "SoapText.h"
 #include "SoapUris.h"
+
+#include <typeinfo>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -45,6 +48,9 @@ bool isArray(const SoapElement& element)
 void SoapValueReader::note(const SoapElement& element)
 {
     m_encoded = m_encoded || element.encoded;
+    if (!element.id.isEmpty() || !element.href.isEmpty()) {
+        m_cursor.spend(SoapLimits::IdentityBytes + 2 * (element.id.size() + element.href.size()));
+    }
     if (!element.id.isEmpty() && m_ids.contains(element.id)) {
         m_repeatedIds.insert(element.id);
     }
@@ -88,9 +94,14 @@ bool SoapValueReader::contents(QString* text, Values* children)
 {
     for (;;) {
         switch (m_cursor.next()) {
-        case Token::Text:
-            *text += m_cursor.text();
+        case Token::Text: {
+            const QString piece = m_cursor.text();
+            *text += piece;
+            if (!m_cursor.spend(2 * piece.size() + SoapLimits::TextBytes)) {
+                return false;
+            }
             break;
+        }
         case Token::StartElement:
             children->append(value());
             if (children->last().isNull()) {
@@ -109,6 +120,9 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
 {
     const SoapElement element = m_cursor.element();
     note(element);
+    if (!m_cursor.spend(SoapLimits::ValueBytes)) {
+        return {};
+    }
     const QString typeName = typeNameOf(element);
     if (QtSoapTypeConstructorBase* const handler = QtSoapTypeFactory::instance().handler(typeName)) {
         const QDomElement tree = m_cursor.takeElement();
@@ -121,7 +135,7 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
     }
     if (isArray(element) || (untyped == QtSoapType::Array && typeName.isEmpty())) {
         const QtSmartPtr<QtSoapType> made(new QtSoapArray);
-        return array(static_cast<QtSoapArray&>(*made)) ? made : QtSmartPtr<QtSoapType>();
+        return array(static_cast<QtSoapArray&>(*made), true) ? made : QtSmartPtr<QtSoapType>();
     }
     QString text;
     Values children;
@@ -141,7 +155,7 @@ QtSmartPtr<QtSoapType> SoapValueReader::value(QtSoapType::Type untyped)
     return made;
 }
 
-bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
+bool SoapValueReader::items(QtSoapArray& result, bool packed)
 {
     qint64 next = 0;
     const qint64 capacity = result.capacity() < 0 ? SoapLimits::ArrayItems : result.capacity();
@@ -170,21 +184,41 @@ bool SoapValueReader::items(QtSoapArray& result, QtSoapType::Type itemType)
         if (!position.isEmpty()) {
             next = result.absolute(SoapArrayType::numbers(position));
         }
-        if (next < 0 || next >= capacity || result.array.contains(static_cast<int>(next))) {
+        if (next < 0 || next >= capacity || result.has(static_cast<int>(next))) {
             return m_cursor.fail(QStringLiteral("The array \"%1\" has no place for an item %2")
                                      .arg(shown(result.n.name()),
                                           position.isEmpty() ? QStringLiteral("more")
                                                              : QStringLiteral("at ") + shown(position)));
         }
-        const QtSmartPtr<QtSoapType> item = value(itemType);
+        const QtSmartPtr<QtSoapType> item = value(result.m_itemType);
         if (item.isNull()) {
             return false;
         }
-        result.store(static_cast<int>(next++), item);
+        const int at = static_cast<int>(next++);
+        if (!packed || !pack(result, at, *item)) {
+            result.store(at, item);
+        }
     }
 }
 
-bool SoapValueReader::array(QtSoapArray& result)
+/// Puts a simple \a item into the run of a long array; false if it has to be stored on its own.
+bool SoapValueReader::pack(QtSoapArray& result, int position, const QtSoapType& item)
+{
+    const bool next = position == SoapItemRun::Start + result.runSize() && result.lastIndex == position - 1 &&
+                      result.array.size() == SoapItemRun::Start;
+    if (!next || typeid(item) != typeid(QtSoapSimpleType) || !item.i.isEmpty() || !item.h.isEmpty()) {
+        return false;
+    }
+    if (!result.m_run) {
+        result.m_run = std::make_shared<SoapItemRun>();
+    }
+    result.m_run->append(static_cast<const QtSoapSimpleType&>(item));
+    result.lastIndex = position;
+    m_cursor.spend(SoapLimits::RunItemBytes - SoapLimits::ValueBytes);
+    return true;
+}
+
+bool SoapValueReader::array(QtSoapArray& result, bool packed)
 {
     const SoapElement element = m_cursor.element();
     SoapArrayType type;
@@ -198,13 +232,12 @@ bool SoapValueReader::array(QtSoapArray& result)
     }
     name(result, element);
     result.t = QtSoapType::Array;
-    result.array.clear();
-    result.lastIndex = -1;
+    result.clear();
     result.m_sizes = type.sizes;
     result.m_itemType =
         type.itemType.endsWith(QLatin1Char(']')) ? QtSoapType::Array : QtSoapType::nameToType(type.itemType);
     result.m_mixed = result.m_itemType == QtSoapType::Other;
-    return items(result, result.m_itemType);
+    return items(result, packed);
 }
 
 bool SoapValueReader::start()
@@ -258,7 +291,7 @@ bool SoapValueReader::fill(QtSoapStruct& result)
 
 bool SoapValueReader::fill(QtSoapArray& result)
 {
-    return start() && array(result);
+    return start() && array(result, false);
 }
 
 } // namespace TOLVAN_NAMESPACE

@@ -46,6 +46,9 @@ public:
     /// False, with an error, when ids that the document relies on are given twice.
     bool checkIdentities();
 
+    /// Returns whether an element refers to another one of the document.
+    bool hasReferences() const { return !m_references.isEmpty(); }
+
     /// What went wrong; empty when nothing did.
     QString errorString() const { return m_cursor.errorString(); }
 
@@ -54,8 +57,9 @@ private:
 
     bool start();
     bool contents(QString* text, Values* children);
-    bool items(QtSoapArray& value, QtSoapType::Type itemType);
-    bool array(QtSoapArray& value);
+    bool items(QtSoapArray& value, bool packed);
+    bool array(QtSoapArray& value, bool packed);
+    bool pack(QtSoapArray& value, int position, const QtSoapType& item);
     void name(QtSoapType& value, const SoapElement& element) const;
     void simple(QtSoapSimpleType& value, const SoapElement& element, QtSoapType::Type type,
                 const QString& text) const;

@@ -43,10 +43,18 @@ bool SoapXmlCursor::enter()
 {
     if (++m_depth > SoapLimits::Depth) {
         fail(QStringLiteral("Elements are nested more than %1 levels deep").arg(SoapLimits::Depth));
-    } else if (++m_elements > SoapLimits::Elements) {
-        fail(QStringLiteral("There are more than %1 elements").arg(SoapLimits::Elements));
+    } else if (++m_elements > m_limits.elements) {
+        fail(QStringLiteral("There are more than %1 elements").arg(m_limits.elements));
     }
     return m_error.isEmpty();
+}
+
+bool SoapXmlCursor::spend(qint64 bytes)
+{
+    m_spent += bytes;
+    return m_spent <= m_limits.memoryBytes ||
+           fail(QStringLiteral("The message takes more than %1 MiB of memory")
+                    .arg(m_limits.memoryBytes / (1024 * 1024)));
 }
 
 bool SoapXmlCursor::fail(const QString& error)

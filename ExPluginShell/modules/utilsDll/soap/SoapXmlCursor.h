@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qtsoaplimits.h"
+
 #include <QDomElement>
 #include <QString>
 
@@ -32,6 +34,10 @@ class SoapXmlCursor
 public:
     enum class Token { StartElement, EndElement, Text, End, Error };
 
+    explicit SoapXmlCursor(const QtSoapLimits& limits = QtSoapLimits())
+        : m_limits(limits)
+    {
+    }
     virtual ~SoapXmlCursor() = default;
 
     /// Goes on by one. Error is final.
@@ -52,6 +58,11 @@ public:
     /// Ends the walk with \a error, unless there is one already. Returns false.
     bool fail(const QString& error);
 
+    /// Counts memory that what was read takes. False, with an error, if it is too much.
+    bool spend(qint64 bytes);
+
+    const QtSoapLimits& limits() const { return m_limits; }
+
 protected:
     /// Counts an element and a level; false, with an error, when there are too many.
     bool enter();
@@ -59,6 +70,8 @@ protected:
 
     SoapElement m_element;
     QString m_error;
+    const QtSoapLimits m_limits;
+    qint64 m_spent = 0;
     int m_depth = 0;
     int m_elements = 0;
 };

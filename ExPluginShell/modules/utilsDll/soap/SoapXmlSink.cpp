@@ -9,9 +9,27 @@
 namespace TOLVAN_NAMESPACE
 {
 
-bool SoapTextSink::isDeclared(const QString& uri) const
+QString SoapTextSink::uriOf(const QString& prefix) const
 {
-    return m_declared.contains(uri);
+    for (int k = m_declared.size() - 1; k >= 0; --k) {
+        if (m_declared.at(k).first == prefix) {
+            return m_declared.at(k).second;
+        }
+    }
+    return QString();
+}
+
+void SoapTextSink::appendDeclaration(const QString& prefix, const QString& uri)
+{
+    m_xml += prefix.isEmpty() ? QStringLiteral(" xmlns") : QLatin1String(" xmlns:") + prefix;
+    m_xml += QLatin1String("=\"");
+    SoapText::appendEscaped(m_xml, uri);
+    m_xml += QLatin1Char('"');
+    if (prefix.isEmpty()) {
+        m_levels.last().defaultUri = uri;
+    } else {
+        m_declared.append({prefix, uri});
+    }
 }
 
 void SoapTextSink::finishTag()
@@ -29,7 +47,7 @@ void SoapTextSink::newLine(int level)
     }
 }
 
-void SoapTextSink::open(const QString& name, const QString& uri)
+void SoapTextSink::open(const QString& name, const QString& uri, const QString& prefix)
 {
     finishTag();
     newLine(m_levels.size());
@@ -41,37 +59,46 @@ void SoapTextSink::open(const QString& name, const QString& uri)
         m_levels.last().hasElements = true;
     }
     bool declares = false;
-    if (!uri.isEmpty() && uri != level.defaultUri) {
-        level.prefix = QtSoapNamespaces::instance().prefixFor(uri);
-        declares = level.prefix.isEmpty() || !isDeclared(uri);
+    if (!uri.isEmpty() && (uri != level.defaultUri || !prefix.isEmpty())) {
+        level.prefix = prefix.isEmpty() ? QtSoapNamespaces::instance().prefixFor(uri) : prefix;
+        declares = level.prefix.isEmpty() || uriOf(level.prefix) != uri;
     }
     m_xml += QLatin1Char('<');
     if (!level.prefix.isEmpty()) {
         m_xml += level.prefix + QLatin1Char(':');
     }
     m_xml += name;
+    m_levels.append(level);
     if (declares) {
-        m_xml += level.prefix.isEmpty() ? QStringLiteral(" xmlns") : QLatin1String(" xmlns:") + level.prefix;
-        m_xml += QLatin1String("=\"");
-        SoapText::appendEscaped(m_xml, uri);
-        m_xml += QLatin1Char('"');
-        if (level.prefix.isEmpty()) {
-            level.defaultUri = uri;
-        } else {
-            m_declared.append(uri);
-        }
+        appendDeclaration(level.prefix, uri);
     }
     m_tagOpen = true;
-    m_levels.append(level);
 }
 
 void SoapTextSink::declare(QLatin1String prefix, QLatin1String uri)
 {
-    if (isDeclared(uri)) {
-        return;
+    if (uriOf(prefix) != uri) {
+        appendDeclaration(prefix, uri);
     }
-    m_xml += QLatin1String(" xmlns:") + prefix + QLatin1String("=\"") + uri + QLatin1Char('"');
-    m_declared.append(uri);
+}
+
+void SoapTextSink::clientAttribute(const QtSoapQName& name, const QString& value)
+{
+    QString prefix;
+    if (!name.uri().isEmpty()) { // an attribute without prefix is in no namespace
+        prefix = QtSoapNamespaces::instance().prefixFor(name.uri());
+        for (int k = 1; prefix.isEmpty(); ++k) {
+            const QString own = QStringLiteral("ns%1").arg(k);
+            prefix = uriOf(own).isEmpty() || uriOf(own) == name.uri() ? own : QString();
+        }
+        if (uriOf(prefix) != name.uri() && name.uri() != SoapUris::Xml) {
+            appendDeclaration(prefix, name.uri());
+        }
+        prefix += QLatin1Char(':');
+    }
+    m_xml += QLatin1Char(' ');
+    m_xml += prefix;
+    appendAttribute(name.name(), value);
 }
 
 void SoapTextSink::attribute(const SoapAttributeName& name, const QString& value)
@@ -88,7 +115,8 @@ void SoapTextSink::plainAttribute(QLatin1String name, const QString& value)
     appendAttribute(name, value);
 }
 
-void SoapTextSink::appendAttribute(QLatin1String name, const QString& value)
+template <class Name>
+void SoapTextSink::appendAttribute(const Name& name, const QString& value)
 {
     m_xml += name;
     m_xml += QLatin1String("=\"");
@@ -147,13 +175,13 @@ QDomDocument SoapTextSink::document()
     return m_document;
 }
 
-void SoapDomSink::open(const QString& name, const QString& uri)
+void SoapDomSink::open(const QString& name, const QString& uri, const QString& wanted)
 {
     QDomElement element;
     if (uri.isEmpty()) { // made without a namespace it inherits the default one when written
         element = m_document.createElement(name);
     } else {
-        const QString prefix = QtSoapNamespaces::instance().prefixFor(uri);
+        const QString prefix = wanted.isEmpty() ? QtSoapNamespaces::instance().prefixFor(uri) : wanted;
         element = m_document.createElementNS(uri, prefix.isEmpty() ? name : prefix + QLatin1Char(':') + name);
     }
     if (m_current.isNull()) {
@@ -175,6 +203,28 @@ void SoapDomSink::attribute(const SoapAttributeName& name, const QString& value)
 void SoapDomSink::plainAttribute(QLatin1String name, const QString& value)
 {
     m_current.setAttribute(name, SoapText::carriable(value));
+}
+
+void SoapDomSink::clientAttribute(const QtSoapQName& name, const QString& value)
+{
+    if (name.uri().isEmpty()) {
+        m_current.setAttribute(name.name(), SoapText::carriable(value));
+        return;
+    }
+    const QString prefix = QtSoapNamespaces::instance().prefixFor(name.uri());
+    m_current.setAttributeNS(
+        name.uri(), (prefix.isEmpty() ? QStringLiteral("ns1") : prefix) + QLatin1Char(':') + name.name(),
+        SoapText::carriable(value));
+}
+
+QString SoapDomSink::uriOf(const QString& prefix) const
+{
+    for (QDomElement element = m_current; !element.isNull(); element = element.parentNode().toElement()) {
+        if (element.prefix() == prefix) {
+            return element.namespaceURI();
+        }
+    }
+    return QString();
 }
 
 void SoapDomSink::text(const QString& text)

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "qtsoapqname.h"
+
 #include <QDomDocument>
+#include <QPair>
 #include <QString>
 #include <QVector>
 
@@ -21,10 +24,16 @@ class SoapXmlSink
 public:
     virtual ~SoapXmlSink() = default;
 
-    /// Begins an element; a \a uri without registered prefix becomes the default namespace.
-    virtual void open(const QString& name, const QString& uri) = 0;
+    /// Begins an element; without \a prefix, a \a uri without registered prefix becomes the default namespace.
+    virtual void open(const QString& name, const QString& uri, const QString& prefix) = 0;
     virtual void attribute(const SoapAttributeName& name, const QString& value) = 0;
     virtual void plainAttribute(QLatin1String name, const QString& value) = 0;
+
+    /// Adds an attribute of the client. Its name is an XML name without colon.
+    virtual void clientAttribute(const QtSoapQName& name, const QString& value) = 0;
+
+    /// The URI of a prefix that is in force; empty if it is not.
+    virtual QString uriOf(const QString& prefix) const = 0;
     virtual void text(const QString& text) = 0;
     virtual void close() = 0;
 
@@ -46,9 +55,11 @@ public:
     {
     }
 
-    void open(const QString& name, const QString& uri) override;
+    void open(const QString& name, const QString& uri, const QString& prefix = QString()) override;
     void attribute(const SoapAttributeName& name, const QString& value) override;
     void plainAttribute(QLatin1String name, const QString& value) override;
+    void clientAttribute(const QtSoapQName& name, const QString& value) override;
+    QString uriOf(const QString& prefix) const override;
     void text(const QString& text) override;
     void close() override;
     void tree(const QDomElement& element) override;
@@ -65,15 +76,16 @@ private:
         int declared = 0; ///< number of declarations in force outside
         bool hasElements = false;
     };
-    void appendAttribute(QLatin1String name, const QString& value);
+    template <class Name>
+    void appendAttribute(const Name& name, const QString& value);
+    void appendDeclaration(const QString& prefix, const QString& uri);
     void finishTag();
     void newLine(int level);
-    bool isDeclared(const QString& uri) const;
 
     QString& m_xml;
     int m_indent;
     QVector<Level> m_levels;
-    QVector<QString> m_declared; ///< URIs with a prefix in force
+    QVector<QPair<QString, QString>> m_declared; ///< prefixes in force, each with its URI
     bool m_tagOpen = false;
     QDomDocument m_document;
 };
@@ -87,9 +99,11 @@ public:
     {
     }
 
-    void open(const QString& name, const QString& uri) override;
+    void open(const QString& name, const QString& uri, const QString& prefix = QString()) override;
     void attribute(const SoapAttributeName& name, const QString& value) override;
     void plainAttribute(QLatin1String name, const QString& value) override;
+    void clientAttribute(const QtSoapQName& name, const QString& value) override;
+    QString uriOf(const QString& prefix) const override;
     void text(const QString& text) override;
     void close() override;
     void tree(const QDomElement& element) override;

@@ -10,6 +10,7 @@
 #include "qtsoaparray.h"
 #include "qtsoaparrayiterator.h"
 #include "qtsoaphttptransport.h"
+#include "qtsoaplimits.h"
 #include "qtsoapmessage.h"
 #include "qtsoapnamespaces.h"
 #include "qtsoapqname.h"

@@ -2,6 +2,7 @@
 
 #include "SoapCopy.h"
 #include "SoapEncoder.h"
+#include "SoapItemRun.h"
 #include "SoapText.h"
 #include "SoapValueReader.h"
 
@@ -59,6 +60,12 @@ QtSoapArray::QtSoapArray(const QtSoapArray& copy)
     , m_itemType(copy.m_itemType)
     , m_mixed(copy.m_mixed)
 {
+    for (int k = 0; k < copy.runSize(); ++k) { // each on its own: a derived class looks for them in "array"
+        const int position = SoapItemRun::Start + k;
+        if (!array.contains(position)) {
+            array.insert(position, new QtSoapSimpleType(copy.m_run->at(position)));
+        }
+    }
 }
 
 QtSoapArray& QtSoapArray::operator=(const QtSoapArray& copy)
@@ -70,6 +77,8 @@ QtSoapArray& QtSoapArray::operator=(const QtSoapArray& copy)
     m_sizes = other.m_sizes;
     m_itemType = other.m_itemType;
     m_mixed = other.m_mixed;
+    m_run.reset();
+    m_covered = 0;
     return *this;
 }
 
@@ -78,6 +87,8 @@ QtSoapArray::~QtSoapArray() = default;
 void QtSoapArray::clear()
 {
     array.clear();
+    m_run.reset();
+    m_covered = 0;
     lastIndex = -1;
     m_sizes = {-1};
 }
@@ -94,7 +105,17 @@ bool QtSoapArray::isValid() const
 
 int QtSoapArray::count() const
 {
-    return array.size();
+    return array.size() + runSize() - m_covered;
+}
+
+int QtSoapArray::runSize() const
+{
+    return m_run ? m_run->size() : 0;
+}
+
+bool QtSoapArray::has(int position) const
+{
+    return array.contains(position) || (m_run && m_run->has(position));
 }
 
 qint64 QtSoapArray::capacity() const
@@ -141,31 +162,38 @@ QVector<int> QtSoapArray::coordinates(int position) const
 
 QtSoapType& QtSoapArray::find(int position)
 {
-    const auto item = array.constFind(position);
-    return item == array.constEnd() ? missing() : item.value().ref();
+    return has(position) ? const_cast<QtSoapType&>(std::as_const(*this).find(position)) : missing();
 }
 
 const QtSoapType& QtSoapArray::find(int position) const
 {
     const auto item = array.constFind(position);
-    return item == array.constEnd() ? missingConst() : item.value().ref();
+    if (item != array.constEnd()) {
+        return item.value().ref();
+    }
+    return m_run && m_run->has(position) ? m_run->at(position) : missingConst();
 }
 
 QVector<int> QtSoapArray::positions() const
 {
-    QVector<int> keys(array.size());
-    if (!array.isEmpty() && lastIndex == array.size() - 1) { // no gaps, as usual
+    QVector<int> keys(count());
+    if (lastIndex == keys.size() - 1) { // no gaps, as usual
         std::iota(keys.begin(), keys.end(), 0);
         return keys;
     }
-    std::copy(array.keyBegin(), array.keyEnd(), keys.begin());
+    auto end = std::copy(array.keyBegin(), array.keyEnd(), keys.begin());
+    for (int k = SoapItemRun::Start; k < SoapItemRun::Start + runSize(); ++k) {
+        if (!array.contains(k)) {
+            *end++ = k;
+        }
+    }
     std::sort(keys.begin(), keys.end());
     return keys;
 }
 
 bool QtSoapArray::hasGaps() const
 {
-    return capacity() < 0 ? lastIndex != array.size() - 1 : array.size() != capacity();
+    return capacity() < 0 ? lastIndex != count() - 1 : count() != capacity();
 }
 
 void QtSoapArray::place(int position, QtSoapType* item)
@@ -202,6 +230,9 @@ void QtSoapArray::adopt(const QtSoapType& item)
 
 void QtSoapArray::store(int position, const QtSmartPtr<QtSoapType>& item)
 {
+    if (m_run && m_run->has(position) && !array.contains(position)) {
+        ++m_covered;
+    }
     array.insert(position, item);
     lastIndex = std::max(lastIndex, position);
 }

@@ -101,6 +101,7 @@ protected:
 
 private:
     friend class QtSoapArrayIterator;
+    friend class SoapReferences;
     friend class SoapEncoder;
     friend class SoapValueReader;
 
@@ -117,9 +118,16 @@ private:
     const QtSoapType* named(const QtSoapQName& name) const;
     qint64 capacity() const; ///< number of positions; -1 when the first dimension grows
 
+    bool has(int position) const;
+    int runSize() const;
+
     QVector<int> m_sizes{-1}; ///< one per dimension; only the first may be -1: it grows
     Type m_itemType = Other;
     bool m_mixed = false; ///< written as an array of any type
+
+    /// The items beyond the first ones of a long array that was read; an item in `array` goes before them.
+    std::shared_ptr<class SoapItemRun> m_run;
+    int m_covered = 0; ///< items of the run that one in `array` has replaced
 };
 
 } // namespace TOLVAN_NAMESPACE

@@ -69,9 +69,9 @@ const QtSoapType* QtSoapArray::named(const QtSoapQName& name) const
 {
     const QVector<int> order = positions();
     for (const int position : order) {
-        const auto item = array.constFind(position);
-        if (item.value()->name() == name) {
-            return item.value().ptr();
+        const QtSoapType& item = find(position);
+        if (item.name() == name) {
+            return &item;
         }
     }
     return nullptr;

@@ -34,12 +34,12 @@ void QtSoapArrayIterator::pos(int* pos0, int* pos1, int* pos2, int* pos3, int* p
 
 QtSoapType* QtSoapArrayIterator::data()
 {
-    return m_array->array.value(pos()).ptr();
+    return atEnd() ? nullptr : &m_array->find(pos());
 }
 
 const QtSoapType* QtSoapArrayIterator::current() const
 {
-    return m_array->array.value(pos()).ptr();
+    return atEnd() ? nullptr : &m_array->find(pos());
 }
 
 void QtSoapArrayIterator::operator++()

@@ -1,6 +1,9 @@
 #include "qtsoaphttptransport.h"
 
 #include "SoapHttpExchange.h"
+#include "SoapTrace.h"
+
+#include <algorithm>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -25,6 +28,10 @@ QtSoapHttpTransport::QtSoapHttpTransport(QObject* parent)
 {
     m_url.setScheme(QStringLiteral("http"));
     connect(&m_manager, SIGNAL(finished(QNetworkReply*)), this, SLOT(readResponse(QNetworkReply*)));
+    connect(&m_manager, SIGNAL(authenticationRequired(QNetworkReply*, QAuthenticator*)), this,
+            SLOT(onAuthentication()));
+    connect(&m_manager, SIGNAL(proxyAuthenticationRequired(const QNetworkProxy&, QAuthenticator*)), this,
+            SLOT(onAuthentication()));
 }
 
 QtSoapHttpTransport::~QtSoapHttpTransport()
@@ -41,8 +48,17 @@ QtSoapHttpTransport::~QtSoapHttpTransport()
 void QtSoapHttpTransport::setHost(const QString& host, bool useSecureHTTP, int port)
 {
     m_url = QUrl();
-    m_url.setScheme(useSecureHTTP ? QStringLiteral("https") : QStringLiteral("http"));
-    m_url.setHost(host);
+    const QUrl given(host.contains(QLatin1String("://")) ? host : QString());
+    const bool isAddress = !given.host().isEmpty();
+    m_url.setScheme(useSecureHTTP || given.scheme() == QLatin1String("https") ? QStringLiteral("https")
+                                                                              : QStringLiteral("http"));
+    // A host may come with its port; several colons without brackets are an IPv6 address.
+    if (isAddress || host.count(QLatin1Char(':')) == 1 || host.contains(QLatin1String("]:")) ||
+        host.contains(QLatin1Char('@'))) {
+        m_url.setAuthority(isAddress ? given.authority() : host);
+    } else {
+        m_url.setHost(host);
+    }
     if (port > 0) {
         m_url.setPort(port);
     }
@@ -68,23 +84,67 @@ void QtSoapHttpTransport::setTimeout(int msec)
     m_timeout = qMax(0, msec);
 }
 
+QtSoapLimits QtSoapHttpTransport::limits() const
+{
+    return m_limits;
+}
+
+void QtSoapHttpTransport::setLimits(const QtSoapLimits& limits)
+{
+    m_limits = limits;
+}
+
+/// The address of a request; \a path may be an address itself.
+QUrl QtSoapHttpTransport::address(const QString& path) const
+{
+    const QUrl given(path);
+    if ((given.scheme() == QLatin1String("http") || given.scheme() == QLatin1String("https")) &&
+        !given.host().isEmpty()) {
+        return given;
+    }
+    QUrl url = m_url;
+    const int query = path.indexOf(QLatin1Char('?'));
+    const QString place = query < 0 ? path : path.left(query);
+    url.setPath(place.startsWith(QLatin1Char('/')) ? place : QLatin1Char('/') + place);
+    url.setQuery(query < 0 ? QString() : path.mid(query + 1));
+    return url;
+}
+
 void QtSoapHttpTransport::submitRequest(QtSoapMessage& request, const QString& path)
 {
-    const int query = path.indexOf(QLatin1Char('?'));
-    m_url.setPath(query < 0 ? path : path.left(query));
-    m_url.setQuery(query < 0 ? QString() : path.mid(query + 1));
-
-    QNetworkRequest post(m_url);
+    QNetworkRequest post(address(path));
     post.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("text/xml;charset=utf-8"));
     post.setRawHeader("SOAPAction", quoted(m_action));
-    post.setRawHeader("Accept-Encoding", "identity"); // a packed answer could unfold to any size
+    post.setRawHeader("Accept-Encoding", "identity"); // a server may pack its answer even so
 
     if (m_reply && !m_pending.contains(m_reply)) {
         m_reply->deleteLater();
     }
-    m_reply = m_manager.post(post, request.toXmlString().toUtf8());
+    // On a kept connection the head and the body leave in two segments, and the second one waits about 40 ms for the
+    // delayed acknowledgement of the first. A new connection takes less. One that was authenticated is kept.
+    if (post.url().scheme() == QLatin1String("http") && !m_authenticates && isIdle()) {
+        m_manager.clearConnectionCache();
+    }
+    const QString xml = request.toXmlString();
+    if (isSoapTraced()) {
+        traceSoapRequest(post, xml);
+    }
+    m_reply = m_manager.post(post, xml.toUtf8());
     m_pending.append(m_reply);
-    new SoapHttpExchange(m_reply, m_timeout);
+    new SoapHttpExchange(m_reply, m_timeout, m_limits);
+}
+
+/// Whether the manager has finished all requests, also those of the client's own.
+bool QtSoapHttpTransport::isIdle() const
+{
+    const auto replies = m_manager.findChildren<QNetworkReply*>();
+    return std::all_of(replies.begin(), replies.end(),
+                       [](const QNetworkReply* reply) { return reply->isFinished(); });
+}
+
+void QtSoapHttpTransport::onAuthentication()
+{
+    m_authenticates = true;
 }
 
 const QtSoapMessage& QtSoapHttpTransport::getResponse() const
@@ -122,7 +182,7 @@ void QtSoapHttpTransport::deliver(QNetworkReply* reply)
         reply->deleteLater();
     }
     const QtSoapMessage response = SoapHttpExchange::of(reply)->message();
-    m_response = response;
+    m_response = response; // both share the contents
     // a slot may submit the next request, or destroy the transport
     const QPointer<QtSoapHttpTransport> self(this);
     Q_EMIT responseReady();

@@ -21,9 +21,18 @@ namespace TOLVAN_NAMESPACE
 ///
 /// An answer that cannot be read as a message becomes a fault: with the code of the failed setContent() if a
 /// 2xx answer is not SOAP, else with the code Other. Its text names the cause: the status of the server, the
-/// error of the network, the time-out. An empty answer with status 202 or 204 is an empty message, no fault.
-/// Redirections are not followed. An answer of more than 64 MiB is given up. At most 1 MiB beyond what was
-/// read is received while the thread is busy.
+/// error of the network, the time-out, where a redirection leads. Its detail has the children `status`, `reason`,
+/// `location`, `network` (the error of Qt Network), `parser` (reason and position) and `body` (the first 500
+/// characters), those that apply. An empty answer with status 202 or 204 is an empty message, no fault.
+/// Redirections are not followed. An answer beyond limits() is given up, and so is one whose head has more than
+/// 500 lines or 64 KiB. At most 1 MiB beyond what was read is received while the thread is busy. Answers packed
+/// with gzip or deflate are unpacked within the same limits.
+///
+/// \par Trace
+/// With the logging category "tolvan.soap.trace" switched on (`QT_LOGGING_RULES="tolvan.soap.trace.debug=true"`, or
+/// `QLoggingCategory::setFilterRules()`), each request and each answer is logged at level D. No header lines and no
+/// user of an address are logged, and the texts of elements and attributes that are named like a secret
+/// ("password", "token", "session" and others, as a part of the name) are replaced by "***".
 ///
 /// Proxies are those of networkAccessManager(), at first the ones of the application. Certificate errors make
 /// the request fail unless a slot on that manager's `sslErrors` ignores them. HTTPS is the system's on Windows
@@ -51,6 +60,9 @@ public:
     ~QtSoapHttpTransport() override;
 
     /// Sends to \a host from now on, over HTTPS if \a useSecureHTTP; port 0 is 80, or 443 for HTTPS.
+    ///
+    /// \a host may have its port ("example.org:8080"), or be an address ("https://example.org"), whose path is not
+    /// used; \a port goes before a port in \a host.
     void setHost(const QString& host, bool useSecureHTTP = false, int port = 0);
 
     /// Sends to \a host and \a port over HTTP. Kept for older callers.
@@ -61,7 +73,8 @@ public:
 
     /// \brief Posts \a request to \a path on the host, and returns at once.
     /// \param request is not kept
-    /// \param path begins with a slash; what follows a question mark is the query
+    /// \param path what follows a question mark is the query; a missing slash is put before it. An address
+    /// ("http://example.org/service") is used in place of that of setHost().
     void submitRequest(QtSoapMessage& request, const QString& path);
 
     /// The latest answer, overwritten by the next one; an empty message before the first. It may be a fault.
@@ -85,6 +98,12 @@ public:
     /// caller for ever. Holds for requests submitted from now on.
     void setTimeout(int msec);
 
+    /// What reading an answer may take.
+    QtSoapLimits limits() const;
+
+    /// Sets what reading the answers of requests submitted from now on may take.
+    void setLimits(const QtSoapLimits& limits);
+
 Q_SIGNALS:
     /// An answer is there: see getResponse().
     void responseReady();
@@ -102,9 +121,12 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void readResponse(QNetworkReply* reply);
+    void onAuthentication();
 
 private:
     void deliver(QNetworkReply* reply);
+    QUrl address(const QString& path) const;
+    bool isIdle() const;
 
     QNetworkAccessManager m_manager;
     QPointer<QNetworkReply> m_reply;
@@ -112,7 +134,9 @@ private:
     QUrl m_url;
     QString m_action;
     QtSoapMessage m_response;
+    QtSoapLimits m_limits;
     int m_timeout;
+    bool m_authenticates = false; ///< the server or the proxy has asked for a user
 };
 
 } // namespace TOLVAN_NAMESPACE

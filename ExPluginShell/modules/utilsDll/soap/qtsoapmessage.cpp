@@ -28,17 +28,77 @@ bool isFaultElement(const QtSoapType& item)
 
 } // namespace
 
-QtSoapMessage::QtSoapMessage() = default;
-QtSoapMessage::QtSoapMessage(const QtSoapMessage& copy) = default;
+QtSoapMessage::QtSoapMessage()
+    : d(new Contents)
+{
+}
+
+QtSoapMessage::QtSoapMessage(const QtSoapMessage& copy)
+    : d(copy.d)
+    , m_error(copy.m_error)
+    , m_limits(copy.m_limits)
+{
+    if (copy.d->isExposed) {
+        d = new Contents(*copy.d);
+        d->isExposed = false;
+    }
+}
+
 QtSoapMessage::~QtSoapMessage() = default;
-QtSoapMessage& QtSoapMessage::operator=(const QtSoapMessage& copy) = default;
+
+QtSoapMessage& QtSoapMessage::operator=(const QtSoapMessage& copy)
+{
+    const QtSoapMessage other(copy);
+    d = other.d;
+    m_error = other.m_error;
+    m_limits = other.m_limits;
+    return *this;
+}
+
+/// The contents, for a change: shared with no other message.
+QtSoapMessage::Contents& QtSoapMessage::own() const
+{
+    d.detach();
+    return *d;
+}
+
+QtSoapStruct& QtSoapMessage::part(std::optional<QtSoapStruct> Contents::*which, QLatin1String name) const
+{
+    std::optional<QtSoapStruct>& made = own().*which;
+    if (!made) {
+        made.emplace(QtSoapQName(name, SoapUris::Envelope));
+    }
+    return *made;
+}
+
+QtSoapStruct& QtSoapMessage::ownBody() const
+{
+    return part(&Contents::body, QLatin1String("Body"));
+}
+
+QtSoapStruct& QtSoapMessage::ownHeader() const
+{
+    return part(&Contents::header, QLatin1String("Header"));
+}
+
+QtSoapStruct& QtSoapMessage::body() const
+{
+    QtSoapStruct& made = ownBody();
+    d->isExposed = true;
+    return made;
+}
+
+QtSoapStruct& QtSoapMessage::header() const
+{
+    QtSoapStruct& made = ownHeader();
+    d->isExposed = true;
+    return made;
+}
 
 void QtSoapMessage::init()
 {
-    m_type = OtherType;
+    d = new Contents;
     m_error.clear();
-    m_header.reset();
-    m_body.reset();
 }
 
 void QtSoapMessage::clear()
@@ -46,20 +106,14 @@ void QtSoapMessage::clear()
     init();
 }
 
-QtSoapStruct& QtSoapMessage::body() const
+QtSoapLimits QtSoapMessage::limits() const
 {
-    if (!m_body) {
-        m_body.emplace(QtSoapQName(QStringLiteral("Body"), SoapUris::Envelope));
-    }
-    return *m_body;
+    return m_limits;
 }
 
-QtSoapStruct& QtSoapMessage::header() const
+void QtSoapMessage::setLimits(const QtSoapLimits& limits)
 {
-    if (!m_header) {
-        m_header.emplace(QtSoapQName(QStringLiteral("Header"), SoapUris::Envelope));
-    }
-    return *m_header;
+    m_limits = limits;
 }
 
 bool QtSoapMessage::take(SoapMessageReader& reader)
@@ -73,38 +127,37 @@ bool QtSoapMessage::take(SoapMessageReader& reader)
         return false;
     }
     if (reader.hasHeader()) {
-        header().dict = reader.header();
+        ownHeader().dict = reader.header();
     }
-    body().dict = reader.body();
-    if (m_body->dict.isEmpty()) {
-        return true;
+    if (reader.hasBody()) {
+        ownBody().dict = reader.body();
     }
-    const QtSoapType& first = *m_body->dict.first();
+    const QtSoapType& first = bodyItem(0);
     if (isFaultElement(first)) {
-        m_type = Fault;
-    } else {
-        m_type = first.name().name().endsWith(QLatin1String("Response")) ? MethodResponse : MethodRequest;
+        d->type = Fault;
+    } else if (first.isValid()) {
+        d->type = first.name().name().endsWith(QLatin1String("Response")) ? MethodResponse : MethodRequest;
     }
     return true;
 }
 
 bool QtSoapMessage::setContent(const QByteArray& buffer)
 {
-    SoapStreamCursor cursor(buffer);
+    SoapStreamCursor cursor(buffer, m_limits);
     SoapMessageReader reader(cursor);
     return take(reader);
 }
 
-bool QtSoapMessage::setContent(QDomDocument& d)
+bool QtSoapMessage::setContent(QDomDocument& tree)
 {
-    SoapDomCursor cursor(d);
+    SoapDomCursor cursor(tree, m_limits);
     SoapMessageReader reader(cursor);
     return take(reader);
 }
 
 bool QtSoapMessage::isValidSoapMessage(const QDomDocument& candidate)
 {
-    SoapDomCursor cursor(candidate);
+    SoapDomCursor cursor(candidate, m_limits);
     SoapMessageReader reader(cursor);
     const bool valid = reader.read();
     m_error = reader.errorString();
@@ -113,17 +166,37 @@ bool QtSoapMessage::isValidSoapMessage(const QDomDocument& candidate)
 
 void QtSoapMessage::addBodyItem(QtSoapType* item)
 {
-    body().append(item);
+    ownBody().append(item);
 }
 
 void QtSoapMessage::addHeaderItem(QtSoapType* item)
 {
-    header().append(item);
+    ownHeader().append(item);
+}
+
+int QtSoapMessage::bodyItemCount() const
+{
+    return d->body ? d->body->count() : 0;
+}
+
+const QtSoapType& QtSoapMessage::bodyItem(int index) const
+{
+    return d->body ? std::as_const(*d->body)[index] : QtSoapType::missingConst();
+}
+
+int QtSoapMessage::headerItemCount() const
+{
+    return d->header ? d->header->count() : 0;
+}
+
+const QtSoapType& QtSoapMessage::headerItem(int index) const
+{
+    return d->header ? std::as_const(*d->header)[index] : QtSoapType::missingConst();
 }
 
 const QtSoapType& QtSoapMessage::method() const
 {
-    return m_body && !isFault() ? std::as_const(*m_body)[0] : QtSoapType::missingConst();
+    return isFault() ? QtSoapType::missingConst() : bodyItem(0);
 }
 
 const QtSoapType& QtSoapMessage::returnValue() const
@@ -133,9 +206,9 @@ const QtSoapType& QtSoapMessage::returnValue() const
 
 void QtSoapMessage::setMethod(const QtSoapQName& method)
 {
-    body().clear();
-    body().append(new QtSoapStruct(method));
-    m_type = MethodRequest;
+    ownBody().clear();
+    ownBody().append(new QtSoapStruct(method));
+    d->type = MethodRequest;
 }
 
 void QtSoapMessage::setMethod(const QString& name, const QString& uri)
@@ -145,7 +218,7 @@ void QtSoapMessage::setMethod(const QString& name, const QString& uri)
 
 void QtSoapMessage::addMethodArgument(QtSoapType* arg)
 {
-    auto* const method = m_type == Fault || !m_body ? nullptr : dynamic_cast<QtSoapStruct*>(&body()[0]);
+    auto* const method = isFault() ? nullptr : dynamic_cast<QtSoapStruct*>(&ownBody()[0]);
     if (method) {
         method->append(arg);
         return;
@@ -171,12 +244,12 @@ void QtSoapMessage::addMethodArgument(const QString& name, const QString& uri, i
 
 bool QtSoapMessage::isFault() const
 {
-    return m_type == Fault;
+    return d->type == Fault;
 }
 
 const QtSoapType& QtSoapMessage::faultEntry(const QString& name) const
 {
-    return isFault() && m_body ? std::as_const(*m_body)[0][name] : QtSoapType::missingConst();
+    return isFault() ? bodyItem(0)[name] : QtSoapType::missingConst();
 }
 
 QtSoapMessage::FaultCode QtSoapMessage::faultCode() const
@@ -204,14 +277,14 @@ const QtSoapType& QtSoapMessage::faultDetail() const
 /// The fault element with its two obligatory entries, in the order that the schema wants.
 QtSoapStruct& QtSoapMessage::faultStruct()
 {
-    auto* fault = m_type == Fault && m_body ? dynamic_cast<QtSoapStruct*>(&body()[0]) : nullptr;
+    auto* fault = isFault() ? dynamic_cast<QtSoapStruct*>(&ownBody()[0]) : nullptr;
     if (fault) {
         return *fault;
     }
-    m_type = Fault;
-    body().clear();
+    ownBody().clear();
+    d->type = Fault;
     fault = new QtSoapStruct(QtSoapQName(QStringLiteral("Fault"), SoapUris::Envelope));
-    body().append(fault);
+    ownBody().append(fault);
     fault->append(new QtSoapSimpleType(QtSoapQName(QStringLiteral("faultcode"))));
     fault->append(new QtSoapSimpleType(QtSoapQName(QStringLiteral("faultstring")), QString()));
     setFaultCode(Other);
@@ -251,8 +324,8 @@ QString QtSoapMessage::toXmlString(int indent) const
     sink.declare(QLatin1String("xsi"), SoapUris::SchemaInstance);
     sink.declare(QLatin1String("xsd"), SoapUris::Schema);
     sink.attribute(encodingStyle, SoapUris::Encoding);
-    for (const auto* part : {&m_header, &m_body}) {
-        if (!*part || (part == &m_header && (*part)->count() == 0)) {
+    for (const auto* part : {&d->header, &d->body}) {
+        if (!*part || (part == &d->header && (*part)->count() == 0)) {
             continue;
         }
         sink.open((*part)->name().name(), SoapUris::Envelope);

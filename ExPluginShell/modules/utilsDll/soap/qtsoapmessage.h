@@ -1,23 +1,25 @@
 #pragma once
 
+#include "qtsoaplimits.h"
 #include "qtsoapstruct.h"
 
 #include <optional>
+#include <QSharedData>
 
 namespace TOLVAN_NAMESPACE
 {
 
-/// \brief A SOAP 1.1 message: built to be sent, or read from what a service answered.
+/// \brief A SOAP 1.1 message: built to be sent, or read from the answer of a service.
 ///
-/// A copy is a message of its own. Items handed over as pointers come from `new` and belong to the message
-/// from then on; null is ignored with a warning. References that are returned live until the message changes.
-/// One thread at a time may use a message. Nothing waits; reading and writing take time in proportion to the
-/// document.
+/// A copy is a message of its own; copies share their contents until one of them is changed. Items handed over as
+/// pointers come from `new` and belong to the message from then on; null is ignored with a warning. References
+/// that are returned live until the message changes. One thread at a time may use a message. No call waits;
+/// reading and writing take time in proportion to the document.
 ///
-/// Reading is safe for documents from anywhere: a document type declaration is refused, and so are more than
-/// 64 MiB, more than 256 levels of nesting, more than 2,097,152 elements, tags of more than 64 KiB, arrays
-/// that claim more than 16,777,216 items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and
-/// Windows 125x. The checks are made while the text is read.
+/// Reading is safe for any document: a document type declaration is refused, and so are documents beyond
+/// limits(), more than 256 levels of nesting, tags of more than 64 KiB, arrays that claim more than 16,777,216
+/// items, and encodings other than UTF-8, UTF-16, US-ASCII, ISO 8859 and Windows 125x. The checks are made while
+/// the text is read. References between elements (`href="#id"`) are resolved; a cycle of references is refused.
 class UTILSDLL_EXPORT QtSoapMessage
 {
 public:
@@ -40,6 +42,12 @@ public:
     /// Replaces the message by the one in \a d, which was parsed with namespace processing; result as above.
     bool setContent(QDomDocument& d);
 
+    /// What setContent() may spend on a document.
+    QtSoapLimits limits() const;
+
+    /// Sets what setContent() may spend on a document. The contents stay, and clear() does not reset the limits.
+    void setLimits(const QtSoapLimits& limits);
+
     /// Appends \a item to the body.
     void addBodyItem(QtSoapType* item);
 
@@ -48,6 +56,19 @@ public:
 
     /// The method element of a request or an answer: the first item of the body; invalid in a fault.
     const QtSoapType& method() const;
+
+    /// Number of items in the body.
+    int bodyItemCount() const;
+
+    /// The item number \a index of the body, counted from 0; invalid if there is none. The first one is the
+    /// method or the fault, others are what a service added to it.
+    const QtSoapType& bodyItem(int index) const;
+
+    /// Number of items in the header.
+    int headerItemCount() const;
+
+    /// The item number \a index of the header, counted from 0; invalid if there is none.
+    const QtSoapType& headerItem(int index) const;
 
     /// The result that an answer carries: the first child of method(), under any name; invalid when there
     /// is none.
@@ -135,14 +156,24 @@ protected:
 private:
     friend class QtSoapHttpServer;
 
+    struct Contents : QSharedData {
+        MessageType type = OtherType;
+        std::optional<QtSoapStruct> header;
+        std::optional<QtSoapStruct> body;
+        bool isExposed = false; ///< a derived class has a reference into it, so it cannot be shared
+    };
+
     bool take(class SoapMessageReader& reader);
+    Contents& own() const;
+    QtSoapStruct& part(std::optional<QtSoapStruct> Contents::*which, QLatin1String name) const;
+    QtSoapStruct& ownBody() const;
+    QtSoapStruct& ownHeader() const;
     QtSoapStruct& faultStruct();
     const QtSoapType& faultEntry(const QString& name) const;
 
-    MessageType m_type = OtherType;
+    mutable QExplicitlySharedDataPointer<Contents> d;
     QString m_error;
-    mutable std::optional<QtSoapStruct> m_header;
-    mutable std::optional<QtSoapStruct> m_body;
+    QtSoapLimits m_limits;
 };
 
 } // namespace TOLVAN_NAMESPACE

@@ -4,7 +4,6 @@
 #include "SoapUris.h"
 
 #include <QMutexLocker>
-#include <QStringList>
 
 namespace TOLVAN_NAMESPACE
 {
@@ -26,15 +25,12 @@ QtSoapNamespaces& QtSoapNamespaces::instance()
 
 void QtSoapNamespaces::registerNamespace(const QString& prefix, const QString& uri)
 {
-    static const QStringList fixed{QStringLiteral("SOAP-ENV"), QStringLiteral("SOAP-ENC"),
-                                   QStringLiteral("xsi"), QStringLiteral("xsd"), QStringLiteral("xml")};
     const QMutexLocker lock(&m_mutex);
     if (m_prefixes.value(uri) == prefix && !prefix.isEmpty()) {
         return;
     }
-    if (uri.isEmpty() || !SoapText::isElementName(prefix) ||
-        prefix.startsWith(QLatin1String("xml"), Qt::CaseInsensitive) || fixed.contains(prefix) ||
-        fixed.contains(m_prefixes.value(uri))) {
+    if (uri.isEmpty() || !SoapText::isOwnPrefix(prefix) ||
+        (m_prefixes.contains(uri) && !SoapText::isOwnPrefix(m_prefixes.value(uri)))) {
         SoapText::warn(QStringLiteral("The prefix \"%1\" cannot stand for \"%2\"").arg(prefix, uri));
         return;
     }

@@ -30,6 +30,13 @@ QtSoapSimpleType::QtSoapSimpleType(const QtSoapQName& name, bool truth, int dumm
 {
 }
 
+void QtSoapSimpleType::hold(const QVariant& content)
+{
+    if (content.isValid()) {
+        v = SoapText::toVariant(t, SoapText::lexical(t, content));
+    }
+}
+
 QtSoapSimpleType::QtSoapSimpleType(const QtSoapSimpleType& copy) = default;
 QtSoapSimpleType& QtSoapSimpleType::operator=(const QtSoapSimpleType& copy) = default;
 QtSoapSimpleType::~QtSoapSimpleType() = default;

@@ -38,6 +38,21 @@ public:
     /// A String.
     QtSoapSimpleType(const QtSoapQName& name, const QString& n);
 
+    /// A value of any simple type: `QtSoapSimpleType(name, 30.48, QtSoapType::Double)`.
+    ///
+    /// Dates and times are written in the ISO form, with their offset from UTC; a `QByteArray` becomes base64, or
+    /// hexadecimal digits for HexBinary. With the type Other no `xsi:type` is written, as enumerations and untyped
+    /// services want it.
+    /// \param content a number, text, `QDate`, `QTime`, `QDateTime`, `QByteArray` or `QVariant`; an invalid variant
+    /// makes a nil value. The object holds what reading the written value gives, see above.
+    /// \param type one of the types before QtSoapType::Array, or QtSoapType::Other
+    template <class Value>
+    QtSoapSimpleType(const QtSoapQName& name, const Value& content, QtSoapType::Type type)
+        : QtSoapType(name, type)
+    {
+        hold(QVariant(content));
+    }
+
     /// A copy of name, type and value.
     QtSoapSimpleType(const QtSoapSimpleType& copy);
 
@@ -75,6 +90,8 @@ protected:
     QVariant v; ///< the value
 
 private:
+    void hold(const QVariant& content);
+
     friend class QtSoapMessage;
     friend class SoapValueReader;
 };

@@ -69,6 +69,7 @@ private:
     friend class QtSoapMessage;
     friend class QtSoapStructIterator;
     friend class SoapEncoder;
+    friend class SoapReferences;
     friend class SoapValueReader;
 
     /// Index of the child for \a key, -1 when there is none.

@@ -1,5 +1,7 @@
 #include "qtsoaptype.h"
 
+#include "SoapExtra.h"
+
 #include <iterator>
 
 namespace TOLVAN_NAMESPACE
@@ -81,36 +83,62 @@ QtSoapType::QtSoapType(const QtSoapQName& name, Type type)
 }
 
 QtSoapType::QtSoapType(const QtSoapType& copy)
-    : t(copy.t)
+    : m_isReference(copy.m_isReference)
+    , t(copy.t)
     , errorStr(copy.errorStr)
     , i(copy.i)
     , n(copy.n)
     , u(copy.u)
     , h(copy.h)
 {
+    if (copy.m_hasExtra) {
+        m_hasExtra = SoapExtra::copyAttributes(&copy, this);
+    }
 }
 
 QtSoapType& QtSoapType::operator=(const QtSoapType& copy)
 {
+    m_isReference = copy.m_isReference;
     t = copy.t;
     errorStr = copy.errorStr;
     i = copy.i;
     n = copy.n;
     u = copy.u;
     h = copy.h;
+    if (m_hasExtra || copy.m_hasExtra) {
+        m_hasExtra = SoapExtra::copyAttributes(&copy, this);
+    }
     return *this;
 }
 
-QtSoapType::~QtSoapType() = default;
+QtSoapType::~QtSoapType()
+{
+    if (m_hasExtra) {
+        SoapExtra::remove(this);
+    }
+}
 
 QtSoapType& QtSoapType::missing()
 {
-    if (m_missing) {
-        *m_missing = QtSoapType();
+    std::unique_ptr<QtSoapType>& empty = SoapExtra::of(this)->missing;
+    m_hasExtra = true;
+    if (empty) {
+        *empty = QtSoapType();
     } else {
-        m_missing = std::make_unique<QtSoapType>();
+        empty = std::make_unique<QtSoapType>();
     }
-    return *m_missing;
+    return *empty;
+}
+
+void QtSoapType::setAttribute(const QtSoapQName& attribute, const QString& text)
+{
+    SoapExtra::of(this)->set(attribute, text);
+    m_hasExtra = true;
+}
+
+QString QtSoapType::attribute(const QtSoapQName& attribute) const
+{
+    return m_hasExtra ? SoapExtra::of(this)->get(attribute) : QString();
 }
 
 const QtSoapType& QtSoapType::missingConst()
@@ -233,11 +261,13 @@ void QtSoapType::setName(const QtSoapQName& name)
 void QtSoapType::setId(const QString& id)
 {
     i = id;
+    m_isReference = false;
 }
 
 void QtSoapType::setHref(const QString& href)
 {
     h = href;
+    m_isReference = false;
 }
 
 QString QtSoapType::errorString() const

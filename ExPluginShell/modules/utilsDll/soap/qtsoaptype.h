@@ -3,6 +3,7 @@
 #include "qtsoapqname.h"
 #include "qtsoapsmartptr.h"
 
+#include <memory>
 #include <QtXml/QtXml>
 #include <QVariant>
 
@@ -128,10 +129,11 @@ public:
     /// The type of this value.
     virtual Type type() const;
 
-    /// The `id` attribute, stored and written, never resolved.
+    /// The `id` attribute.
     virtual QString id() const;
 
-    /// The `href` attribute, stored and written, never resolved.
+    /// The `href` attribute. In a message that was read, a value that refers to an element of the same
+    /// document (`href="#id"`) has the contents of that element; the text stays.
     virtual QString href() const;
 
     /// The text form of type(), see typeToName().
@@ -170,6 +172,22 @@ public:
     /// are known too.
     static Type nameToType(const QString& name);
 
+    /// Sets an attribute of the element that this value is written as, for example
+    /// `SOAP-ENV:mustUnderstand` of a header item. A null \a text removes it.
+    ///
+    /// Attributes are written, not read: those of a value from a message are empty. The attributes that the
+    /// classes write themselves (`xsi:type`, `xsi:nil`, `id`, `href` and those of arrays) are not affected.
+    /// \param attribute its name, in a namespace or in none
+    /// \param text its value
+    void setAttribute(const QtSoapQName& attribute, const QString& text);
+
+    /// Returns the text that setAttribute() set for \a attribute; a null string if none was set.
+    QString attribute(const QtSoapQName& attribute) const;
+
+private:
+    bool m_hasExtra = false;    ///< SoapExtra has more of this value
+    bool m_isReference = false; ///< id and href are those of a resolved document, and not written again
+
 protected:
     Type t;           ///< type
     QString errorStr; ///< latest error
@@ -186,8 +204,9 @@ protected:
 
 private:
     friend class QtSoapMessage;
+    friend class SoapEncoder;
+    friend class SoapReferences;
     friend class SoapValueReader;
-    std::unique_ptr<QtSoapType> m_missing;
 };
 
 } // namespace TOLVAN_NAMESPACE
