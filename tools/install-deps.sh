@@ -26,7 +26,7 @@ packages_of() {
         echo libsqlite3-dev # the lens search of the showcase
         # the resource bundles: catalogues, fonts, rendered icons; a font with Chinese and Japanese characters to show them
         echo qttools5-dev-tools qttranslations5-l10n librsvg2-bin
-        echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-droid-fallback
+        echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-noto-cjk
         ;;
     test)
         echo libqt5svg5 libxml2-utils xvfb openbox libxtst-dev

@@ -4,10 +4,13 @@
 #include <utilsDll/LanguageManager.h>
 
 #include <QAbstractButton>
+#include <QFontDatabase>
+#include <QGlyphRun>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTextLayout>
 
 #include <stdexcept>
 
@@ -126,6 +129,7 @@ private Q_SLOTS:
     void fixedAbbreviations();
     void tenChangesAndBack();
     void applicationFreesTranslators();
+    void glyphsOfTheLanguage();
     void nothingIsLeakedWithoutApplication();
     void sameLanguage();
 };
@@ -303,6 +307,32 @@ void LanguageManagerTest::applicationFreesTranslators()
     qDeleteAll(qApp->findChildren<QTranslator*>());
     QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(0)));
     QCOMPARE(installedByApplication(), 2);
+}
+
+void LanguageManagerTest::glyphsOfTheLanguage()
+{
+    if (!QFontDatabase().families().contains(QStringLiteral("Noto Sans CJK SC"))) {
+        QSKIP("needs the Noto CJK fonts");
+    }
+    CLanguageManager manager;
+    manager.loadLanguages();
+    QLabel plain, styled;
+    styled.setStyleSheet(QStringLiteral("font-family: 'Lucida Sans Unicode', 'Open Sans'"));
+    const auto familyIn = [](const QLabel& label) {
+        label.ensurePolished();
+        QTextLayout layout(QString(QChar(0x76F4)), label.font()); // its glyph differs between the languages
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        return layout.glyphRuns().value(0).rawFont().familyName().toLower();
+    };
+    QVERIFY(!familyIn(plain).isEmpty() && !familyIn(styled).isEmpty()); // fonts that are in use
+    for (const unsigned number : {12u, 13u, 0u, 12u, 13u}) {
+        manager.changeLanguage(manager.getLanguageIndexFromID(number));
+        const QString expected = QLatin1String(number == 13 ? "noto sans cjk sc" : "noto sans cjk jp");
+        QVERIFY2(number == 0 || familyIn(plain) == expected, qPrintable(familyIn(plain)));
+        QVERIFY2(number == 0 || familyIn(styled) == expected, qPrintable(familyIn(styled)));
+    }
 }
 
 void LanguageManagerTest::nothingIsLeakedWithoutApplication()

@@ -59,7 +59,9 @@ public:
     /// "CLanguageManager", such as Qt's own catalogues, are skipped without a log line.
     void loadLanguages();
 
-    /// Installs the translators of the stored language and makes its locale the default one.
+    /// Installs the translators of the stored language and makes its locale the default one. In an
+    /// application with a user interface the fonts of Japanese or Chinese become substitutes
+    /// (QFont::insertSubstitutions()) of the product's fonts and of the application font.
     ///
     /// Installs the product's catalogue and, if the resources hold one (all languages but English), Qt's. The
     /// next call removes only the translator that was installed last; the other one stays installed and is

@@ -1,6 +1,7 @@
 #include "LanguageManager.h"
 
 #include "frame/Logging.h"
+#include "LanguageFonts.h"
 #include "Settings.h"
 
 #include <QCoreApplication>
@@ -235,6 +236,8 @@ void CLanguageManager::loadLanguageForApp()
     if (row < 0) {
         return;
     }
+    setFontsOfLanguage(
+        textAt(row, AbbreviationColumn)); // first: widgets measure their texts when they change
     releaseCurrentTranslator();
     m_currentTranslator = installTranslator(textAt(row, PathColumn));
     const QString qtPath = QStringLiteral(":/translations/qt_%1.qm").arg(currentLanguageAbbrv());
