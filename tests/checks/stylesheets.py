@@ -72,7 +72,13 @@ def read_palette(folder, name):
 
 
 def read_sheets(folder):
-    return {path.name: path.read_text(encoding="utf-8") for path in sorted((folder / "qss").glob("*.qss"))}
+    """The sheets by name; rgba(red, green, blue, opacity) is written as #AARRGGBB."""
+    def hexadecimal(found):
+        red, green, blue, opacity = map(int, found.groups())
+        return f"#{opacity:02X}{red:02X}{green:02X}{blue:02X}"
+    rgba = re.compile(r"rgba\((\d+), (\d+), (\d+), (\d+)\)")
+    return {path.name: rgba.sub(hexadecimal, path.read_text(encoding="utf-8"))
+            for path in sorted((folder / "qss").glob("*.qss"))}
 
 
 def colour_problems(sheets, palette):
