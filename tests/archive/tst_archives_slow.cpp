@@ -15,6 +15,7 @@ class SlowArchivesTest : public QObject
 private Q_SLOTS:
     void seventyThousandEntries();
     void entryOfMoreThanFourGigabytes();
+    void archiveOfMacOs();
 
 private:
     QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
@@ -80,6 +81,36 @@ void SlowArchivesTest::entryOfMoreThanFourGigabytes()
     QVERIFY2(zip.code == 0, zip.output);
     QVERIFY(DecompressFiles(path("theirs.zip").toStdWString(), path("out").toStdWString()));
     QVERIFY(hasEnd(path("out") + path("large")));
+}
+
+/// Above 4 GiB it stores sizes and offsets modulo 2^32, without ZIP64. The content is deflated in stored blocks.
+void SlowArchivesTest::archiveOfMacOs()
+{
+    const char* const code = R"(
+import struct, sys, zlib
+blocks, block = 65600, 65535
+crc = 0
+for i in range(blocks): crc = zlib.crc32(bytes(block), crc)
+f = open(sys.argv[1], "wb")
+def record(start, name, flags, method, crc, packed, size, *rest):
+    head = struct.pack("<HHHHHIIIHH", 20, flags, method, 0, 0x58a1, crc, packed % 2**32, size % 2**32, len(name), 0)
+    f.write(start + head + struct.pack("<HHHII", *rest) + name if rest else start + head + name)
+record(b"PK\3\4", b"large", 8, 8, 0, 0, 0)
+for i in range(blocks):
+    f.write(struct.pack("<BHH", i == blocks - 1, block, block ^ 0xffff)); f.seek(block, 1)
+packed, size = blocks * (block + 5), blocks * block
+f.write(b"PK\7\b" + struct.pack("<III", crc, packed % 2**32, size % 2**32))
+second = f.tell()
+record(b"PK\3\4", b"behind", 0, 0, zlib.crc32(b"behind it"), 9, 9); f.write(b"behind it")
+directory = f.tell()
+record(b"PK\1\2\x15\3", b"large", 8, 8, crc, packed, size, 0, 0, 0, 0o100644 << 16, 0)
+record(b"PK\1\2\x15\3", b"behind", 0, 0, zlib.crc32(b"behind it"), 9, 9, 0, 0, 0, 0o100644 << 16, second % 2**32)
+f.write(b"PK\5\6" + struct.pack("<HHHHIIH", 0, 0, 2, 2, f.tell() - directory, directory % 2**32, 0))
+)";
+    QCOMPARE(python(code, path("mac.zip")), QByteArray());
+    QVERIFY(DecompressFiles(path("mac.zip").toStdWString(), path("mac").toStdWString()));
+    QCOMPARE(QFileInfo(path("mac/large")).size(), Q_INT64_C(65600) * 65535);
+    QCOMPARE(FileTree::read(path("mac/behind")), QByteArray("behind it"));
 }
 
 TOLVAN_CORE_TEST_MAIN(SlowArchivesTest)
