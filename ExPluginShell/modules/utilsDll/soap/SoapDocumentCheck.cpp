@@ -42,7 +42,8 @@ SoapDocumentCheck::SoapDocumentCheck(const QByteArray& document, const QtSoapLim
     } else if (bounds.hasDocumentType) {
         error = documentTypeRefusal();
     }
-    memory = document.size() + utf8.size() + 2 * static_cast<qint64>(bounds.longestText);
+    text = 2 * static_cast<qint64>(bounds.longestText);
+    memory = document.size() + utf8.size() + text;
 }
 
 bool isSoapEncoding(const QStringRef& encoding)

@@ -16,6 +16,7 @@ struct SoapDocumentCheck {
     QString error;     ///< what is wrong; empty if nothing is
     QByteArray utf8;   ///< the text if it is UTF-16 or UTF-32; null otherwise
     qint64 memory = 0; ///< bytes that the document takes, and the copy of its longest text in the reader
+    qint64 text = 0;   ///< bytes that this text takes as a value
 };
 
 /// Returns the error text for a document with a document type.

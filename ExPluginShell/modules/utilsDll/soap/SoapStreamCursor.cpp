@@ -31,7 +31,9 @@ SoapStreamCursor::SoapStreamCursor(const QByteArray& document, const QtSoapLimit
         fail(check.error);
         return;
     }
-    spend(check.memory);
+    if (spend(check.memory + check.text)) { // before the reader makes its copy
+        spend(-check.text);
+    }
     m_decoded = !check.utf8.isNull();
     if (m_decoded) {
         m_document = check.utf8;

@@ -212,9 +212,12 @@ bool SoapValueReader::pack(QtSoapArray& result, int position, const QtSoapType& 
     if (!result.m_run) {
         result.m_run = std::make_shared<SoapItemRun>();
     }
-    result.m_run->append(static_cast<const QtSoapSimpleType&>(item));
+    const auto& simple = static_cast<const QtSoapSimpleType&>(item);
+    const bool keepsText = simple.v.type() == QVariant::String;
+    result.m_run->append(simple);
     result.lastIndex = position;
-    m_cursor.spend(SoapLimits::RunItemBytes - SoapLimits::ValueBytes);
+    m_cursor.spend(SoapLimits::RunItemBytes - SoapLimits::ValueBytes -
+                   (keepsText ? 0 : SoapLimits::TextBytes));
     return true;
 }
 
