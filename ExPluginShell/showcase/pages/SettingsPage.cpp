@@ -11,9 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -168,7 +166,7 @@ void SettingsPage::write()
 
 void SettingsPage::writeSuiteValue()
 {
-    QDir().mkpath(QFileInfo(CStorageLocation::getOstraUserConfigFileLocation()).path());
+    CStorageLocation::ensureOstraUserConfigFolder();
     const bool written = CSettings::writeSettingToOstraUserConfigFile(
         suiteGroup, suiteKey, m_suiteValue->text(), QStringLiteral("string"));
     answer([written] {

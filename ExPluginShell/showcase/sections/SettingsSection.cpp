@@ -7,9 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -79,7 +77,7 @@ void showModes(Report& report)
 void showSuiteFile(Report& report)
 {
     const QString path = CStorageLocation::getOstraUserConfigFileLocation();
-    QDir().mkpath(QFileInfo(path).path());
+    CStorageLocation::ensureOstraUserConfigFolder();
     report.row(QStringLiteral("suite file, value of the last run"),
                CSettings::getSettingFromOstraUserConfigFile(group, key, QStringLiteral("(none)")));
     const QString now = QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
