@@ -106,20 +106,6 @@ private Q_SLOTS:
                          QStringLiteral("E f: ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60")}));
     }
 
-    void loggerIsNeverReplaced()
-    {
-        auto& first = installedLogger();
-        RecordingLogger second;
-        Log::setLogger(&second);
-        Log::setLogger(nullptr);
-        QCOMPARE(TOLVAN_NAMESPACE::initLoggerForUtilsDll(&second, QStringLiteral("x")),
-                 static_cast<ILoggerInterface*>(&first));
-        first.take();
-        UTILSDLL_LOG(LogLevel::Debug, "f") << "still the first";
-        QCOMPARE(first.take().size(), 1);
-        QCOMPARE(second.take().size(), 0);
-    }
-
     void throwingLoggerIsContained()
     {
         struct ThrowingLogger : RecordingLogger {

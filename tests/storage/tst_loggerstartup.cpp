@@ -36,47 +36,40 @@ private Q_SLOTS:
 
     void outcomes_data()
     {
-        QTest::addColumn<QString>("enabled");
         QTest::addColumn<QString>("library");
         QTest::addColumn<QString>("mode");
         QTest::addColumn<QByteArray>("logger");
-        QTest::addColumn<QByteArray>("err");
-        const QString good = text("fake_logger.dll");
-        QTest::newRow("switched off, host logger")
-            << "0" << good << "host" << QByteArray("null") << QByteArray();
-        QTest::newRow("switched off") << "0" << good << "none" << QByteArray("null") << QByteArray();
-        QTest::newRow("host logger") << "1" << good << "host" << QByteArray("host") << QByteArray();
-        QTest::newRow("library missing")
-            << "1" << QString() << "none" << QByteArray("null") << missing + missing;
-        QTest::newRow("library without export")
-            << "1" << text("fake_logger_no_export.dll") << "none" << QByteArray("null") << missing + missing;
-        QTest::newRow("library without logger")
-            << "1" << text("fake_logger_null.dll") << "none" << QByteArray("null") << missing + missing;
-        QTest::newRow("export throws")
-            << "1" << text("fake_logger_throws.dll") << "none" << QByteArray("null") << missing + missing;
-        QTest::newRow("logger throws") << "1" << text("fake_logger_throws_in_init.dll") << "none"
-                                       << QByteArray("null") << missing + missing;
+        const auto row = [](const char* name, const char* library, const char* mode, const char* logger) {
+            QTest::newRow(name) << text(library) << text(mode) << QByteArray(logger);
+        };
+        row("switched off, host logger", "fake_logger", "host", "null");
+        row("switched off", "fake_logger", "none", "null");
+        row("host logger", "fake_logger", "host", "host");
+        row("library missing", "", "none", "null");
+        row("library without export", "fake_logger_no_export", "none", "null");
+        row("library without logger", "fake_logger_null", "none", "null");
+        row("export throws", "fake_logger_throws", "none", "null");
+        row("logger throws", "fake_logger_throws_in_init", "none", "null");
     }
 
     void outcomes()
     {
-        QFETCH(QString, enabled);
         QFETCH(QString, library);
         QFETCH(QString, mode);
         QFETCH(QByteArray, logger);
-        QFETCH(QByteArray, err);
-        store("loggerEnabled", enabled);
+        const bool isOff = QByteArray(QTest::currentDataTag()).startsWith("switched off");
+        store("loggerEnabled", text(isOff ? "0" : "1"));
         const Outcome outcome = start(library, mode);
         QCOMPARE(outcome.result.mid(0, 3),
                  QList<QByteArray>({logger, logger, "0"})); // nothing reached the host logger
         QCOMPARE(outcome.out.count("Initializing"), library.contains(text("in_init")) ? 2 : 0);
-        QCOMPARE(outcome.err, err);
+        QCOMPARE(outcome.err, isOff || logger == "host" ? QByteArray() : missing + missing);
         QCOMPARE(outcome.loggerCalls, QByteArray("(unreadable)")); // there is no such file
     }
 
     void startUpLines()
     {
-        const Outcome outcome = start(text("fake_logger.dll"), text("none"));
+        const Outcome outcome = start(text("fake_logger"), text("none"));
         QCOMPARE(outcome.result.mid(0, 3), QList<QByteArray>({"library", "library", "0"}));
         QCOMPARE(outcome.err, QByteArray());
         QCOMPARE(outcome.out, "Initializing logger in " + outcome.logFolder + " / my log" + lineEnd);
@@ -108,23 +101,16 @@ private Q_SLOTS:
                  outcome.out);
     }
 
-    void levelLetter_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<int>("letter");
-        QTest::newRow("empty") << "" << 0;
-        QTest::newRow("Latin-1") << QStringLiteral("é") << 0xE9;
-        QTest::newRow("outside Latin-1") << QStringLiteral("日") << 0;
-    }
-
     void levelLetter()
     {
-        QFETCH(QString, stored);
-        QFETCH(int, letter);
-        store("loggerLevel", stored);
-        const Outcome outcome = start(text("fake_logger.dll"), text("none"));
-        QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letter) + "\n"),
-                 outcome.loggerCalls);
+        const QMap<QString, int> letters = {
+            {text("Error"), int('E')}, {text(""), 0}, {text("é"), 0xE9}, {text("日"), 0}};
+        for (const QString& stored : letters.keys()) {
+            store("loggerLevel", stored);
+            const Outcome outcome = start(text("fake_logger"), text("none"));
+            QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(letters[stored]) + "\n"),
+                     outcome.loggerCalls);
+        }
     }
 
 private:
@@ -149,7 +135,8 @@ LoggerStartupTest::Outcome LoggerStartupTest::start(const QString& library, cons
     const QString executable = program.filePath(text("logger_startup_child") + programSuffix);
     Outcome outcome;
     if (!QFile::copy(build.filePath(QFileInfo(executable).fileName()), executable) ||
-        (!library.isEmpty() && !QFile::copy(build.filePath(library), program.filePath(loggerFile)))) {
+        (!library.isEmpty() &&
+         !QFile::copy(build.filePath(library + text(".dll")), program.filePath(loggerFile)))) {
         return outcome;
     }
     QProcess process;

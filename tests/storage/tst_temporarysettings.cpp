@@ -97,29 +97,22 @@ private Q_SLOTS:
 #else
         const char* const variable = "TMPDIR";
 #endif
-        auto& logger = installedLogger();
-        logger.take();
+        installedLogger().take();
         const QByteArray usual = qgetenv(variable);
-        const QTemporaryDir folder;
-        QFile obstacle(QDir(folder.path()).filePath(text("file")));
-        QVERIFY(obstacle.open(QIODevice::WriteOnly));
-        qputenv(variable, QFile::encodeName(QDir::toNativeSeparators(obstacle.fileName())));
+        qputenv(variable, QFile::encodeName(QCoreApplication::applicationFilePath())); // no folder
+        QTest::ignoreMessage(
+            QtDebugMsg, "ASSERT_X in ExPluginShell\\modules\\utilsDll\\TemporarySettings line 25: Temporary "
+                        "folder is not valid!");
         {
-            QTest::ignoreMessage(
-                QtDebugMsg,
-                "ASSERT_X in ExPluginShell\\modules\\utilsDll\\TemporarySettings line 25: Temporary "
-                "folder is not valid!");
             CTemporarySettings settings(nullptr);
-            const QString key = QFileInfo(folder.path()).fileName(); // used by no other run
-            settings.setValue(key, 1);                               // lost, without a crash
-            QVERIFY(!onDisk(settings.tempSettingsPath(), key).isValid());
+            settings.setValue(text("lost"), 1); // without a crash
+            QVERIFY(!onDisk(settings.tempSettingsPath(), text("lost")).isValid());
         }
         qputenv(variable, usual);
         QCOMPARE(
-            logger.take(),
-            QStringList(text(
-                "E CTemporarySettings::CTemporarySettings: ASSERT_X in ExPluginShell\\modules\\utilsDll\\"
-                "TemporarySettings line 25:Temporary folder is not valid!")));
+            installedLogger().take(),
+            QStringList(text("E CTemporarySettings::CTemporarySettings: ASSERT_X in ExPluginShell\\modules"
+                             "\\utilsDll\\TemporarySettings line 25:Temporary folder is not valid!")));
     }
 };
 

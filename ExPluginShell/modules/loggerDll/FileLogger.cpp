@@ -2,6 +2,7 @@
 
 #include <spdlog/pattern_formatter.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
@@ -13,7 +14,13 @@ constexpr int EverySeverity = spdlog::level::trace;
 
 // ISO 8601 in UTC, so that reports from several time zones can be compared. The place of the logger's name
 // ("%n") takes the level letter, which is written unchanged also if it is unknown.
-constexpr const char* LinePattern = "%Y-%m-%dT%H:%M:%S.%eZ [%n] [%P:%t] %v";
+std::unique_ptr<spdlog::pattern_formatter> recordFormatter()
+{
+    // The process is part of the pattern, because "%P" asks the system for each record.
+    const std::string process = std::to_string(spdlog::details::os::pid());
+    return std::make_unique<spdlog::pattern_formatter>("%Y-%m-%dT%H:%M:%S.%eZ [%n] [" + process + ":%t] %v",
+                                                       spdlog::pattern_time_type::utc);
+}
 
 constexpr const char* Indentation = "\n    ";
 
@@ -47,36 +54,36 @@ bool isPlainFileName(const std::string& name)
 }
 
 /// The text as it is written: further lines are indented, line feeds at the end removed, the length bounded.
-std::string recordText(const char* text)
+/// \param storage holds the result if it differs from a part of \a text
+std::string_view recordText(std::string_view text, std::string& storage)
 {
-    const std::size_t length = std::strlen(text);
-    std::size_t end = length;
-    while (end > 0 && (text[end - 1] == '\n' || text[end - 1] == '\r')) {
-        --end;
+    const std::size_t size = text.size();
+    text = text.substr(0, text.find_last_not_of("\r\n") + 1);
+    constexpr auto none = std::string_view::npos;
+    if (text.find('\n') == none && text.find('\r') == none && text.size() <= CFileLogger::MaxTextSize) {
+        return text;
     }
-    std::string record;
-    std::size_t at = 0;
-    while (at < end && record.size() < CFileLogger::MaxTextSize) {
-        const std::size_t room = std::min(end - at, CFileLogger::MaxTextSize - record.size());
-        std::size_t plain = 0;
-        while (plain < room && text[at + plain] != '\n' && text[at + plain] != '\r') {
-            ++plain;
+    bool isCut = false;
+    while (!text.empty() && !isCut) {
+        std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+        const std::size_t room =
+            CFileLogger::MaxTextSize - std::min(storage.size(), CFileLogger::MaxTextSize);
+        isCut = end > room || room == 0;
+        end = isCut ? room : end;
+        while (isCut && end > 0 && (text[end] & 0xC0) == 0x80) { // not in the middle of a letter
+            --end;
         }
-        record.append(text + at, plain);
-        at += plain;
-        if (at < end && plain < room) {
-            at += text[at] == '\r' && text[at + 1] == '\n' ? 2 : 1;
-            record += Indentation;
+        storage.append(text.substr(0, end));
+        text.remove_prefix(end);
+        if (!isCut && !text.empty()) {
+            text.remove_prefix(text.substr(0, 2) == "\r\n" ? 2 : 1);
+            storage.append(Indentation);
         }
     }
-    if (at < end) {
-        while (!record.empty() && (text[at] & 0xC0) == 0x80) { // not in the middle of a letter
-            record.pop_back();
-            --at;
-        }
-        record += " [cut, " + std::to_string(length) + " bytes]";
+    if (isCut) {
+        storage.append(" [cut, " + std::to_string(size) + " bytes]");
     }
-    return record;
+    return storage;
 }
 
 } // namespace
@@ -100,8 +107,7 @@ try {
         }
         const auto severity = severityOf(level);
         m_minimumSeverity = severity == spdlog::level::critical ? EverySeverity : severity;
-        m_formatter =
-            std::make_unique<spdlog::pattern_formatter>(LinePattern, spdlog::pattern_time_type::utc);
+        m_formatter = recordFormatter();
         m_file.open(stem);
         std::memcpy(m_stem.data(), stem.data(), stem.size());
         m_isClosed = false;
@@ -133,7 +139,8 @@ try {
                             std::to_string(m_dropped));
             m_dropped = 0;
         }
-        writeRecord(m_file, level, recordText(text));
+        std::string storage;
+        writeRecord(m_file, level, recordText(text, storage));
     } catch (const std::exception& error) {
         countDropped(error.what());
     }
@@ -154,12 +161,14 @@ void CFileLogger::close() noexcept
     m_isClosed = true;
 }
 
-void CFileLogger::writeRecord(CLogFile& file, char level, const std::string& text)
+void CFileLogger::writeRecord(CLogFile& file, char level, std::string_view text)
 {
     const char letter = level > ' ' && level <= '~' ? level : '?';
     spdlog::memory_buf_t record;
-    m_formatter->format({spdlog::string_view_t(&letter, 1), severityOf(level), text}, record);
-    file.append(std::string(record.data(), record.size()));
+    m_formatter->format({spdlog::string_view_t(&letter, 1), severityOf(level),
+                         spdlog::string_view_t(text.data(), text.size())},
+                        record);
+    file.append({record.data(), record.size()});
 }
 
 /// Nothing stays in memory: the library may be unloaded, and is not asked before.
@@ -167,8 +176,9 @@ void CFileLogger::writeAfterClose(char level, const char* text)
 {
     CLogFile file;
     file.open(m_stem.data());
-    m_formatter = std::make_unique<spdlog::pattern_formatter>(LinePattern, spdlog::pattern_time_type::utc);
-    writeRecord(file, level, recordText(text));
+    m_formatter = recordFormatter();
+    std::string storage;
+    writeRecord(file, level, recordText(text, storage));
     m_formatter.reset();
 }
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
 
 namespace spdlog
 {
@@ -56,7 +57,7 @@ private:
     static constexpr std::chrono::seconds RetryInterval{1};
     static constexpr std::size_t LongestStem = 4096;
 
-    void writeRecord(CLogFile& file, char level, const std::string& text);
+    void writeRecord(CLogFile& file, char level, std::string_view text);
     void writeAfterClose(char level, const char* text);
     void countDropped(const char* reason);
 

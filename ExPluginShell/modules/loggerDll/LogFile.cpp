@@ -34,16 +34,26 @@ void CLogFile::close() noexcept
     m_moveTime = {};
 }
 
-void CLogFile::append(std::string record)
+void CLogFile::append(std::string_view record)
 {
+    std::string separated;
     if (m_isTorn) {
-        record.insert(0, 1, '\n');
+        separated.append(1, '\n').append(record);
+        record = separated;
+    }
+    const auto now = std::chrono::steady_clock::now();
+    if (m_file == NoFile || m_unchecked >= CheckSize || now - m_checkTime >= CheckInterval) {
+        m_checkTime = now;
+        check();
     }
     makeRoom(record.size());
     const std::size_t written = write(m_file, record);
+    m_state.size += written;
+    m_unchecked += written;
     if (written != record.size()) {
         const int error = lastError();
         m_isTorn = m_isTorn || written != 0;
+        m_checkTime = {};
         throw std::system_error(error, std::system_category());
     }
     m_isTorn = false;
@@ -57,24 +67,26 @@ void CLogFile::reopen()
     std::filesystem::create_directories(m_path.parent_path());
     m_file = openFile(m_path);
     m_limit = processLimit();
+    m_state = stateOf(m_file);
+    m_unchecked = 0;
+}
+
+void CLogFile::check()
+{
+    m_state = stateOf(m_file);
+    m_unchecked = 0;
+    if (m_state.isDeleted) {
+        reopen();
+    }
 }
 
 void CLogFile::makeRoom(std::size_t length)
 {
-    State state = stateOf(m_file);
-    if (state.isDeleted) {
-        reopen();
-        state = stateOf(m_file);
+    if (m_state.size != 0 && m_state.size + length > std::min(MaxSize, m_limit) && !moveFiles() &&
+        m_state.size + length > 2 * MaxSize) {
+        throw std::system_error(std::make_error_code(std::errc::file_too_large));
     }
-    if (state.size != 0 && state.size + length > std::min(MaxSize, m_limit)) {
-        if (moveFiles()) {
-            state = stateOf(m_file);
-        }
-        if (state.size + length > 2 * MaxSize) {
-            throw std::system_error(std::make_error_code(std::errc::file_too_large));
-        }
-    }
-    if (state.size + length > m_limit) {
+    if (m_state.size + length > m_limit) {
         throw std::system_error(std::make_error_code(std::errc::file_too_large));
     }
 }

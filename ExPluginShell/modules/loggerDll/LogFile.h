@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 /// One log on disk: the current file and a bounded number of older ones. Several processes may append to the
 /// same log.
@@ -14,12 +15,17 @@
 class CLogFile
 {
 public:
-    /// Size in bytes at which a file becomes an older one. Other processes may pass it by a few records while
-    /// one moves the files. If the files can't be moved, twice this size is the limit.
+    /// Size in bytes at which a file becomes an older one. Several processes may pass it by CheckSize each. If
+    /// the files can't be moved, twice this size is the limit.
     static constexpr std::uint64_t MaxSize = 5 * 1024 * 1024;
 
     /// Number of older files beside the current one: "name.1.log" (the newest) to "name.4.log".
     static constexpr int OlderFiles = 4;
+
+    /// Number of own bytes after which the file's size, and whether it was deleted, are asked of the system
+    /// again. The same happens after CheckInterval: a question for each record would cost as much as writing it.
+    static constexpr std::uint64_t CheckSize = 16 * 1024;
+    static constexpr std::chrono::milliseconds CheckInterval{10};
 
     CLogFile() noexcept = default;
     ~CLogFile();
@@ -31,9 +37,9 @@ public:
     /// \throws std::system_error
     void open(const std::string& stem);
 
-    /// Appends a record. A file or folder that was deleted is created again.
+    /// Appends a record. A file or folder that was deleted is created again after CheckInterval at the latest.
     /// \throws std::system_error if the record could not be written whole
-    void append(std::string record);
+    void append(std::string_view record);
 
     /// Closes the file and frees all memory.
     void close() noexcept;
@@ -47,6 +53,7 @@ private:
     };
 
     void reopen();
+    void check();
     void makeRoom(std::size_t length);
     bool moveFiles();
     std::filesystem::path numbered(int number) const;
@@ -59,7 +66,7 @@ private:
     static bool isSameFile(Handle file, const std::filesystem::path& path) noexcept;
     static bool tryLock(Handle file) noexcept; ///< ends when the file is closed or the process ends
     static void unlock(Handle file) noexcept;
-    static std::size_t write(Handle file, const std::string& record) noexcept;
+    static std::size_t write(Handle file, std::string_view record) noexcept;
     static bool move(const std::filesystem::path& from, const std::filesystem::path& to) noexcept;
     static std::uint64_t processLimit() noexcept;
     static int lastError() noexcept;
@@ -67,6 +74,9 @@ private:
     std::filesystem::path m_stem;
     std::filesystem::path m_path;
     Handle m_file = NoFile;
+    State m_state;                 ///< as of the last check, with the own bytes since then
+    std::uint64_t m_unchecked = 0; ///< own bytes since the last check
+    std::chrono::steady_clock::time_point m_checkTime;
     std::chrono::steady_clock::time_point m_moveTime;
     std::uint64_t m_limit = 0; ///< largest file that this process may write
     bool m_isTorn = false;     ///< the last record was not written to its end

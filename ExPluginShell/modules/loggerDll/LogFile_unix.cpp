@@ -68,7 +68,7 @@ void CLogFile::unlock(Handle file) noexcept
     flock(descriptor(file), LOCK_UN);
 }
 
-std::size_t CLogFile::write(Handle file, const std::string& record) noexcept
+std::size_t CLogFile::write(Handle file, std::string_view record) noexcept
 {
     ssize_t written = 0;
     do {

@@ -93,7 +93,7 @@ void CLogFile::unlock(Handle file) noexcept
     UnlockFileEx(handleOf(file), 0, 1, 0, &range);
 }
 
-std::size_t CLogFile::write(Handle file, const std::string& record) noexcept
+std::size_t CLogFile::write(Handle file, std::string_view record) noexcept
 {
     // Wine looks for the end of the file before it writes: the lock keeps other processes from doing so too.
     OVERLAPPED range = rangeAt(writingRange);
