@@ -1,10 +1,12 @@
 // The frame's own cost beside its peers: logging, settings, the suite file.
 
 #include "frame/Logging.h"
+#include "platform/SharedFile.h"
 #include "Settings.h"
 #include "StorageLocation.h"
 #include "TemporarySettings.h"
 
+#include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/sinks/null_sink.h>
 #include <spdlog/spdlog.h>
 
@@ -15,12 +17,23 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QLibrary>
+#include <QProcess>
+#include <QSaveFile>
 #include <QTemporaryDir>
 
 using namespace TOLVAN_NAMESPACE;
 
 namespace
 {
+
+const QString writeLog = QStringLiteral("--write-log");
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 const char* const function = "TOLVAN_NAMESPACE::CSettings::setTemporarySettings";
 
@@ -155,6 +168,30 @@ void temporaryValue_CSettings(benchmark::State& state)
 }
 BENCHMARK(temporaryValue_CSettings);
 
+void temporarySetValue_plainQSettings(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("s.ini")), QSettings::IniFormat);
+    int i = 0;
+    for (auto _ : state) {
+        settings.setValue(key, ++i);
+        settings.sync();
+    }
+}
+BENCHMARK(temporarySetValue_plainQSettings)->UseRealTime();
+
+void temporarySetValue_CSettings(benchmark::State& state)
+{
+    CTemporarySettings temporary(nullptr);
+    CSettings::setTemporarySettings(temporary);
+    CSettings settings;
+    int i = 0;
+    for (auto _ : state) {
+        settings.setValue(key, ++i);
+    }
+}
+BENCHMARK(temporarySetValue_CSettings)->UseRealTime();
+
 QString suiteFileOfThousandGroups()
 {
     const QString path = CStorageLocation::getOstraUserConfigFileLocation();
@@ -196,6 +233,84 @@ void suiteFile_oneKeyRead(benchmark::State& state)
 }
 BENCHMARK(suiteFile_oneKeyRead);
 
+void suiteFile_replacedByQSaveFile(benchmark::State& state)
+{
+    const QString path = suiteFileOfThousandGroups();
+    const QByteArray text = contentOf(path);
+    for (auto _ : state) {
+        QSaveFile file(path);
+        file.open(QIODevice::WriteOnly);
+        file.write(text);
+        benchmark::DoNotOptimize(file.commit());
+    }
+}
+BENCHMARK(suiteFile_replacedByQSaveFile)->UseRealTime();
+
+void suiteFile_replaced(benchmark::State& state)
+{
+    const QString path = suiteFileOfThousandGroups();
+    const QByteArray text = contentOf(path);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(Platform::replaceSharedFile(path, text));
+    }
+}
+BENCHMARK(suiteFile_replaced)->UseRealTime();
+
+const char* const logText = "TOLVAN_NAMESPACE::moveFileToTrash: cannot move C:\\pictures\\holiday\\0815.jpg";
+
+void logFile_spdlogBasicSinkWithFlush(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    spdlog::logger logger("basic", std::make_shared<spdlog::sinks::basic_file_sink_mt>(
+                                       folder.filePath(QStringLiteral("basic.log")).toStdString()));
+    logger.flush_on(spdlog::level::trace);
+    for (auto _ : state) {
+        logger.log(spdlog::level::info, logText);
+    }
+}
+BENCHMARK(logFile_spdlogBasicSinkWithFlush)->UseRealTime();
+
+/// The companion logger library, which is loaded as LoggerStartup does.
+ILoggerInterface* companionLogger(const QString& folder)
+{
+    const auto instance = reinterpret_cast<ILoggerInterface* (*)()>(QLibrary::resolve(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/LoggerDllTrelioFrame.dll"),
+        "loggerInstance"));
+    ILoggerInterface* const logger = instance ? instance() : nullptr;
+    if (!logger) {
+        qFatal("the logger library can't be loaded");
+    }
+    logger->init(folder.toStdString(), "bench", LogLevel::Debug);
+    return logger;
+}
+
+void logFile_companionLogger(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    ILoggerInterface* const logger = companionLogger(folder.path());
+    QProcess other; // writes the same log
+    if (state.range(0) == 2) {
+        other.start(QCoreApplication::applicationFilePath(), {writeLog, folder.path()});
+        other.waitForReadyRead();
+    }
+    for (auto _ : state) {
+        logger->log(LogLevel::Information, logText);
+    }
+    other.kill();
+    other.waitForFinished();
+}
+BENCHMARK(logFile_companionLogger)->ArgName("processes")->Arg(1)->Arg(2)->UseRealTime();
+
+int writeLogForEver(const QString& folder)
+{
+    ILoggerInterface* const logger = companionLogger(folder);
+    std::puts("writing");
+    std::fflush(stdout);
+    for (;;) {
+        logger->log(LogLevel::Information, logText);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -204,6 +319,9 @@ int main(int argc, char** argv)
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     const QCoreApplication application(argc, argv);
+    if (argc == 3 && QString::fromLocal8Bit(argv[1]) == writeLog) {
+        return writeLogForEver(QString::fromLocal8Bit(argv[2]));
+    }
     plainNative()->setValue(key, 1);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
