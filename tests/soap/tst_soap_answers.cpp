@@ -62,8 +62,6 @@ void SoapAnswersTest::answers_data()
     const QByteArray latin = envelope("<r><a>\xF6\xDF</a></r>"), mail = "220 example.org ESMTP\r\n\r\n";
     row("fault with 500", "^Server too busy$", {oops, xml, serverFault});
     row("fault with 200", "^Server too busy$", {ok, xml, serverFault});
-    row("fault with 403", "^Server too busy$", {"403 No", xml, serverFault});
-    row("a message of another type", "^value pong$", {ok, "application/soap", good});
     row("a large message", "^value pong$", {ok, xml, large});
     row("taken on", "^value $", {"202 Accepted", xml, QByteArray()});
     row("character set of the header", "^value öß$", {ok, "text/xml; charset=\"ISO-8859-1\"", latin});
@@ -72,10 +70,8 @@ void SoapAnswersTest::answers_data()
     row("HTML with 200", "^Client .*\\(text/html, 7 bytes\\) is no SOAP message", {ok, html, "<html/>"});
     row("HTML with 404", "^Other .*status 404 Not Found", {"404 Not Found", html, "<html/>"});
     row("redirection", "^Other .*status 302", {"302 Found", xml, QByteArray()});
-    row("500 without fault", "^Other .*status 500", {oops, xml, "stack trace"});
     row("empty with 200", "^Other .*it is empty", {ok, xml, QByteArray()});
     row("closes before the answer", "^Other .*could not be asked", {ok, xml, good, -1, 0});
-    row("closes in the header", "^(Client|Other) .", {ok, xml, good, -1, 30});
     row("closes in the body", "^Other .*not complete", {ok, xml, good, -1, 150});
     const auto rawRow = [&row](const char* name, const char* outcome, const QByteArray& answer) {
         row(name, outcome, {"", "", answer, -1, -1, 0, false, true});

@@ -77,9 +77,7 @@ void SoapHostileTest::isRefused_data()
     };
     text("nothing", "", "Premature end");
     text("not XML", "Service unavailable", "Line 1");
-    text("binary", QByteArray::fromHex("00ff00fe89504e470d0a1a0a"), "");
     text("HTML", "<html><body><p>Not found</p></body></html>", "\"html\"");
-    text("HTML that is no XML", "<!doctype html><br>", "");
     text("another root", "<a/>", "no SOAP message");
     text("SOAP 1.2", "<Envelope xmlns='http://www.w3.org/2003/05/soap-envelope'><Body/></Envelope>",
          "another SOAP version");
@@ -89,13 +87,9 @@ void SoapHostileTest::isRefused_data()
     text("header behind the body", envelope("</e:Body><e:Header/><e:Body>"), "behind the body");
     text("something behind the envelope", envelope("") + "<a/>", "Line 1");
     text("mismatched tags", envelope("<a></b>"), "Line 1");
-    text("undeclared prefix", envelope("<p:a/>"), "Line 1");
     text("undeclared entity", envelope("<a>&uml;</a>"), "Line 1");
     text("control character", envelope("<a>\x01</a>"), "Line 1");
-    text("half a UTF-8 sequence", envelope("<a>\xC3</a>"), "Line 1");
     text("document type", "<!DOCTYPE e:Envelope>" + envelope(""), "document type");
-    text("external document type",
-         "<?xml version='1.0'?><!DOCTYPE a SYSTEM 'file:///etc/passwd'>" + envelope(""), "document type");
     text("document type in UTF-16", wide("<!DOCTYPE a>" + envelope("")), "document type");
     text("entity bomb", entityBomb(), "document type");
     text("an encoding out of the list", "<?xml version='1.0' encoding='UTF-7'?>" + envelope(""), "ncoding");
@@ -120,18 +114,15 @@ void SoapHostileTest::isRefused_data()
     text("array of 2^60 items", array("c:arrayType='x:int[1048576,1048576,1048576]'"), "claims more");
     text("array of six dimensions", array("c:arrayType='x:int[1,1,1,1,1,1]'"), "five dimensions");
     text("array of negative size", array("c:arrayType='x:int[-1]'"), "not readable");
-    text("array without brackets", array("c:arrayType='x:int'"), "not readable");
     text("array with half a bracket", array("c:arrayType='x:int]'"), "not readable");
     text("array open inside", array("c:arrayType='x:int[2,]'", "<i/>"), "inner dimension");
     text("open array of empty rows", array("c:arrayType='x:int[,0]'", "<i/>"), "no place");
     text("more items than claimed", array("c:arrayType='x:int[1]'", "<i/><i/>"), "no place for an item more");
     text("position outside", array("c:arrayType='x:int[2]'", "<i c:position='[2]'/>"),
          "no place for an item at [2]");
-    text("negative position", array("c:arrayType='x:int[2]'", "<i c:position='[-1]'/>"), "no place");
     text("position of another rank", array("c:arrayType='x:int[2]'", "<i c:position='[0,0]'/>"), "no place");
     text("position given twice",
          array("c:arrayType='x:int[2]'", "<i c:position='[1]'/><i c:position='[1]'/>"), "no place");
-    text("position without brackets", array("c:arrayType='x:int[2]'", "<i c:position='1'/>"), "no place");
     text("position of an open array", array("c:arrayType='x:int[]'", "<i c:position='[2147483646]'/>"),
          "no place");
     text("offset outside", array("c:arrayType='x:int[2]' c:offset='[2]'"), "offset");
