@@ -171,6 +171,7 @@ void ShowcaseWindow::addPages()
         auto* area = new QScrollArea(m_stack);
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
+        area->setFocusPolicy(Qt::NoFocus); // it would be a Tab stop that shows nothing
         m_stack->addWidget(area);
     }
 }

@@ -1389,8 +1389,8 @@
         <translation>Packen …</translation>
     </message>
     <message>
-        <source>Send the saved picture to the recycle bin</source>
-        <translation>Gespeichertes Bild in den Papierkorb legen</translation>
+        <source>Send to the recycle bin</source>
+        <translation>In den Papierkorb legen</translation>
     </message>
     <message>
         <source>No rule of %1 holds for %2.</source>
@@ -1399,6 +1399,10 @@
     <message>
         <source>Rule: %1</source>
         <translation>Regel: %1</translation>
+    </message>
+    <message>
+        <source>Bring back from the recycle bin</source>
+        <translation>Aus dem Papierkorb zurückholen</translation>
     </message>
     <message>
         <source>No corrections yet</source>
@@ -1491,6 +1495,14 @@
     <message>
         <source>Presets</source>
         <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>Brought back: %1</source>
+        <translation>Zurückgeholt: %1</translation>
+    </message>
+    <message>
+        <source>Cannot be brought back: %1</source>
+        <translation>Kann nicht zurückgeholt werden: %1</translation>
     </message>
     <message>
         <source>In the recycle bin: %1</source>

@@ -1389,8 +1389,8 @@
         <translation>Pack…</translation>
     </message>
     <message>
-        <source>Send the saved picture to the recycle bin</source>
-        <translation>Send the saved picture to the recycle bin</translation>
+        <source>Send to the recycle bin</source>
+        <translation>Send to the recycle bin</translation>
     </message>
     <message>
         <source>No rule of %1 holds for %2.</source>
@@ -1399,6 +1399,10 @@
     <message>
         <source>Rule: %1</source>
         <translation>Rule: %1</translation>
+    </message>
+    <message>
+        <source>Bring back from the recycle bin</source>
+        <translation>Bring back from the recycle bin</translation>
     </message>
     <message>
         <source>No corrections yet</source>
@@ -1491,6 +1495,14 @@
     <message>
         <source>Presets</source>
         <translation>Presets</translation>
+    </message>
+    <message>
+        <source>Brought back: %1</source>
+        <translation>Brought back: %1</translation>
+    </message>
+    <message>
+        <source>Cannot be brought back: %1</source>
+        <translation>Cannot be brought back: %1</translation>
     </message>
     <message>
         <source>In the recycle bin: %1</source>

@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Send to the recycle bin</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Placer dans la Corbeille</translation>
     </message>
     <message>
         <source>The archive is in the recycle bin.</source>
@@ -1389,8 +1389,8 @@
         <translation>Compresser…</translation>
     </message>
     <message>
-        <source>Send the saved picture to the recycle bin</source>
-        <translation>Placer l’image enregistrée dans la Corbeille</translation>
+        <source>Send to the recycle bin</source>
+        <translation>Placer dans la Corbeille</translation>
     </message>
     <message>
         <source>No rule of %1 holds for %2.</source>
@@ -1399,6 +1399,10 @@
     <message>
         <source>Rule: %1</source>
         <translation>Règle : %1</translation>
+    </message>
+    <message>
+        <source>Bring back from the recycle bin</source>
+        <translation>Récupérer depuis la Corbeille</translation>
     </message>
     <message>
         <source>No corrections yet</source>
@@ -1491,6 +1495,14 @@
     <message>
         <source>Presets</source>
         <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Brought back: %1</source>
+        <translation>Récupéré : %1</translation>
+    </message>
+    <message>
+        <source>Cannot be brought back: %1</source>
+        <translation>Impossible à récupérer : %1</translation>
     </message>
     <message>
         <source>In the recycle bin: %1</source>

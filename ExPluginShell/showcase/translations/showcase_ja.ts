@@ -1379,8 +1379,8 @@
         <translation>圧縮…</translation>
     </message>
     <message>
-        <source>Send the saved picture to the recycle bin</source>
-        <translation>保存した画像をごみ箱に移動</translation>
+        <source>Send to the recycle bin</source>
+        <translation>ごみ箱に移動</translation>
     </message>
     <message>
         <source>No rule of %1 holds for %2.</source>
@@ -1389,6 +1389,10 @@
     <message>
         <source>Rule: %1</source>
         <translation>規則：%1</translation>
+    </message>
+    <message>
+        <source>Bring back from the recycle bin</source>
+        <translation>ごみ箱から元に戻す</translation>
     </message>
     <message>
         <source>No corrections yet</source>
@@ -1481,6 +1485,14 @@
     <message>
         <source>Presets</source>
         <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Brought back: %1</source>
+        <translation>元に戻しました：%1</translation>
+    </message>
+    <message>
+        <source>Cannot be brought back: %1</source>
+        <translation>元に戻せません：%1</translation>
     </message>
     <message>
         <source>In the recycle bin: %1</source>

@@ -1379,8 +1379,8 @@
         <translation>压缩…</translation>
     </message>
     <message>
-        <source>Send the saved picture to the recycle bin</source>
-        <translation>将保存的图片移到回收站</translation>
+        <source>Send to the recycle bin</source>
+        <translation>移到回收站</translation>
     </message>
     <message>
         <source>No rule of %1 holds for %2.</source>
@@ -1389,6 +1389,10 @@
     <message>
         <source>Rule: %1</source>
         <translation>规则：%1</translation>
+    </message>
+    <message>
+        <source>Bring back from the recycle bin</source>
+        <translation>从回收站还原</translation>
     </message>
     <message>
         <source>No corrections yet</source>
@@ -1481,6 +1485,14 @@
     <message>
         <source>Presets</source>
         <translation>预设</translation>
+    </message>
+    <message>
+        <source>Brought back: %1</source>
+        <translation>已还原：%1</translation>
+    </message>
+    <message>
+        <source>Cannot be brought back: %1</source>
+        <translation>无法还原：%1</translation>
     </message>
     <message>
         <source>In the recycle bin: %1</source>

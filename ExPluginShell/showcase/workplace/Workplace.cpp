@@ -195,16 +195,14 @@ QWidget* Workplace::makeSide()
     m_apply->setDefault(true);
     m_save = makeButton(QT_TR_NOOP("Save…"), [this] { save(); });
     m_pack = makeButton(QT_TR_NOOP("Pack…"), [this] { pack(); });
-    m_trash = makeTool(QStringLiteral(":/icons/confirm/confirm_cancel"),
-                       QT_TR_NOOP("Send the saved picture to the recycle bin"), 20);
-    connect(m_trash, &QToolButton::clicked, this, &Workplace::trash);
+    m_trash = makeButton(QT_TR_NOOP("Send to the recycle bin"), [this] { trashOrRestore(); });
     layout->addWidget(m_apply);
     auto* const row = new QHBoxLayout;
     row->setSpacing(6);
     row->addWidget(m_save, 1);
     row->addWidget(m_pack, 1);
-    row->addWidget(m_trash);
     layout->addLayout(row);
+    layout->addWidget(m_trash);
     return side;
 }
 
@@ -322,10 +320,12 @@ void Workplace::showTools()
         m_tools->button(tool)->setChecked(m_rules.isActive(moduleOf(Tool(tool))));
     }
     m_undo->setEnabled(!m_applied.isEmpty());
-    m_apply->setEnabled(!steps().isEmpty());
+    m_apply->setEnabled(!steps().isEmpty() || shownStep());
     m_save->setEnabled(!m_result.isNull());
     m_pack->setEnabled(!m_saved.isEmpty());
-    m_trash->setEnabled(!m_saved.isEmpty());
+    m_trash->setEnabled(!m_saved.isEmpty() || m_trashed.isTrashed);
+    m_trash->setText(m_trashed.isTrashed ? tr("Bring back from the recycle bin")
+                                         : tr("Send to the recycle bin"));
     say(m_history, [this] {
         QStringList names;
         for (const Step& step : steps()) {
@@ -433,6 +433,7 @@ void Workplace::changeEvent(QEvent* event)
     PageWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         listPresets();
+        showTools();
     }
 }
 

@@ -5,6 +5,8 @@
 #include "Photo.h"
 #include "RulesMachine.h"
 
+#include <utilsDll/FileManagement.h>
+
 #include <array>
 
 class Canvas;
@@ -70,7 +72,7 @@ private:
     void showResult(const QImage& result, qint64 milliseconds);
     void save();
     void pack();
-    void trash();
+    void trashOrRestore();
     void savePreset();
     void usePreset(int index);
     void listPresets();
@@ -84,6 +86,7 @@ private:
     QImage m_base;     ///< with all applied steps
     QImage m_result;   ///< the full picture; null until it was computed
     QStringList m_saved;
+    TOLVAN_NAMESPACE::TrashReceipt m_trashed; ///< of the last saved picture, while it is in the recycle bin
 
     Canvas* m_canvas;
     ToolPanel* m_panel;
@@ -91,11 +94,11 @@ private:
     QToolButton* m_undo = nullptr;
     QToolButton* m_compare = nullptr;
     QToolButton* m_preview = nullptr;
-    QToolButton* m_trash = nullptr;
     QComboBox* m_presets = nullptr;
     QPushButton* m_apply = nullptr;
     QPushButton* m_save = nullptr;
     QPushButton* m_pack = nullptr;
+    QPushButton* m_trash = nullptr;
     QLabel* m_rule;
     QLabel* m_answer;
     QLabel* m_history = nullptr;

@@ -89,6 +89,10 @@ bool Workplace::run(CQRunnableItem& item, const QString& title)
 
 void Workplace::apply()
 {
+    const Step* const current = shownStep();
+    if (current && current->tool != Tool::Distortion) { // what was begun is accepted first
+        perform(moduleOf(current->tool), QStringLiteral("CorrectionApplyed"));
+    }
     RenderItem item(m_photo.full, steps());
     QElapsedTimer timer;
     timer.start();
@@ -209,13 +213,27 @@ void Workplace::usePreset(int index)
     replay();
 }
 
-void Workplace::trash()
+void Workplace::trashOrRestore()
 {
-    const QString path = m_saved.takeLast();
-    const bool moved = moveFileToTrash(QDir::toNativeSeparators(path)) == FileOperationSucceeded;
-    say(m_answer, [=] {
-        return (moved ? tr("In the recycle bin: %1") : tr("Cannot be moved to the recycle bin: %1"))
-            .arg(QFileInfo(path).fileName());
-    });
+    if (m_trashed.isTrashed) {
+        const QString path = m_trashed.originalPath;
+        const bool restored = restore(m_trashed);
+        m_trashed = {};
+        if (restored) {
+            m_saved += path;
+        }
+        say(m_answer, [=] {
+            return (restored ? tr("Brought back: %1") : tr("Cannot be brought back: %1"))
+                .arg(QFileInfo(path).fileName());
+        });
+    } else {
+        const QString path = m_saved.takeLast();
+        m_trashed = trash(QDir::toNativeSeparators(path));
+        const bool moved = m_trashed.isTrashed;
+        say(m_answer, [=] {
+            return (moved ? tr("In the recycle bin: %1") : tr("Cannot be moved to the recycle bin: %1"))
+                .arg(QFileInfo(path).fileName());
+        });
+    }
     showTools();
 }
