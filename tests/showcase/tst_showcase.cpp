@@ -63,6 +63,8 @@ private Q_SLOTS:
     {
         IsolatedProfile::clearStores(); // no language is stored either
         QSettings(text("Tolvan"), text("Trelio Frame")).setValue(text("loggerLevel"), QString());
+        QSettings(text("Tolvan"), QString())
+            .setValue(text("UserID"), text("known")); // made when it is first asked for
         const auto before = stored();
         const QTemporaryDir folder;
         qputenv("QT_SCALE_FACTOR", "1"); // without the pictures of double size, which take as long again

@@ -100,9 +100,3 @@ void StatePage::addCrashCounter()
                 })});
     addAnswer();
 }
-
-void StatePage::prepareForPicture()
-{
-    crashCounterReset(mode);
-    answer([] { return tr("Reset: the work ended well."); });
-}

@@ -12,8 +12,6 @@ class StatePage : public PageWidget
 public:
     explicit StatePage(QWidget* parent);
 
-    void prepareForPicture() override;
-
 private:
     void addFact(class QFormLayout* form, const char* name, std::function<QString()> value);
     void addCrashCounter();
