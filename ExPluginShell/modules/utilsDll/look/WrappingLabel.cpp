@@ -112,6 +112,7 @@ void WrappingLabel::focusInEvent(QFocusEvent* event)
         setSelection(0, 0); // the invisible cursor is at the end of the text
     }
     m_focusFrame->setWidget(this);
+    m_focusFrame->raise(); // it is a child of the window, where an opaque widget may lie above it
     QLabel::focusInEvent(event);
 }
 

@@ -1,0 +1,326 @@
+// A contact sheet of every dialog of the library: dialog x text x language x state, at the scale of
+// QT_SCALE_FACTOR. Each picture is checked by rules; with a folder as argument the pictures are kept there.
+
+#include "BoxKinds.h"
+#include "ModalDialog.h"
+#include "Pixels.h"
+#include "TestMain.h"
+
+#include <utilsDll/AboutDlg.h>
+#include <utilsDll/controls/IconViewer.h>
+#include <utilsDll/customtolvanappstyle.h>
+#include <utilsDll/LanguageManager.h>
+#include <utilsDll/NativeDialogs.h>
+#include <utilsDll/ProgressBox.h>
+#include <utilsDll/SharedUtils.h>
+
+#include <QtWidgets>
+
+using namespace TOLVAN_NAMESPACE;
+
+namespace
+{
+
+constexpr qreal textContrast = 4.5;
+constexpr qreal shapeContrast = 3.0;
+
+struct Text {
+    const char* name;
+    QString text;
+};
+
+const Text texts[] = {
+    {"short", QStringLiteral("?")},
+    {"long",
+     QStringLiteral("The picture was changed. What do you want to do with the changes? ").repeated(6)},
+    {"path", QStringLiteral("C:\\Users\\Anna\\Pictures\\Hochzeit_Anna_und_Paul_im_Standesamt\\"
+                            "Bilder_der_zweiten_Kamera\\IMG_20240617_143512.CR3")},
+    {"right to left", QString::fromUtf8("هل تريد حفظ التغييرات؟ C:\\Users\\Anna\\IMG_20240617_143512.CR3")},
+};
+
+/// One column of pictures for each dialog and language.
+class Sheet
+{
+public:
+    explicit Sheet(const QString& folder)
+        : m_folder(folder)
+    {
+    }
+
+    void begin(const QString& name) { m_name = name; }
+    int faults() const { return m_faults; }
+    int pictures() const { return m_pictures; }
+
+    void verify(bool ok, const QWidget& widget, const char* rule)
+    {
+        if (!ok) {
+            ++m_faults;
+            qWarning("%s: %s \"%s\": %s", qPrintable(m_name), widget.metaObject()->className(),
+                     qPrintable(widget.objectName()), rule);
+        }
+    }
+
+    void check(QWidget& dialog)
+    {
+        QApplication::setActiveWindow(&dialog);
+        QTest::qWait(1); // scroll bars appear with an event
+        m_dialog = &dialog;
+        m_image = dialog.grab().toImage();
+        keep(m_image, QString());
+        for (QWidget* const widget : dialog.findChildren<QWidget*>()) {
+            if (widget->isVisible() && widget->objectName().indexOf(QLatin1String("qt_")) != 0) {
+                checkPlace(*widget);
+                checkName(*widget);
+                checkColours(*widget);
+                checkSharpness(*widget);
+            }
+        }
+        checkFocus();
+    }
+
+private:
+    void keep(const QImage& image, const QString& state)
+    {
+        ++m_pictures;
+        if (!m_folder.isEmpty()) {
+            const QString name = m_name + state + QStringLiteral(".png");
+            image.save(m_folder + QLatin1Char('/') +
+                       QString(name).replace(QLatin1Char(' '), QLatin1Char('_')));
+        }
+    }
+
+    QRect placeOf(const QWidget& widget) const { return {widget.mapTo(m_dialog, QPoint()), widget.size()}; }
+
+    static bool scrolls(const QWidget& widget)
+    {
+        const QWidget* above = widget.parentWidget();
+        while (above && !qobject_cast<const QAbstractScrollArea*>(above)) {
+            above = above->parentWidget();
+        }
+        return above;
+    }
+
+    void checkPlace(const QWidget& widget)
+    {
+        if (scrolls(widget) || qobject_cast<const QFocusFrame*>(&widget)) {
+            return;
+        }
+        verify(m_dialog->rect().contains(placeOf(widget)), widget, "is cut by the dialog");
+        if (const auto* const label = qobject_cast<const QLabel*>(&widget);
+            label && !label->text().isEmpty()) {
+            const bool wraps = label->hasHeightForWidth();
+            verify(wraps ? label->height() >= label->heightForWidth(label->width())
+                         : label->fontMetrics().horizontalAdvance(label->text()) <= label->width(),
+                   widget, "is cut");
+        }
+        if (qobject_cast<const QAbstractButton*>(&widget)) {
+            verify(widget.width() >= widget.sizeHint().width(), widget, "is too narrow");
+            verify(widget.height() >= widget.fontMetrics().height(), widget, "is too low");
+        }
+        if (qobject_cast<const CIconViewer*>(&widget)) {
+            const QSize wanted = widget.sizeHint().expandedTo({16, 16});
+            verify(widget.width() >= wanted.width() && widget.height() >= wanted.height(), widget, "shrank");
+        }
+    }
+
+    void checkName(QWidget& widget)
+    {
+        const auto* const interface = QAccessible::queryAccessibleInterface(&widget);
+        const bool needsOne = (widget.focusPolicy() & Qt::TabFocus) || qobject_cast<CIconViewer*>(&widget);
+        if (needsOne && interface && !qobject_cast<QAbstractItemView*>(&widget)) {
+            verify(!interface->text(QAccessible::Name).isEmpty(), widget, "has no name");
+        }
+    }
+
+    QImage part(const QRect& place) const
+    {
+        const qreal ratio = m_image.devicePixelRatio();
+        return m_image.copy(QRect(place.topLeft() * ratio, place.size() * ratio));
+    }
+
+    void checkColours(const QWidget& widget)
+    {
+        const auto* const button = qobject_cast<const QPushButton*>(&widget);
+        const auto* const label = qobject_cast<const QLabel*>(&widget);
+        const QRect place = placeOf(widget) & m_dialog->rect();
+        if ((!button && !label) || place.isEmpty() || (label && label->text().trimmed().isEmpty())) {
+            return;
+        }
+        const QRect inner = button ? place.adjusted(4, 4, -4, -4) : place;
+        const QColor ground = Pixels::mostFrequent(part(inner));
+        const bool enabled = widget.isEnabled();
+        verify(Pixels::largestContrast(part(inner), ground) >= (enabled ? textContrast : shapeContrast),
+               widget, "text is too faint");
+        if (button && enabled) {
+            const QColor border =
+                part({place.left() + place.width() / 2, place.top(), 1, 1}).pixelColor(0, 0);
+            const QColor around = part({place.left() + 3, place.top() - 3, 1, 1}).pixelColor(0, 0);
+            verify(Pixels::contrast(border, around) >= shapeContrast, widget, "border is too faint");
+        }
+    }
+
+    /// A picture that was enlarged loses nothing when it is made small and large again.
+    void checkSharpness(const QWidget& widget)
+    {
+        const QRect place = placeOf(widget) & m_dialog->rect();
+        if (m_image.devicePixelRatio() < 2 || !qobject_cast<const CIconViewer*>(&widget) || place.isEmpty()) {
+            return;
+        }
+        const QImage drawn = part(place).convertToFormat(QImage::Format_RGB32);
+        const QImage blurred = drawn.scaled(drawn.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                   .scaled(drawn.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        int most = 0;
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) {
+                most = qMax(most, qAbs(qGreen(drawn.pixel(x, y)) - qGreen(blurred.pixel(x, y))));
+            }
+        }
+        constexpr int sharp = 20;
+        verify(most >= sharp, widget, "is blurred");
+    }
+
+    void checkFocus()
+    {
+        for (QWidget* const widget : m_dialog->findChildren<QWidget*>()) {
+            const bool takesFocus = widget->isVisible() && widget->isEnabled() &&
+                                    (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (!takesFocus || widget->objectName().indexOf(QLatin1String("qt_")) == 0) {
+                continue;
+            }
+            if (QWidget* const now = QApplication::focusWidget()) {
+                now->clearFocus();
+            }
+            const QImage before = m_dialog->grab().toImage();
+            widget->setFocus(Qt::TabFocusReason);
+            QTest::qWait(1); // a focus frame follows with an event
+            const QImage after = m_dialog->grab().toImage();
+            keep(after, QLatin1Char(' ') + widget->objectName());
+            verify(Pixels::largestChange(before, after) >= shapeContrast, *widget, "focus is not marked");
+        }
+    }
+
+    const QString m_folder;
+    QString m_name;
+    QWidget* m_dialog = nullptr;
+    QImage m_image;
+    int m_faults = 0;
+    int m_pictures = 0;
+};
+
+void checkBoxes(Sheet& sheet, const QString& language)
+{
+    for (const BoxKinds::Kind& kind : BoxKinds::kinds()) {
+        for (const Text& text : texts) {
+            for (const bool fitting : {false, true}) {
+                const BoxKinds::Show& show = fitting ? kind.showFitting : kind.show;
+                sheet.begin(QStringLiteral("%1 %2 %3%4")
+                                .arg(language, QLatin1String(kind.name), QLatin1String(text.name),
+                                     QLatin1String(fitting ? " fitting" : "")));
+                if (show) {
+                    whileOpen<CMessageBox>([&] { show(nullptr, text.text); },
+                                           [&](CMessageBox& box) { sheet.check(box); });
+                }
+            }
+        }
+    }
+}
+
+void checkProgress(Sheet& sheet, const QString& language)
+{
+    for (const Text& text : texts) {
+        CProgressBox box(QStringLiteral("CProgressBox"));
+        box.setAppearanceDelay(0);
+        QObject::connect(&box, &CProgressBox::cancelRequested, [] {}); // Cancel is enabled
+        box.begin();
+        box.setProgress(3, 4, text.text);
+        while (!box.isVisible()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        for (const char* const state : {"running", "stopping"}) {
+            sheet.begin(QStringLiteral("%1 progress %2 %3")
+                            .arg(language, QLatin1String(state), QLatin1String(text.name)));
+            sheet.check(box);
+            box.reject();
+        }
+        CProgressBox failed(QStringLiteral("CProgressBox"));
+        failed.begin();
+        failed.setError(text.text);
+        failed.end();
+        sheet.begin(QStringLiteral("%1 progress failed %2").arg(language, QLatin1String(text.name)));
+        sheet.check(failed);
+    }
+}
+
+template <class Dialog>
+void checkAbout(Sheet& sheet, const QString& language)
+{
+    Dialog dialog;
+    dialog.show();
+    sheet.begin(language + QLatin1Char(' ') + dialog.objectName());
+    sheet.check(dialog);
+}
+
+/// Buttons of every kind in every state: each state looks different.
+void checkButtons(Sheet& sheet, const QString& language)
+{
+    sheet.begin(language + QStringLiteral(" buttons"));
+    QDialog dialog;
+    auto* const column = new QVBoxLayout(&dialog);
+    QList<QAbstractButton*> buttons{new QPushButton, new QPushButton, new QToolButton,
+                                    new QCheckBox,   new QCheckBox,   new QRadioButton};
+    for (int i = 0; i < buttons.size(); ++i) {
+        buttons[i]->setText(QStringLiteral("Text"));
+        buttons[i]->setObjectName(QStringLiteral("button %1").arg(i));
+        buttons[i]->setCheckable(i != 0);
+        buttons[i]->setChecked(i % 2);
+        column->addWidget(buttons[i]);
+    }
+    dialog.show();
+    sheet.check(dialog);
+    for (QAbstractButton* const button : buttons) {
+        QList<QImage> seen;
+        const auto look = [&] {
+            const QImage image = button->grab().toImage();
+            sheet.verify(!seen.contains(image), *button, "looks the same in two states");
+            seen += image;
+        };
+        button->clearFocus();
+        look();
+        button->setDown(true);
+        look();
+        button->setDown(false);
+        button->setEnabled(false);
+        look();
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const IsolatedProfile profile;
+    TestMain::prepare();
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    loadFonts();
+    QApplication::setStyle(new CustomTolvanAppStyle);
+    auto* const languages = CLanguageManager::instance();
+    languages->loadLanguageForApp();
+    Sheet sheet(application.arguments().value(1));
+    const auto checkAll = [&](const QString& name) {
+        checkBoxes(sheet, name);
+        checkProgress(sheet, name);
+        checkAbout<CAboutDlg>(sheet, name);
+        checkAbout<CAboutOstraDlg>(sheet, name);
+        checkButtons(sheet, name);
+    };
+    setPredefinedAppStyleSheet(QString(), &application, Contrast::High);
+    checkAll(QStringLiteral("contrast"));
+    setPredefinedAppStyleSheet(QString(), &application, Contrast::Normal);
+    for (const unsigned number : {2U, 0U, 5U, 12U, 13U}) { // in the product family
+        languages->changeLanguage(languages->getLanguageIndexFromID(number));
+        checkAll(languages->currentLanguageAbbrv());
+    }
+    std::printf("%d pictures, %d faults\n", sheet.pictures(), sheet.faults());
+    return sheet.faults() == 0 && sheet.pictures() > 0 ? 0 : 1;
+}
