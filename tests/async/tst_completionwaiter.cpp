@@ -35,7 +35,6 @@ class CompletionWaiterTest : public QObject
 
 private Q_SLOTS:
     void signalBeforeTheWait();
-    void signalDuringTheWait();
     void signalOfAWorkerThread();
     void assertions();
     void userInputIsProcessed();
@@ -87,21 +86,6 @@ void CompletionWaiterTest::signalBeforeTheWait()
         outcome.startWaiting(); // stays completed
         QCOMPARE(outcome.isOperationSuccess(), ok);
     }
-}
-
-void CompletionWaiterTest::signalDuringTheWait()
-{
-    Operation operation;
-    COperationCompletionWaiter outer(&operation, SIGNAL(done()));
-    COperationCompletionWaiterWithResult inner(&operation, SIGNAL(finished(bool)));
-    bool emitted = false;
-    QTimer::singleShot(0, this, [&] { inner.startWaiting(); }); // a wait inside a wait
-    QTimer::singleShot(20, &operation, [&] {
-        emitted = true;
-        operation.finish(true);
-    });
-    outer.startWaiting();
-    QVERIFY(emitted && inner.isOperationSuccess());
 }
 
 void CompletionWaiterTest::signalOfAWorkerThread()

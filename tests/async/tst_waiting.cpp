@@ -142,7 +142,7 @@ void WaitingTest::inputOfTheWindowSystemIsDelayed()
         CExcludeUserInpuEventLoop loop;
         QTimer::singleShot(0, this, use);
         QTimer::singleShot(50, this, [&] {
-            during = seen(QEvent::MouseMove) || seen(QEvent::MouseButtonPress);
+            during = seen(QEvent::MouseButtonPress); // Qt may send a move itself
             over.storeRelease(1);
             loop.quit();
         });

@@ -7,7 +7,6 @@
 #include <QTranslator>
 
 #include <memory>
-#include <thread>
 
 #ifndef Q_OS_WIN
 #include "AllocationCounter.h"
@@ -55,7 +54,6 @@ private Q_SLOTS:
     void texts();
     void driveOfTemporaryFolder();
     void copies();
-    void otherThread();
     void withoutApplication();
 #ifndef Q_OS_WIN
     void allocationsAreSeen();
@@ -135,14 +133,6 @@ void ErrStringsTest::copies()
         QStringLiteral("Error|Unhandled exception. Program will be closed."),
         QStringLiteral("Error|Out of memory. Program will be closed.")};
     QCOMPARE(boxes.take(), expected);
-}
-
-void ErrStringsTest::otherThread()
-{
-    FatalBoxes boxes;
-    const CErrStrings strings;
-    std::thread([&strings] { strings.ShowOutOfMemoryDialog(); }).join();
-    QCOMPARE(boxes.take(), QStringList(QStringLiteral("Error|Out of memory. Program will be closed.")));
 }
 
 void ErrStringsTest::withoutApplication()
