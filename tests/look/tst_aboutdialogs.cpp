@@ -1,12 +1,10 @@
-#include "ModalDialog.h"
 #include "TestMain.h"
 
 #include <utilsDll/AboutDlg.h>
 
 #include <QLabel>
-#include <QPushButton>
 
-/// The About dialogs: their texts, the names that the style sheets address, and how they close.
+/// The About dialogs: their texts, the names that the style sheets address, and their links.
 class AboutDialogsTest : public QObject
 {
     Q_OBJECT
@@ -14,7 +12,6 @@ class AboutDialogsTest : public QObject
 private Q_SLOTS:
     void texts();
     void linksAndDragging();
-    void closes();
 };
 
 namespace
@@ -71,21 +68,6 @@ void AboutDialogsTest::linksAndDragging()
         QApplication::sendEvent(label, &move);
         QTest::mouseRelease(label, Qt::LeftButton, {}, grip);
         QVERIFY2(dialog->pos() != before, qPrintable(label->objectName()));
-    }
-}
-
-void AboutDialogsTest::closes()
-{
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
-        const auto dialog = make(false);
-        bool closed = false;
-        const auto act = [&](QDialog& open) {
-            auto* const button = open.findChild<QPushButton*>(QStringLiteral("closeButton"));
-            QTest::keyClick(key == Qt::Key_Space ? static_cast<QWidget*>(button) : &open, key);
-            closed = !open.isVisible();
-        };
-        QVERIFY(whileOpen<QDialog>([&] { dialog->exec(); }, act));
-        QVERIFY(closed);
     }
 }
 
