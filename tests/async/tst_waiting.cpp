@@ -1,7 +1,6 @@
 #include "EventSink.h"
 #include "TestMain.h"
 
-#include <utilsDll/ExcludeUserInpuEventLoop.h>
 #include <utilsDll/Waiting.h>
 
 #include <QLineEdit>
@@ -52,7 +51,6 @@ private Q_SLOTS:
     void conditionThatHoldsIsTestedOnce();
     void blockingWaitForAnotherThread();
     void eventsOfANonBlockingWait();
-    void inputOfTheWindowSystemIsDelayed();
     void filterGoesWhenThePredicateThrows();
     void waitInAWorkerBlocksNoInput();
 };
@@ -115,40 +113,6 @@ void WaitingTest::eventsOfANonBlockingWait()
         QCOMPARE(edit.isVisible(), excludeUserInput);
         QCoreApplication::processEvents(); // what was swallowed is lost
         QCOMPARE(edit.text(), excludeUserInput ? QString() : QStringLiteral("text"));
-    }
-}
-
-void WaitingTest::inputOfTheWindowSystemIsDelayed()
-{
-    EventSink sink;
-    sink.resize(100, 100);
-    sink.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&sink));
-    const QPointF place(10, 10);
-    const auto use = [&] { // as the platform does
-        QWindow* const window = sink.windowHandle();
-        qt_handleMouseEvent(window, place, place, Qt::NoButton, Qt::NoButton, QEvent::MouseMove,
-                            Qt::NoModifier, 1);
-        qt_handleMouseEvent(window, place, place, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress,
-                            Qt::NoModifier, 2);
-        qt_handleMouseEvent(window, place, place, Qt::NoButton, Qt::LeftButton, QEvent::MouseButtonRelease,
-                            Qt::NoModifier, 3);
-    };
-    const auto seen = [&](QEvent::Type type) { return sink.got.contains(type); };
-    for (const bool asleep : {true, false}) {
-        sink.got.clear();
-        bool during = false;
-        QAtomicInt over(0);
-        CExcludeUserInpuEventLoop loop;
-        QTimer::singleShot(0, this, use);
-        QTimer::singleShot(50, this, [&] {
-            during = seen(QEvent::MouseButtonPress); // Qt may send a move itself
-            over.storeRelease(1);
-            loop.quit();
-        });
-        asleep ? void(loop.exec(0)) : waitNonBlockingAtomicIntValue(over, 1, true);
-        QVERIFY(!during);
-        QTRY_VERIFY(seen(QEvent::MouseMove) && seen(QEvent::MouseButtonPress)); // delayed, not lost
     }
 }
 
