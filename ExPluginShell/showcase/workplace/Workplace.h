@@ -23,7 +23,7 @@ class ToolPanel;
 ///
 /// The tools obey the rules of the product, see RulesMachine. Corrections are carried out on a small picture
 /// while one works, and on the full one when "Apply" is pressed. Saving, packing and presets stand in
-/// WorkplaceFiles.cpp.
+/// WorkplaceFiles.cpp, the pictures of the canvas in WorkplacePicture.cpp.
 class Workplace : public PageWidget
 {
     Q_OBJECT
