@@ -64,7 +64,7 @@ struct ArchiveFailure {
     /// Name in the archive; for a file that can't be packed its path. A problem of the whole archive has the
     /// archive's path here.
     QString name;
-    ArchiveProblem problem = ArchiveProblem::ReadFailed;
+    ArchiveProblem problem = ArchiveProblem::ReadFailed; ///< the reason
 };
 
 /// An entry of the listing of a dry run.
@@ -73,7 +73,7 @@ struct ArchiveEntry {
     qint64 size = 0;        ///< bytes when unpacked
     qint64 packedSize = -1; ///< bytes in the archive; -1 in the dry run of packing
     QDateTime lastModified; ///< invalid if the archive has none
-    bool isLink = false;
+    bool isLink = false;    ///< whether the entry is a symbolic link
 };
 
 /// The result of a CArchiveJob.
@@ -155,6 +155,8 @@ class UTILSDLL_EXPORT CArchiveJob : public CQRunnableItem
     Q_OBJECT
 
 public:
+    /// \param task   what to do; copied
+    /// \param parent owns the job; may be null
     explicit CArchiveJob(const ArchiveTask& task, QObject* parent = nullptr);
     /// Stops the work and waits until it has ended.
     ~CArchiveJob() override;
