@@ -29,12 +29,18 @@ const wchar_t* wide(const QString& text)
     return reinterpret_cast<const wchar_t*>(text.utf16());
 }
 
-bool moveOnce(const QString& from, const QString& to)
+constexpr DWORD keptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                                 FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+
+/// The access list of a file as one block; null if the system does not return it.
+QByteArray accessListOf(const QString& path)
 {
-    // ReplaceFileW keeps the access list and the attributes, and needs a file to replace.
-    return ReplaceFileW(wide(to), wide(from), nullptr, REPLACEFILE_WRITE_THROUGH, nullptr, nullptr) ||
-           (GetLastError() == ERROR_FILE_NOT_FOUND &&
-            MoveFileExW(wide(from), wide(to), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+    DWORD size = 0;
+    GetFileSecurityW(wide(path), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    QByteArray list(static_cast<int>(size), '\0');
+    return size && GetFileSecurityW(wide(path), DACL_SECURITY_INFORMATION, list.data(), size, &size)
+               ? list
+               : QByteArray();
 }
 
 } // namespace
@@ -59,9 +65,16 @@ bool FileReplacement::flushToDisk(QFile& file)
     return file.flush() && FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
 }
 
-bool FileReplacement::keepRights(QFile&, const QString&)
+/// ReplaceFileW would keep the access list too, but for a moment there is no file under the name.
+bool FileReplacement::keepRights(QFile& file, const QString& target)
 {
-    return true; // moveOver() keeps them
+    const QString from = nativePath(target);
+    const QString to = nativePath(file.fileName());
+    QByteArray list = accessListOf(from);
+    const DWORD attributes = GetFileAttributesW(wide(from));
+    return !list.isEmpty() && SetFileSecurityW(wide(to), DACL_SECURITY_INFORMATION, list.data()) &&
+           attributes != INVALID_FILE_ATTRIBUTES &&
+           ((attributes & keptAttributes) == 0 || SetFileAttributesW(wide(to), attributes & keptAttributes));
 }
 
 /// Only the move is tried again: it fails while another program has the target open.
@@ -70,7 +83,7 @@ bool FileReplacement::moveOver(const QString& from, const QString& to)
     const QString source = nativePath(from);
     const QString target = nativePath(to);
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        if (moveOnce(source, target)) {
+        if (MoveFileExW(wide(source), wide(target), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
             return true;
         }
         const QFileInfo file(to);
