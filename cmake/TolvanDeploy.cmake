@@ -5,9 +5,13 @@
 # Unix these come from the system. Works in a cross build too.
 function(tolvan_deploy target)
     set(beside "$<TARGET_FILE_DIR:${target}>")
+    set(name "$<TARGET_FILE_NAME:Tolvan::UtilsDllTrelioFrame>")
+    if(NOT WIN32)
+        set(name "$<TARGET_SONAME_FILE_NAME:Tolvan::UtilsDllTrelioFrame>")
+    endif()
     add_custom_command(TARGET ${target} POST_BUILD VERBATIM
         COMMAND ${CMAKE_COMMAND} -E copy_if_different "$<TARGET_FILE:Tolvan::UtilsDllTrelioFrame>"
-            "${beside}/$<IF:$<PLATFORM_ID:Windows>,$<TARGET_FILE_NAME:Tolvan::UtilsDllTrelioFrame>,$<TARGET_SONAME_FILE_NAME:Tolvan::UtilsDllTrelioFrame>>"
+            "${beside}/${name}"
         COMMAND ${CMAKE_COMMAND} -E copy_if_different
             "${UtilsDllTrelioFrame_LOGGER_DIR}/LoggerDllTrelioFrame.dll" "${beside}/")
     if(WIN32)

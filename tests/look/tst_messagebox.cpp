@@ -217,10 +217,14 @@ void MessageBoxTest::boxesFitTheirText()
 void MessageBoxTest::copying()
 {
     const auto copied = [] { return QGuiApplication::clipboard()->text(); };
+    QGuiApplication::clipboard()->setText(QStringLiteral("probe"));
+    if (copied() != QLatin1String("probe")) {
+        QSKIP("the system has no clipboard");
+    }
     const auto check = [&](CMessageBox& box) {
         box.activateWindow();
         QTRY_VERIFY(box.isActiveWindow());
-        QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(box.windowHandle(), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(copied(), QStringLiteral("The file is new."));
         auto* const label = find<QLabel>(box, "textLabel");
         label->setFocus();

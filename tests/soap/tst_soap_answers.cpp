@@ -87,7 +87,7 @@ void SoapAnswersTest::answers_data()
     rawRow("10,000 cookies", "^Other The head of the answer",
            raw(QByteArray("Set-Cookie: a=b\r\n").repeated(10000), good));
     rawRow("a long line", "^Other The head of the answer",
-           raw("X: " + QByteArray(5000000, 'x') + "\r\n", good));
+           raw("X: " + QByteArray(200000, 'x') + "\r\n", good));
     row("no HTTP", "^Other .", {ok, xml, mail, -1, mail.size(), 0, false, true});
     row("100 MB announced", "^Other .*larger than 64 MiB", {ok, xml, good, 100000000});
     row("silence", "^Other .*did not answer within 0.3 s", {ok, xml, good, -1, -1, 0, true}, 300);
