@@ -275,8 +275,8 @@ void DelayedCallTest::insideTheCall()
         } else if (action == QLatin1String("nest")) {
             QTest::qWait(30); // its timer is still running
         } else if (action == QLatin1String("delete")) {
-            delete t;
             delete other;
+            delete t; // with it this function
         } else {
             CDelayedCall::discard(t, "m");
         }

@@ -43,12 +43,12 @@ public:
 protected:
     bool eventFilter(QObject* widget, QEvent* event) override
     {
-        const auto* const move = static_cast<QMouseEvent*>(event);
         if (event->type() == QEvent::Enter) {
             m_events += at("enter", static_cast<QEnterEvent*>(event)->globalPos());
         } else if (event->type() == QEvent::Leave) {
             m_events += QStringLiteral("leave");
         } else if (event->type() == QEvent::MouseMove) {
+            const auto* const move = static_cast<QMouseEvent*>(event);
             const bool plain = move->button() == Qt::NoButton && !move->buttons() && !move->modifiers() &&
                                move->pos() == static_cast<QWidget*>(widget)->mapFromGlobal(move->globalPos());
             m_events += at(plain ? "move" : "wrong move", move->globalPos());
