@@ -1,6 +1,7 @@
 #include "look/AccessibleRoles.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace TOLVAN_NAMESPACE
 {
