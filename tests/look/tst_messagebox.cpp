@@ -125,8 +125,8 @@ void MessageBoxTest::content()
         const auto* const viewer = find<TOLVAN_NAMESPACE::CIconViewer>(box, "iconWidget");
         const QIcon picture(QString::fromLatin1(it.icon));
         QCOMPARE(viewer->icon().pixmap(34).toImage(), picture.pixmap(34).toImage());
-        const auto accessible = [](QWidget* widget, QAccessible::Text kind) {
-            return QAccessible::queryAccessibleInterface(widget)->text(kind);
+        const auto accessible = [](QWidget* widget, QAccessible::Text part) {
+            return QAccessible::queryAccessibleInterface(widget)->text(part);
         };
         const auto role = [](QObject* widget) {
             return QAccessible::queryAccessibleInterface(widget)->role();
