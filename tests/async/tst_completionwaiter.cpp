@@ -9,6 +9,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <atomic>
+
 using namespace TOLVAN_NAMESPACE;
 using namespace std::chrono_literals;
 
@@ -147,12 +149,13 @@ void CompletionWaiterTest::deadlines()
     QCOMPARE(outcome(&operation, 5ms, [] {}), WaitResult::TimedOut);
     auto* const dies = new Operation;
     QCOMPARE(outcome(dies, 30s, [dies] { delete dies; }), WaitResult::SenderGone);
-    WaitResult inThread = WaitResult::Done;
+    std::atomic<WaitResult> inThread{
+        WaitResult::Done}; // the sanitizer does not see that the thread is awaited
     const std::unique_ptr<QThread> thread(QThread::create(
         [&] { inThread = outcome(&operation, 30s, [] { QThread::currentThread()->quit(); }); }));
     thread->start();
     QVERIFY(thread->wait(30000));
-    QCOMPARE(inThread, WaitResult::Stopped);
+    QCOMPARE(inThread.load(), WaitResult::Stopped);
 }
 
 void CompletionWaiterTest::completedBeforeTheSenderWent()
