@@ -160,6 +160,9 @@ void CompletionWaiterTest::deadlines()
 
 void CompletionWaiterTest::completedBeforeTheSenderWent()
 {
+#ifdef __SANITIZE_THREAD__
+    QSKIP("the sanitizer does not see that a blocking queued call orders the threads");
+#endif
     QThread thread;
     thread.start();
     auto operation = std::make_unique<Operation>();
