@@ -163,29 +163,47 @@ trap clean_up EXIT
 
 # The import table of the program decides which arguments it gets.
 imports="$(x86_64-w64-mingw32-objdump -p "$program")" || die "'$program' is no Windows program"
-arguments=("$@")
+given=("$@")
 screen=()
 results=
-if [[ "$imports" =~ _ZN(12QApplication|15QGuiApplication)C1 ]]; then
-    platform="${TOLVAN_TEST_PLATFORM:-offscreen}"
-    arguments+=(-platform "$platform")
-    [ "$platform" != windows ] || screen=("$tree/tests/support/with-x-server.sh")
-fi
-if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
-    results="$run/results.txt"
-    arguments+=(-o "$(windows_path "$results"),txt")
-fi
+prepare_arguments() {
+    arguments=("${given[@]}")
+    if [[ "$imports" =~ _ZN(12QApplication|15QGuiApplication)C1 ]]; then
+        local platform="${TOLVAN_TEST_PLATFORM:-offscreen}"
+        arguments+=(-platform "$platform")
+        [ "$platform" != windows ] || screen=("$tree/tests/support/with-x-server.sh")
+    fi
+    if [[ "$imports" == *"DLL Name: Qt5Test.dll"* ]]; then
+        results="$run/results.txt"
+        arguments+=(-o "$(windows_path "$results"),txt")
+    fi
+}
+prepare_arguments
 
-export HOME="$run/home" WINEPREFIX="$run"
 # Wine has no fonts for the offscreen platform; the fonts of the library's bundle are installed on this system.
 fonts=/usr/share/fonts/truetype/roboto/unhinted/RobotoTTF
 [ ! -d "$fonts" ] || export TOLVAN_TEST_FONTS="Z:${fonts}"
 WINEPATH="$(library_path)"
 export WINEPATH
-code=0
-timeout --kill-after=5 "$limit" "${screen[@]}" "$wine" "$program" "${arguments[@]}" \
-    >"$run/stdout.txt" 2>"$run/stderr.txt" </dev/null || code=$?
-stop_wine "$run"
+
+run_program() {
+    export HOME="$run/home" WINEPREFIX="$run"
+    code=0
+    timeout --kill-after=5 "$limit" "${screen[@]}" "$wine" "$program" "${arguments[@]}" \
+        >"$run/stdout.txt" 2>"$run/stderr.txt" </dev/null || code=$?
+    stop_wine "$run"
+}
+
+run_program
+# A Qt Test program makes its results file before anything else: without one, Wine has not started the program.
+if [ "$code" -eq 1 ] && [ -n "$results" ] && [ ! -e "$results" ]; then
+    echo "run-test: the program ended with exit code 1 before it made its results file; it is run once more" >&2
+    cat "$run/stderr.txt" >&2
+    clean_up
+    make_run_prefix
+    prepare_arguments
+    run_program
+fi
 
 cat "$run/stdout.txt"
 [ -z "$results" ] || [ ! -f "$results" ] || cat "$results"
