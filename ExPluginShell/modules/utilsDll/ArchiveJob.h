@@ -119,7 +119,8 @@ struct UTILSDLL_EXPORT ArchiveTask {
     /// Packing: false refuses folders in \a files with ArchiveProblem::NotAFile.
     bool acceptFolders = true;
     /// Packing: true writes the archive without the files that can't be packed. False writes no archive then,
-    /// and an existing one stays as it was.
+    /// and an existing one stays as it was. A file of more than 24 MB that can't be read to its end, or that
+    /// changes its size meanwhile, ends the job without an archive in both cases.
     bool skipFailedFiles = false;
     /// Unpacking: most bytes that may be written; -1: as many as the volume has space for. An archive that
     /// claims to hold more than 1,100 times its own size is refused in any case: no honest one does.
