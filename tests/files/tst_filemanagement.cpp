@@ -15,6 +15,7 @@
 #ifdef Q_OS_LINUX
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/xattr.h>
@@ -256,6 +257,15 @@ void FileManagementTest::acrossFileSystems()
     QVERIFY(stat(copy.constData(), &status) == 0 && status.st_nlink == 2);
     const QByteArray hole = QFile::encodeName(there + QStringLiteral("/hole"));
     QVERIFY(stat(hole.constData(), &status) == 0 && status.st_blocks < 1000);
+
+    rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit limit = {1 << 20, before.rlim_max};
+    FileTree::write(path("large"), QByteArray(2 << 20, 'x'));
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const bool isMoved = renameFile(path("large"), m_volume.path() + QStringLiteral("/large"));
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    QVERIFY(!isMoved && QFile::exists(path("large")));
 
     const QString current = QDir::currentPath();
     FileTree::write(path("file"), "new");

@@ -1,9 +1,9 @@
 #include "platform/FileReplacement.h"
 
+#include "platform/HeldSizeSignal.h"
+
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
-#include <ctime>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -17,35 +17,6 @@ namespace
 {
 
 constexpr const char* accessList = "system.posix_acl_access";
-
-/// Holds back the signal that ends a process whose write passes its file size limit: the write then fails.
-class HeldSizeSignal
-{
-public:
-    HeldSizeSignal()
-    {
-        sigset_t pending;
-        sigpending(&pending);
-        m_wasPending = sigismember(&pending, SIGXFSZ) == 1;
-        sigemptyset(&m_signal);
-        sigaddset(&m_signal, SIGXFSZ);
-        pthread_sigmask(SIG_BLOCK, &m_signal, &m_before);
-    }
-    ~HeldSizeSignal()
-    {
-        constexpr timespec atOnce = {};
-        while (!m_wasPending && sigtimedwait(&m_signal, nullptr, &atOnce) == -1 && errno == EINTR) {
-        }
-        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
-    }
-    HeldSizeSignal(const HeldSizeSignal&) = delete;
-    HeldSizeSignal& operator=(const HeldSizeSignal&) = delete;
-
-private:
-    sigset_t m_signal;
-    sigset_t m_before;
-    bool m_wasPending;
-};
 
 bool keepAccessList(int file, const char* target)
 {

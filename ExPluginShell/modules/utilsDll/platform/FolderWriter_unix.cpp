@@ -1,5 +1,7 @@
 #include "platform/FolderWriter.h"
 
+#include "platform/HeldSizeSignal.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -265,6 +267,7 @@ WriteResult FolderWriter::begin(const QString& name)
 
 WriteResult FolderWriter::write(const char* bytes, qint64 length)
 {
+    const HeldSizeSignal held;
     while (length > 0) {
         const auto written = ::write(m_data->file.get(), bytes, static_cast<std::size_t>(length));
         if (written < 0 && errno == EINTR) {

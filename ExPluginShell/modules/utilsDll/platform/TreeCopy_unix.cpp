@@ -1,5 +1,7 @@
 #include "platform/TreeCopy.h"
 
+#include "platform/HeldSizeSignal.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -114,6 +116,7 @@ bool copyProperties(const fs::path& from, const fs::path& to, const struct stat&
 bool copyFile(const fs::path& from, const fs::path& to, const struct stat& status)
 {
     const Descriptor source(open(from.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    const HeldSizeSignal held;
     Descriptor target(open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     // The content has to be on the disk before the only other copy is deleted.
     return source.get() >= 0 && target.get() >= 0 &&
