@@ -10,6 +10,10 @@
 #include <QSignalSpy>
 #include <QThreadPool>
 
+#ifdef Q_OS_LINUX
+#include <pthread.h>
+#endif
+
 using namespace TOLVAN_NAMESPACE;
 
 Q_DECLARE_METATYPE(ArchiveTask)
@@ -67,6 +71,7 @@ private Q_SLOTS:
     void dryRun();
     void sizeLimit();
     void stop();
+    void withoutMoreThreads();
     void oneLogLine();
 
 private:
@@ -222,6 +227,29 @@ void ArchiveJobTest::stop()
     QCOMPARE(report.failures.size(), 2);
     QCOMPARE(report.failures.constLast().problem, ArchiveProblem::Stopped);
     QCOMPARE(QStringList(FileTree::of(path("out")).keys()), QStringList(QStringLiteral("first")));
+}
+
+/// A stack of 64 terabytes is refused, as is every thread on a system that has no more.
+void ArchiveJobTest::withoutMoreThreads()
+{
+#ifdef Q_OS_LINUX
+    const QByteArray content(1 << 20, 'a');
+    pthread_attr_t attributes;
+    std::size_t before = 0;
+    QCOMPARE(pthread_getattr_default_np(&attributes), 0);
+    QCOMPARE(pthread_attr_getstacksize(&attributes, &before), 0);
+    QCOMPARE(pthread_attr_setstacksize(&attributes, std::size_t(1) << 46), 0);
+    QCOMPARE(pthread_setattr_default_np(&attributes), 0);
+    const ArchiveReport packed =
+        run(ArchiveTask::pack({FileTree::write(path("file"), content)}, path("a.zip")));
+    const ArchiveReport unpacked = run(ArchiveTask::unpack(path("a.zip"), path("out")));
+    QCOMPARE(pthread_attr_setstacksize(&attributes, before), 0);
+    QCOMPARE(pthread_setattr_default_np(&attributes), 0);
+    QVERIFY(packed.isComplete() && unpacked.isComplete());
+    QCOMPARE(FileTree::read(path("out/file")), content);
+#else
+    QSKIP("the system does not refuse threads here");
+#endif
 }
 
 void ArchiveJobTest::oneLogLine()

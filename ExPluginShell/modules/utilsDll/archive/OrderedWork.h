@@ -4,6 +4,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -24,8 +25,12 @@ public:
     OrderedWork(int helpers, long long memory)
         : m_memory(memory)
     {
-        for (int i = 0; i < helpers; ++i) {
-            m_threads.emplace_back([this] { help(); });
+        try {
+            for (int i = 0; i < helpers; ++i) {
+                m_threads.emplace_back([this] { help(); });
+            }
+        } catch (const std::system_error&) {
+            // The system has no more threads: those there are do the work.
         }
     }
     /// Pieces that no thread has begun are dropped.
