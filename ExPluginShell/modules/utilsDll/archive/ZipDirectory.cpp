@@ -150,12 +150,12 @@ bool ZipDirectory::readZip64(qint64 endRecord)
 
 bool ZipDirectory::placeDirectory(qint64 endRecord, qint64 size, qint64 offset)
 {
+    if (size < 0 || offset < 0 || size > endRecord || offset > endRecord - size) {
+        return false;
+    }
     m_end = endRecord;
     m_begin = endRecord - size;
     m_shift = m_begin - offset;
-    if (size < 0 || offset < 0 || m_begin < 0 || m_shift < 0) {
-        return false;
-    }
     char signature[4];
     m_wrapped = !m_zip64 && m_shift >= wrap && m_shift % wrap == 0 && m_file.read(0, signature, 4) &&
                 at<quint32>(signature, 0) == localSignature;
@@ -218,6 +218,7 @@ std::optional<DirectoryEntry> ZipDirectory::next()
         !takeLong(at<quint32>(header, 42), entry.offset, large, offset)) {
         entry.offset = m_file.size(); // nothing can be there
     }
+    entry.offset = std::min(entry.offset, m_file.size());
     entry.offset = m_wrapped ? unwrapped(entry) : entry.offset + m_shift;
     m_lastOffset = std::max(m_lastOffset, entry.offset);
     m_position += length;
