@@ -42,7 +42,7 @@ constexpr double largestShare = 0.8;                           // of the screen'
 QScopedPointer<CMessageBox> CMessageBox::m_scriptingInstance;
 
 /// The widgets that every box has. The style sheet addresses them by name.
-struct CMessageBox::Form {
+struct Q_DECL_HIDDEN CMessageBox::Form {
     explicit Form(CMessageBox& box);
 
     QGridLayout* gridLayout;
@@ -114,7 +114,7 @@ void CMessageBox::Form::makeIcon(QWidget* background)
 }
 
 /// Shows one box. The box is on the heap because its parent may delete it while it is open.
-class CMessageBox::Session
+class Q_DECL_HIDDEN CMessageBox::Session
 {
 public:
     Session(QWidget* parent, const QString& text, const QIcon& icon)

@@ -35,7 +35,7 @@ constexpr int barSteps = 1000;
 } // namespace
 
 /// The widgets of the box, in their places.
-struct CProgressBox::Form {
+struct Q_DECL_HIDDEN CProgressBox::Form {
     Form(CProgressBox& box, const QString& title);
 
     QLabel* addLine(const char* name);
@@ -53,7 +53,7 @@ struct CProgressBox::Form {
 };
 
 /// What is known of the work.
-struct CProgressBox::State {
+struct Q_DECL_HIDDEN CProgressBox::State {
     QElapsedTimer clock;
     QTimer refreshing;
     QTimer appearing;

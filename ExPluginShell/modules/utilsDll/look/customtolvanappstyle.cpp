@@ -53,7 +53,7 @@ QRegion withoutCorners(const QSize& size)
 
 } // namespace
 
-struct CustomTolvanAppStyle::pimpl {
+struct Q_DECL_HIDDEN CustomTolvanAppStyle::pimpl {
     bool disableButtonShift(const QWidget* button);
     bool enableButtonShift(const QObject* button);
     bool isShiftDisabled(const QWidget* widget) const;
