@@ -33,7 +33,8 @@ class UTILSDLL_EXPORT CustomTolvanAppStyle : public QProxyStyle
     Q_OBJECT
 
 public:
-    /// Uses the style named "Windows" of QStyleFactory as its base.
+    /// Uses the style named "Windows" of QStyleFactory as its base. Most of the product's icons are SVG images: if
+    /// Qt can't read those, because its plug-in for them is missing, one line at level "W" is logged.
     CustomTolvanAppStyle();
     ~CustomTolvanAppStyle() override;
 

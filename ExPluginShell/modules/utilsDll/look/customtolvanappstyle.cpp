@@ -42,6 +42,13 @@ const QPixmap& mirroredExtensionButton()
     return pixmap;
 }
 
+/// Returns whether Qt has a plug-in that reads SVG images.
+bool svgImagesCanBeRead()
+{
+    const QByteArray image("<svg xmlns='http://www.w3.org/2000/svg' width='1' height='1'/>");
+    return !QImage::fromData(image, "svg").isNull();
+}
+
 /// Returns a rectangle of this size without the pixel at each corner.
 QRegion withoutCorners(const QSize& size)
 {
@@ -104,6 +111,10 @@ CustomTolvanAppStyle::CustomTolvanAppStyle()
 {
     setBaseStyle(QStyleFactory::create(QStringLiteral("Windows")));
     new ThemeDetails(this);
+    if (!svgImagesCanBeRead()) {
+        UTILSDLL_LOG(LogLevel::Warning, "TOLVAN_NAMESPACE::CustomTolvanAppStyle::CustomTolvanAppStyle")
+            << "SVG images cannot be read, icons stay empty: Qt's plug-in imageformats/qsvg is missing";
+    }
 }
 
 CustomTolvanAppStyle::~CustomTolvanAppStyle() = default;
