@@ -1,7 +1,7 @@
 #pragma once
 
+#include "ExportedTemplate.h"
 #include "Singleton.h"
-#include "utilsdll_global.h"
 
 #include <QVariant>
 
@@ -13,7 +13,7 @@ class QObject;
 class CDelayedCall;
 
 // Declared before the class, so that a module that includes this header does not build a second instance.
-extern template class UTILSDLL_EXPORT Singleton<CDelayedCall>;
+extern template class UTILSDLL_TEMPLATE_DECLARED Singleton<CDelayedCall>;
 
 /// Calls a method of an object after a delay. The product uses it for debouncing.
 ///

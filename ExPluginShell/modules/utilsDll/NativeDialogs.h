@@ -1,7 +1,7 @@
 #pragma once
 
+#include "ExportedTemplate.h"
 #include "Singleton.h"
-#include "utilsdll_global.h"
 
 #include <QFileDialog>
 #include <QObject>
@@ -103,5 +103,5 @@ private:
 
 } // namespace TOLVAN_NAMESPACE
 
-/// Instantiated once, in this library, for all modules.
-extern template class UTILSDLL_EXPORT Singleton<TOLVAN_NAMESPACE::CNativeDialogs>;
+// Instantiated once, in this library, for all modules.
+extern template class UTILSDLL_TEMPLATE_DECLARED Singleton<TOLVAN_NAMESPACE::CNativeDialogs>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExportedTemplate.h"
 #include "Waiting.h"
 
 #include <QObject>
@@ -65,9 +66,11 @@ public:
     /// connected with Qt::BlockingQueuedConnection to the waiting thread needs a non-blocking wait.
     /// @{
 
-    /// Waits until the item has started, has finished, or has started and then finished.
+    /// Waits until the item has started.
     void waitStartBlocking();
+    /// Waits until the item has finished.
     void waitFinishBlocking();
+    /// Waits until the item has started and then finished.
     void waitExecuteBlocking();
     /// @}
 
@@ -76,9 +79,11 @@ public:
     /// \a excludeUserInput the application gets no user input until the wait returns.
     /// @{
 
-    /// Processes events until the item has started, has finished, or has started and then finished.
+    /// Processes events until the item has started.
     void waitStartNonBlocking(bool excludeUserInput);
+    /// Processes events until the item has finished.
     void waitFinishNonBlocking(bool excludeUserInput);
+    /// Processes events until the item has started and then finished.
     void waitExecuteNonBlocking(bool excludeUserInput);
     /// @}
 
@@ -89,12 +94,17 @@ public:
     /// dispatcher. The item may be deleted only after WaitResult::Done.
     /// @{
 
-    /// Waits at most \a limit until the item has started, has finished, or has started and then finished.
+    /// Waits at most \a limit until the item has started.
     WaitResult waitStartBlockingFor(std::chrono::milliseconds limit);
+    /// Waits at most \a limit until the item has finished.
     WaitResult waitFinishBlockingFor(std::chrono::milliseconds limit);
+    /// Waits at most \a limit until the item has started and then finished.
     WaitResult waitExecuteBlockingFor(std::chrono::milliseconds limit);
+    /// Processes events, at most for \a limit, until the item has started.
     WaitResult waitStartNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
+    /// Processes events, at most for \a limit, until the item has finished.
     WaitResult waitFinishNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
+    /// Processes events, at most for \a limit, until the item has started and then finished.
     WaitResult waitExecuteNonBlockingFor(bool excludeUserInput, std::chrono::milliseconds limit);
     /// @}
 
@@ -130,7 +140,7 @@ private:
     QAtomicInt m_runs;                // calls of CQRunnableItem::run() that have not emitted finished() yet
 };
 
-extern template class UTILSDLL_EXPORT CRunnableItem<QRunnable>;
+extern template class UTILSDLL_TEMPLATE_DECLARED CRunnableItem<QRunnable>;
 
 /// A work item that reports its start and end by signals and can be stopped through a slot.
 /// \code

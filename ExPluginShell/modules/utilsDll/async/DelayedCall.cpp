@@ -234,4 +234,4 @@ bool CDelayedCall::isActive(QObject* object, const char* method)
     return invoker && invoker->isActive(object, method);
 }
 
-template class Singleton<CDelayedCall>;
+template class UTILSDLL_TEMPLATE_DEFINED Singleton<CDelayedCall>;

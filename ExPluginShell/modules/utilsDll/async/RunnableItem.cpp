@@ -298,7 +298,7 @@ WaitResult CRunnableItem<Base>::waitConditionNonBlockingFor(Moment moment, bool 
     return condition.outcome(waitNonBlockingFor(condition, excludeUserInput, limit));
 }
 
-template class CRunnableItem<QRunnable>;
+template class UTILSDLL_TEMPLATE_DEFINED CRunnableItem<QRunnable>;
 
 CQRunnableItem::CQRunnableItem()
     : CQRunnableItem(true)

@@ -2,7 +2,7 @@
 
 #include "platform/FolderPicker.h"
 
-template class Singleton<TOLVAN_NAMESPACE::CNativeDialogs>;
+template class UTILSDLL_TEMPLATE_DEFINED Singleton<TOLVAN_NAMESPACE::CNativeDialogs>;
 
 namespace TOLVAN_NAMESPACE
 {
