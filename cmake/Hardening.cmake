@@ -1,6 +1,11 @@
 # Protection that the compiler and the linker offer, for every target; tests/checks/hardening.py checks the result. A
 # sanitizer has checks of its own that do not go with FORTIFY.
 # On Windows mingw's stack protector and FORTIFY would add another run-time library, and its control-flow guard does not exist.
+if(MSVC) # address randomisation and data execution prevention are this linker's defaults
+    target_compile_options(project_options INTERFACE /guard:cf)
+    target_link_options(project_options INTERFACE /guard:cf /HIGHENTROPYVA)
+    return()
+endif()
 if(NOT WIN32)
     target_compile_options(project_options INTERFACE -fstack-protector-strong)
     if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")

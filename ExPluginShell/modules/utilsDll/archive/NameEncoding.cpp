@@ -23,6 +23,9 @@ constexpr char16_t upperHalf[] = u"ÇüéâäàåçêëèïîìÄÅÉæÆôöò�
                                  u"áíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐"
                                  u"└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀"
                                  u"αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00a0";
+static_assert(sizeof(upperHalf) == (128 + 1) * sizeof(char16_t) && upperHalf[0] == 0x00C7 &&
+                  upperHalf[48] == 0x2591 && upperHalf[96] == 0x03B1 && upperHalf[126] == 0x25A0,
+              "the compiler has to read this source as UTF-8");
 
 QString fromCodePage437(const QByteArray& raw)
 {

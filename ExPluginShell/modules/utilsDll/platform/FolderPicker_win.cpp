@@ -93,8 +93,8 @@ void takeOverButton(IFileDialog* dialog)
     }
 }
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // objects of COM are deleted by their own Release()
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_GCC("-Wnon-virtual-dtor") // objects of COM are deleted by their own Release()
 
 class EventsHandler final : public IFileDialogEvents
 {
@@ -155,7 +155,7 @@ private:
     LONG m_references = 1;
 };
 
-#pragma GCC diagnostic pop
+QT_WARNING_POP
 
 /// COM stays initialised until the process ends, because objects of the shell may outlive the picker.
 bool comIsReady()

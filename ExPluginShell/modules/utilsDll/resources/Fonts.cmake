@@ -1,7 +1,7 @@
 # The nine fonts come from Debian's font packages; THIRD-PARTY.md names their licences. Where a family isn't packaged,
 # one of a similar design takes its place under the file name that callers know. README.md lists the family names.
 
-set(font_root "/usr/share/fonts" CACHE PATH "Folder of the installed fonts")
+set(font_root "/usr/share/fonts" CACHE PATH "Folder of the installed fonts: Debian's, or one that holds all the files")
 set(roboto "${font_root}/truetype/roboto/unhinted/RobotoTTF")
 set(open_sans "${font_root}/truetype/open-sans")
 set(quicksand "${font_root}/truetype/quicksand")
@@ -18,8 +18,14 @@ foreach(font
     "MavenProLight-300.otf|${cantarell}/Cantarell-Light.otf"
     "Segoe+UI.ttf|${open_sans}/OpenSans-Regular.ttf")
     string(REGEX MATCH "^(.+)[|](.+)$" unused "${font}")
-    if(NOT EXISTS "${CMAKE_MATCH_2}")
-        message(FATAL_ERROR "The font ${CMAKE_MATCH_2} is not installed: run tools/install-deps.sh build")
+    set(name "${CMAKE_MATCH_1}")
+    set(file "${CMAKE_MATCH_2}")
+    if(NOT EXISTS "${file}")
+        get_filename_component(file "${file}" NAME)
+        set(file "${font_root}/${file}")
     endif()
-    tolvan_stage_copy(userinterface fonts/${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
+    if(NOT EXISTS "${file}")
+        message(FATAL_ERROR "The font ${file} is not installed: run tools/install-deps.sh build")
+    endif()
+    tolvan_stage_copy(userinterface fonts/${name} "${file}")
 endforeach()
