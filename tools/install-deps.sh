@@ -46,13 +46,13 @@ packages_of() {
         echo libbenchmark-dev libkdsoap-dev
         ;;
     lint | fuzz)
-        echo clang clang-format libclang-rt-14-dev shellcheck
+        echo clang clang-format libclang-rt-14-dev shellcheck pkg-config
         ;;
     release)
         echo dpkg-dev binutils file zip xz-utils
         ;;
     docs)
-        echo doxygen
+        echo doxygen qtbase5-doc-dev
         ;;
     *)
         usage >&2

@@ -11,5 +11,11 @@ if undescribed=$(grep -L '[\\]file' $headers) && [ -n "$undescribed" ]; then
     printf 'reference: exports functions, but has no \\file: %s\n' $undescribed >&2
     exit 1
 fi
-mkdir -p build
-doxygen docs/Doxyfile
+
+tools/reference.sh
+
+# A class of Qt or a built-in type with a page of its own is an error of the configuration.
+if invented=$(find build/reference/html -name 'class*.html' -printf '%f\n' | grep -E '^class([a-z]+|Q[^t].*)\.html$' | grep -v '^classes'); then
+    printf 'reference: no class of the library: %s\n' "$invented" >&2
+    exit 1
+fi
