@@ -19,4 +19,4 @@ install_packages build test
 preset=${PRESET:-release}
 build "$preset"
 echo "== Running the tests"
-ctest --preset "$preset" "$@"
+run_tests "$preset" "$@"

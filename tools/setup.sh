@@ -42,3 +42,10 @@ build() {
     fi
     rm -f "$log"
 }
+
+# run_tests PRESET [CTEST OPTION...]: runs the tests of a preset. The build folder gets the results as tests-PRESET.xml (JUnit).
+run_tests() {
+    local preset=$1
+    shift
+    ctest --preset "$preset" --output-junit "tests-$preset.xml" "$@"
+}

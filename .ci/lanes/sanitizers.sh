@@ -4,4 +4,4 @@ set -euo pipefail
 source tools/setup.sh
 install_packages build test
 build dev-asan
-ctest --preset dev-asan
+run_tests dev-asan

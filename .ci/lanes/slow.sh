@@ -4,4 +4,4 @@ set -euo pipefail
 source tools/setup.sh
 install_packages build test
 build strict-gcc
-ctest --preset slow
+run_tests slow

@@ -4,4 +4,4 @@ set -euo pipefail
 source tools/setup.sh
 install_packages build test
 TARGETS=thread_tests build dev-tsan
-ctest --preset dev-tsan
+run_tests dev-tsan
