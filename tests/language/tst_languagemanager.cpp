@@ -57,30 +57,25 @@ QString cancelButtonText()
     return box.button(QMessageBox::Cancel)->text().remove(QLatin1Char('&'));
 }
 
-std::size_t heapInUse()
-{
-#ifdef __GLIBC__
-    return mallinfo2().uordblks;
-#else
-    return 0;
-#endif
-}
-
-/// Heap that changes of the language have kept in a process without an application object.
-std::size_t keptWithoutApplication = 0;
-
-void changeWithoutApplication()
+/// Heap that changes of the language keep in a process without an application object; 0 where it is not known.
+std::size_t keptWithoutApplication()
 {
     const IsolatedProfile profile;
     const QtMessageHandler handler = qInstallMessageHandler([](auto, const auto&, const auto&) {});
     CLanguageManager().loadLanguageForApp(); // fills what is kept for good
-    const std::size_t before = heapInUse();
+    std::size_t kept = 0;
+#ifdef __GLIBC__
+    const std::size_t before = mallinfo2().uordblks;
     for (int i = 0; i < 400; ++i) { // of which each would keep more than 700 bytes
         CLanguageManager().loadLanguageForApp();
     }
-    keptWithoutApplication = heapInUse() - before;
+    kept = mallinfo2().uordblks - before;
+#endif
     qInstallMessageHandler(handler);
+    return kept;
 }
+
+std::size_t kept = 0;
 
 /// Opens the table to tables of the test's own.
 class OpenManager : public CLanguageManager
@@ -102,16 +97,6 @@ protected:
     }
 };
 
-/// Counts the application's LanguageChange events: one for each translator that is installed or removed.
-struct ChangeCounter : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::LanguageChange ? 1 : 0;
-        return false;
-    }
-};
-
 } // namespace
 
 class LanguageManagerTest : public QObject
@@ -119,244 +104,197 @@ class LanguageManagerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void metaObject();
-    void table();
-    void givenTable();
-    void storedNumber();
-    void unknownNumber();
-    void fixedAbbreviations();
-    void tenChangesAndBack();
-    void applicationFreesTranslators();
-    void glyphsOfTheLanguage();
-    void nothingIsLeakedWithoutApplication();
-    void sameLanguage();
-};
-
-void LanguageManagerTest::init()
-{
-    IsolatedProfile::clearStores();
-    installedLogger().take();
-}
-
-void LanguageManagerTest::cleanup()
-{
-    qDeleteAll(qApp->findChildren<QTranslator*>());
-    QLocale::setDefault(QLocale::c());
-}
-
-void LanguageManagerTest::metaObject()
-{
-    const QMetaObject& meta = CLanguageManager::staticMetaObject;
-    QCOMPARE(meta.className(), "TOLVAN_NAMESPACE::CLanguageManager");
-    const int first = meta.methodOffset();
-    QCOMPARE(meta.method(first).methodSignature(), QByteArray("languageChanged()"));
-    QCOMPARE(meta.method(first + 1).methodSignature(), QByteArray("changeLanguage(int)"));
-    QCOMPARE(CLanguageManager::instance(), CLanguageManager::instance());
-}
-
-void LanguageManagerTest::table()
-{
-    CLanguageManager manager;
-    QCOMPARE(manager.langCount(), 0);
-    QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
-    manager.loadLanguages();
-    manager.loadLanguages();
-    QCOMPARE(manager.langCount(), 5);
-    QCOMPARE(manager.model()->columnCount(), 4);
-    for (const Language& language : languageTable) {
-        const int row = manager.getLanguageIndexFromID(language.number);
-        QVERIFY(row >= 0);
-        QCOMPARE(manager.getLangIdFromIndex(row), language.number);
-        QStringList cells;
-        for (int column = 0; column < 4; ++column) {
-            cells.append(manager.model()->item(row, column)->text());
-        }
-        const QString abbreviation = QString::fromLatin1(language.abbreviation);
-        const QStringList expected{QString::fromUtf8(language.name), QString::number(language.number),
-                                   QStringLiteral(":/translations/tolvan_%1.qm").arg(abbreviation),
-                                   abbreviation};
-        QCOMPARE(cells, expected);
-    }
-    QCOMPARE(manager.getLangIdFromIndex(-1), 0u);
-    QCOMPARE(manager.getLangIdFromIndex(5), 0u);
-    QCOMPARE(installedLogger().take(), QStringList());
-    QCOMPARE(manager.getLanguageIndexFromID(7), -1);
-    QCOMPARE(installedLogger().take(),
-             QStringList(QStringLiteral("E TOLVAN_NAMESPACE::CLanguageManager::getLanguageIndexFromID: "
-                                        "Cannot find language with ID: 7")));
-}
-
-void LanguageManagerTest::givenTable()
-{
-    const QStringList one{QStringLiteral("1")};
-    const QStringList two{QStringLiteral("1"), QStringLiteral("2")};
-    const auto rows = [](const QStringList& names, const QStringList& numbers, const QStringList& paths,
-                         const QStringList& abbreviations, const char* last) {
-        OpenManager manager;
-        manager.createLanguageModel(names, numbers, paths, abbreviations);
-        const int count = manager.langCount();
-        const QString found = manager.model()->index(count - 1, 3).data().toString();
-        // A table that has columns counts as filled and is kept.
-        if (manager.model()->columnCount() > 0) {
-            manager.loadLanguages();
-        }
-        return found == QLatin1String(last) && manager.langCount() == count ? count : -1;
-    };
-    QCOMPARE(rows(two, two, two, two, "2"), 2);
-    QCOMPARE(rows(two, two, two, one, ""), 2);
-    QCOMPARE(rows(one, one, one, two, "1"), 1);
-    QCOMPARE(rows(two, one, two, two, ""), 0);
-    QCOMPARE(rows(two, two, one, two, ""), 0);
-    QCOMPARE(rows({}, {}, {}, {}, ""), 0);
-}
-
-void LanguageManagerTest::storedNumber()
-{
-    const QVariant texts[] = {{}, QStringLiteral("12"), QStringLiteral("German"), QString(), 7};
-    for (const QVariant& stored : texts) {
-        const bool isJapanese = stored == QVariant(QStringLiteral("12"));
-        const QString abbreviation = isJapanese ? QStringLiteral("ja") : QStringLiteral("en");
+    void init()
+    {
         IsolatedProfile::clearStores();
-        store(stored);
+        installedLogger().take();
+    }
+
+    void cleanup()
+    {
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void table()
+    {
         CLanguageManager manager;
-        QCOMPARE(CLanguageManager::currentLanguageNumber(), isJapanese ? 12u : 2u);
-        // One abbreviation needs the table, the other does not.
-        QCOMPARE(manager.settingsAbbrv(), abbreviation);
-        QCOMPARE(manager.currentLanguageAbbrv(), QString());
+        QCOMPARE(manager.langCount(), 0);
+        QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
         manager.loadLanguages();
-        QCOMPARE(manager.currentLanguageAbbrv(), abbreviation);
+        manager.loadLanguages();
+        QCOMPARE(manager.langCount(), 5);
+        for (const Language& language : languageTable) {
+            const int row = manager.getLanguageIndexFromID(language.number);
+            QCOMPARE(manager.getLangIdFromIndex(row), language.number);
+            const QString abbreviation = QString::fromLatin1(language.abbreviation);
+            QCOMPARE(CLanguageManager::stringFromCodeLanguage(language.number), abbreviation);
+            const QStringList expected{QString::fromUtf8(language.name), QString::number(language.number),
+                                       QStringLiteral(":/translations/tolvan_%1.qm").arg(abbreviation),
+                                       abbreviation};
+            for (int column = 0; column < expected.size(); ++column) {
+                QCOMPARE(manager.model()->index(row, column).data().toString(), expected.at(column));
+            }
+        }
+        QCOMPARE(manager.getLangIdFromIndex(5), 0u);
+        QCOMPARE(installedLogger().take(), QStringList());
+        QCOMPARE(manager.getLanguageIndexFromID(7), -1);
+        QCOMPARE(installedLogger().take(),
+                 QStringList(QStringLiteral("E TOLVAN_NAMESPACE::CLanguageManager::getLanguageIndexFromID: "
+                                            "Cannot find language with ID: 7")));
+        QByteArray text;
+        try {
+            CLanguageManager::stringFromCodeLanguage(4294967295u);
+        } catch (const std::invalid_argument& error) {
+            text = error.what();
+        }
+        QCOMPARE(text, QByteArray("The argument 4294967295 does not refer to a valid language"));
     }
-}
 
-void LanguageManagerTest::unknownNumber()
-{
-    OpenManager manager;
-    store(5);
-    manager.createLanguageModel({QStringLiteral("Unknown")}, {QStringLiteral("99")}, {QStringLiteral("x")},
-                                {QStringLiteral("xx")});
-    manager.loadLanguageForApp();
-    QCOMPARE(installedByApplication(), 0);
-    QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
-    QCOMPARE(QLocale(), QLocale::c());
-    QCOMPARE(installedLogger().take(), QStringList());
-    QCOMPARE(manager.currentLanguageIndex(), -1);
-    QVERIFY(
-        installedLogger().take().join(QString()).endsWith(QStringLiteral("Cannot find language with ID: 5")));
-    // A row that does not exist stands for number 0: it is stored, and with no such row nothing is installed.
-    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
-    QVERIFY(manager.changeLanguage(3));
-    QCOMPARE(CLanguageManager::currentLanguageNumber(), 0u);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(installedByApplication(), 0);
-}
-
-void LanguageManagerTest::fixedAbbreviations()
-{
-    for (const Language& language : languageTable) {
-        QCOMPARE(CLanguageManager::stringFromCodeLanguage(language.number),
-                 QString::fromLatin1(language.abbreviation));
+    void givenTable()
+    {
+        const QStringList one{QStringLiteral("1")};
+        const QStringList two{QStringLiteral("1"), QStringLiteral("2")};
+        const auto rows = [](const QStringList& names, const QStringList& numbers, const QStringList& paths,
+                             const QStringList& abbreviations) {
+            OpenManager manager;
+            manager.createLanguageModel(names, numbers, paths, abbreviations);
+            const int count = manager.langCount();
+            if (count > 0) {
+                manager.loadLanguages(); // keeps a table that is filled
+            }
+            return manager.langCount() == count ? count : -1;
+        };
+        QCOMPARE(rows(two, two, two, one), 2);
+        QCOMPARE(rows(one, one, one, two), 1);
+        QCOMPARE(rows(two, one, two, two), 0);
+        QCOMPARE(rows(two, two, one, two), 0);
+        QCOMPARE(rows({}, {}, {}, {}), 0);
     }
-    QByteArray text;
-    try {
-        CLanguageManager::stringFromCodeLanguage(4294967295u);
-    } catch (const std::invalid_argument& error) {
-        text = error.what();
-    }
-    QCOMPARE(text, QByteArray("The argument 4294967295 does not refer to a valid language"));
-}
 
-void LanguageManagerTest::tenChangesAndBack()
-{
-    store(5);
-    CLanguageManager manager;
-    manager.loadLanguageForApp();
-    int translators = 2;
-    QCOMPARE(installedByApplication(), translators);
-    QCOMPARE(QObject::tr("Error"), QStringLiteral("Erreur"));
-    Window window;
-    window.show();
-    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
-    const int order[] = {0, 2, 1, 3, 4, 0, 1, 4, 2, 3, 1};
-    for (int place : order) {
-        const Language& language = languageTable[place];
-        ChangeCounter application;
-        qApp->installEventFilter(&application);
-        QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(language.number)));
-        // The one installed last goes; the product's catalogue of a language with two stays beneath.
-        translators += language.translators - 1;
+    void storedNumber()
+    {
+        for (const QVariant& stored :
+             {QVariant(), QVariant(12), QVariant(QStringLiteral("German")), QVariant(7)}) {
+            const bool isJapanese = stored == QVariant(12);
+            const QString abbreviation = isJapanese ? QStringLiteral("ja") : QStringLiteral("en");
+            IsolatedProfile::clearStores();
+            store(stored);
+            CLanguageManager manager;
+            QCOMPARE(CLanguageManager::currentLanguageNumber(), isJapanese ? 12u : 2u);
+            QCOMPARE(manager.settingsAbbrv(), abbreviation);
+            QCOMPARE(manager.currentLanguageAbbrv(), QString()); // it needs the table
+            manager.loadLanguages();
+            QCOMPARE(manager.currentLanguageAbbrv(), abbreviation);
+        }
+    }
+
+    void unknownNumber()
+    {
+        OpenManager manager;
+        store(5);
+        const QStringList other{QStringLiteral("99")};
+        manager.createLanguageModel(other, other, other, other);
+        manager.loadLanguageForApp();
+        QCOMPARE(installedByApplication(), 0);
+        QCOMPARE(manager.loadedLanguageID(), 0xFFFFFFFFu);
+        QCOMPARE(QLocale(), QLocale::c());
+        QCOMPARE(installedLogger().take(), QStringList());
+        QCOMPARE(manager.currentLanguageIndex(), -1);
+        // A row that does not exist stands for number 0: it is stored, and with no such row nothing is installed.
+        QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+        QVERIFY(manager.changeLanguage(3));
+        QCOMPARE(CLanguageManager::currentLanguageNumber(), 0u);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(installedByApplication(), 0);
+    }
+
+    void tenChangesAndBack()
+    {
+        store(5);
+        CLanguageManager manager;
+        manager.loadLanguageForApp();
+        int translators = 2;
         QCOMPARE(installedByApplication(), translators);
-        QCOMPARE(application.count, 1 + language.translators);
-        QCOMPARE(manager.loadedLanguageID(), language.number);
-        QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
-        QCOMPARE(QLocale().language(), QLocale(QString::fromLatin1(language.abbreviation)).language());
-        QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(window.text(), QString::fromUtf8(language.error));
+        QCOMPARE(QObject::tr("Error"), QStringLiteral("Erreur"));
+        Window window;
+        window.show();
+        QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+        const int order[] = {0, 2, 1, 3, 4, 0, 1, 4, 2, 3, 1};
+        for (int place : order) {
+            const Language& language = languageTable[place];
+            QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(language.number)));
+            // The one installed last goes; the product's catalogue of a language with two stays beneath.
+            translators += language.translators - 1;
+            QCOMPARE(installedByApplication(), translators);
+            QCOMPARE(manager.loadedLanguageID(), language.number);
+            QCOMPARE(CLanguageManager::currentLanguageNumber(), language.number);
+            QCOMPARE(QLocale().language(), QLocale(QString::fromLatin1(language.abbreviation)).language());
+            QCOMPARE(cancelButtonText(), QString::fromUtf8(language.cancel));
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(window.text(), QString::fromUtf8(language.error));
+        }
+        QCOMPARE(changed.size(), int(std::size(order)));
+        QCOMPARE(installedLogger().take(), QStringList());
     }
-    QCOMPARE(changed.size(), int(std::size(order)));
-    QCOMPARE(installedLogger().take(), QStringList());
-}
 
-void LanguageManagerTest::applicationFreesTranslators()
-{
-    // As an application object that ends before the manager does.
-    CLanguageManager manager;
-    manager.loadLanguageForApp();
-    qDeleteAll(qApp->findChildren<QTranslator*>());
-    QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(0)));
-    QCOMPARE(installedByApplication(), 2);
-}
-
-void LanguageManagerTest::glyphsOfTheLanguage()
-{
-    if (!QFontDatabase().families().contains(QStringLiteral("Noto Sans CJK SC"))) {
-        QSKIP("needs the Noto CJK fonts");
+    void applicationFreesTranslators()
+    {
+        // As an application object that ends before the manager does.
+        CLanguageManager manager;
+        manager.loadLanguageForApp();
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+        QVERIFY(manager.changeLanguage(manager.getLanguageIndexFromID(0)));
+        QCOMPARE(installedByApplication(), 2);
     }
-    CLanguageManager manager;
-    manager.loadLanguages();
-    QLabel plain, styled;
-    styled.setStyleSheet(QStringLiteral("font-family: 'Lucida Sans Unicode', 'Open Sans'"));
-    const auto familyIn = [](const QLabel& label) {
-        label.ensurePolished();
-        QTextLayout layout(QString(QChar(0x76F4)), label.font()); // its glyph differs between the languages
-        layout.beginLayout();
-        layout.createLine();
-        layout.endLayout();
-        return layout.glyphRuns().value(0).rawFont().familyName().toLower();
-    };
-    QVERIFY(!familyIn(plain).isEmpty() && !familyIn(styled).isEmpty()); // fonts that are in use
-    for (const unsigned number : {12u, 13u, 0u, 12u, 13u}) {
-        manager.changeLanguage(manager.getLanguageIndexFromID(number));
-        const QString expected = QLatin1String(number == 13 ? "noto sans cjk sc" : "noto sans cjk jp");
-        QVERIFY2(number == 0 || familyIn(plain) == expected, qPrintable(familyIn(plain)));
-        QVERIFY2(number == 0 || familyIn(styled) == expected, qPrintable(familyIn(styled)));
+
+    void glyphsOfTheLanguage()
+    {
+        if (!QFontDatabase().families().contains(QStringLiteral("Noto Sans CJK SC"))) {
+            QSKIP("needs the Noto CJK fonts");
+        }
+        CLanguageManager manager;
+        manager.loadLanguages();
+        QLabel plain, styled;
+        styled.setStyleSheet(QStringLiteral("font-family: 'Lucida Sans Unicode', 'Open Sans'"));
+        const auto familyIn = [](const QLabel& label) {
+            label.ensurePolished();
+            QTextLayout layout(QString(QChar(0x76F4)),
+                               label.font()); // its glyph differs between the languages
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            return layout.glyphRuns().value(0).rawFont().familyName().toLower();
+        };
+        QVERIFY(!familyIn(plain).isEmpty() && !familyIn(styled).isEmpty()); // fonts that are in use
+        for (const unsigned number : {12u, 13u, 0u, 12u, 13u}) {
+            manager.changeLanguage(manager.getLanguageIndexFromID(number));
+            const QString expected = QLatin1String(number == 13 ? "noto sans cjk sc" : "noto sans cjk jp");
+            QVERIFY2(number == 0 || familyIn(plain) == expected, qPrintable(familyIn(plain)));
+            QVERIFY2(number == 0 || familyIn(styled) == expected, qPrintable(familyIn(styled)));
+        }
     }
-}
 
-void LanguageManagerTest::nothingIsLeakedWithoutApplication()
-{
-    QVERIFY2(keptWithoutApplication < 100000, qPrintable(QString::number(keptWithoutApplication)));
-}
+    void nothingIsLeakedWithoutApplication() { QVERIFY2(kept < 100000, qPrintable(QString::number(kept))); }
 
-void LanguageManagerTest::sameLanguage()
-{
-    store(12);
-    CLanguageManager manager;
-    manager.loadLanguages();
-    QSignalSpy changed(&manager, SIGNAL(languageChanged()));
-    QVERIFY(!manager.changeLanguage(manager.currentLanguageIndex()));
-    QCOMPARE(changed.size(), 0);
-    QCOMPARE(installedByApplication(), 0);
-    store(0);
-    QVERIFY(!manager.changeLanguage(-1)); // number 0, which is the stored one
-    QCOMPARE(changed.size(), 0);
-}
+    void sameLanguage()
+    {
+        store(12);
+        CLanguageManager manager;
+        manager.loadLanguages();
+        QSignalSpy changed(&manager, SIGNAL(languageChanged()));
+        QVERIFY(!manager.changeLanguage(manager.currentLanguageIndex()));
+        QCOMPARE(changed.size(), 0);
+        QCOMPARE(installedByApplication(), 0);
+        store(0);
+        QVERIFY(!manager.changeLanguage(-1)); // number 0, which is the stored one
+        QCOMPARE(changed.size(), 0);
+    }
+};
 
 int main(int argc, char* argv[])
 {
-    changeWithoutApplication();
+    kept = keptWithoutApplication();
     return TestMain::run<QApplication, LanguageManagerTest>(argc, argv);
 }
 

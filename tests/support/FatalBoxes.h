@@ -21,8 +21,6 @@ public:
     QStringList take();
     /// The message program's arguments, one list for each box.
     QList<QStringList> takeArguments();
-    /// Removes the message program.
-    void removeProgram();
 
 private:
     class Watcher;

@@ -5,22 +5,18 @@
 
 class FatalBoxes::Watcher
 {
-public:
-    QString program; ///< full path of the stand-in
 };
 
 FatalBoxes::FatalBoxes(const QString& program)
     : m_path(qgetenv("PATH"))
     , m_display(qgetenv("DISPLAY"))
-    , m_watcher(new Watcher)
 {
     qputenv("PATH", QFile::encodeName(m_folder.path()));
     qputenv("DISPLAY", ":no-real-one");
     if (program.isEmpty()) {
         return;
     }
-    m_watcher->program = m_folder.filePath(program);
-    QFile script(m_watcher->program);
+    QFile script(m_folder.filePath(program));
     QVERIFY(script.open(QIODevice::WriteOnly));
     // An argument and a call each end with a character that no text has.
     script.write("#!/bin/sh\n{ for argument in \"$@\"; do printf '%s\\036' \"$argument\"; done; printf "
@@ -64,9 +60,4 @@ QStringList FatalBoxes::take()
         boxes.append(arguments.value(title + 1) + QLatin1Char('|') + arguments.value(arguments.size() - 1));
     }
     return boxes;
-}
-
-void FatalBoxes::removeProgram()
-{
-    QVERIFY(QFile::remove(m_watcher->program));
 }

@@ -97,5 +97,3 @@ QList<QStringList> FatalBoxes::takeArguments()
 {
     return {};
 }
-
-void FatalBoxes::removeProgram() {}
