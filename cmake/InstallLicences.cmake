@@ -1,20 +1,29 @@
 # Run at installation: copies the licence texts of everything inside the product from the packages it was built with.
 # DESTINATION, WINDOWS and SDK are set by the caller.
-set(packages libqt5core5a libqt5svg5 libquazip1-qt5-1 zlib1g libspdlog-dev libfmt-dev qttranslations5-l10n
+set(packages libqt5core5a libqt5svg5 libquazip1-qt5-1 zlib1g libdeflate0 libspdlog-dev libfmt-dev qttranslations5-l10n
     fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell libstdc++6)
 if(WINDOWS)
-    list(APPEND packages gcc-mingw-w64-base mingw-w64-common)
+    list(APPEND packages gcc-mingw-w64-base mingw-w64-common libz-mingw-w64)
+else()
+    list(APPEND packages libbz2-1.0)
 endif()
+set(common_texts "")
 foreach(package IN LISTS packages)
     set(text "/usr/share/doc/${package}/copyright")
     if(NOT EXISTS "${text}")
         message(FATAL_ERROR "The licence text of ${package} is missing: ${text}")
     endif()
     configure_file("${text}" "${DESTINATION}/${package}.txt" COPYONLY)
+    # Debian's files refer to the common texts by their path.
+    file(STRINGS "${text}" lines REGEX "/usr/share/common-licenses/")
+    string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]" references "${lines}")
+    list(APPEND common_texts ${references})
 endforeach()
-# Debian's files refer to these for the common texts.
-foreach(text Apache-2.0 GPL-3 LGPL-2.1 LGPL-3)
-    configure_file("/usr/share/common-licenses/${text}" "${DESTINATION}/${text}.txt" COPYONLY)
+list(REMOVE_DUPLICATES common_texts)
+foreach(text IN LISTS common_texts)
+    file(REAL_PATH "${text}" file) # some names are links to the newest version
+    get_filename_component(name "${text}" NAME)
+    configure_file("${file}" "${DESTINATION}/${name}.txt" COPYONLY)
 endforeach()
 if(WINDOWS)
     file(GLOB texts "${SDK}/LICENSES/*.txt")

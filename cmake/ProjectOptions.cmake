@@ -28,7 +28,8 @@ if(UTILSDLL_SYMBOLS AND MSVC)
 elseif(UTILSDLL_SYMBOLS)
     # Symbols for a release, which name no folder of the building machine.
     target_compile_options(project_options INTERFACE -g
-        "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+        "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
+        "$<$<BOOL:${WIN64_SDK_DIR}>:-ffile-prefix-map=${WIN64_SDK_DIR}=win64-sdk>")
 endif()
 
 if(UTILSDLL_SANITIZE)

@@ -12,7 +12,7 @@ Builds the release of the commit that is checked out and writes it to FOLDER (de
   utilsdlltrelioframe-VERSION-win64-symbols.zip   their debug symbols
   utilsdlltrelioframe-VERSION-linux-amd64.tar.xz  the same for Linux, without Qt
   utilsdlltrelioframe-VERSION-linux-amd64-symbols.tar.xz
-  libutilsdlltrelioframe*.deb                     run time, development, debug symbols
+  libutilsdlltrelioframe*.deb                     Debian packages: run time, development, debug symbols
   utilsdlltrelioframe-VERSION-reference.tar.xz    the API reference
   utilsdlltrelioframe-VERSION.spdx                what is inside, with checksums and licences
   SHA256SUMS
@@ -47,6 +47,7 @@ source tools/setup.sh
 install_packages build docs release
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
+export CCACHE_DISABLE=1 # it changes options and paths of the compiler, which debug symbols record
 umask 022
 rm -rf "$output"
 mkdir -p "$output"
@@ -78,7 +79,8 @@ settle() {
 
 pack_tar() {
     settle "$work/$1"
-    tar -C "$work" --sort=name --owner=0 --group=0 --numeric-owner --format=gnu -cJf "$output/$1.tar.xz" "$1"
+    tar -C "$work" --sort=name --owner=0 --group=0 --numeric-owner --format=gnu -c "$1" |
+        xz -T2 >"$output/$1.tar.xz" # always two threads: one alone gives another file
 }
 
 pack_zip() {
@@ -87,19 +89,26 @@ pack_zip() {
 }
 
 release_linux() {
+    local symbols
     build package
     stage package "$work/$name-linux-amd64" ""
     pack_tar "$name-linux-amd64"
     pack_tar "$name-linux-amd64-symbols"
     echo "== Packing for Debian"
-    (cd build/package && rm -f ./*.deb && cpack -G DEB >"$work/cpack.log" 2>&1) || { cat "$work/cpack.log" >&2; die "cpack failed"; }
+    rm -f build/package/*.deb build/package/*.ddeb
+    (cd build/package && cpack -G DEB) >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2; die "cpack failed"; }
     mv build/package/*.deb "$output/"
+    for symbols in build/package/*.ddeb; do # CPack's own ending of packages with debug symbols
+        mv "$symbols" "$output/$(basename "$symbols" .ddeb).deb"
+    done
 }
 
 # What a host needs at run time is found by following the import tables, from the libraries and the plug-ins on.
 add_run_time() {
-    local folder=$1 sdk=$2 plugin library
-    for plugin in platforms/qwindows styles/qwindowsvistastyle imageformats/qsvg imageformats/qjpeg iconengines/qsvgicon; do
+    local folder=$1 sdk=$2 plugins plugin library
+    plugins=$(sed -n 's/^ *foreach(plugin \(.*\))$/\1/p' cmake/TolvanDeploy.cmake) # what tolvan_deploy() copies
+    [ -n "$plugins" ] || die "cmake/TolvanDeploy.cmake names no plug-in"
+    for plugin in $plugins; do
         install -D -m 644 "$sdk/plugins/$plugin.dll" "$folder/plugins/$plugin.dll"
     done
     local changed=yes
@@ -136,12 +145,13 @@ case $status in
 esac
 
 echo "== Making the reference"
+rm -rf build/reference
 mkdir -p build
 doxygen docs/Doxyfile >/dev/null
 cp -r build/reference/html "$work/$name-reference"
 pack_tar "$name-reference"
 
-tools/release/make_spdx.py "$name" "$version" "$output" THIRD-PARTY.md >"$work/$name.spdx"
+tools/release/make_spdx.py "$name" "$version" "$output" "$work" THIRD-PARTY.md >"$work/$name.spdx"
 mv "$work/$name.spdx" "$output/"
 (cd "$output" && find . -type f -printf '%P\n' | LC_ALL=C sort | xargs sha256sum >"$work/SHA256SUMS")
 mv "$work/SHA256SUMS" "$output/"

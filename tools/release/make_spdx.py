@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Prints the SPDX list of a release: make_spdx.py NAME VERSION FOLDER THIRD-PARTY.md
+"""Prints the SPDX list of a release: make_spdx.py NAME VERSION FILES CONTENTS THIRD-PARTY.md
 
-Every file of FOLDER with its checksum, and every dependency that THIRD-PARTY.md lists as part of the product, with its
-licence. SPDX 2.3, tag-value form. The time is that of the commit (SOURCE_DATE_EPOCH).
+Every file of the folder FILES, and every file inside the archives, which lie unpacked as NAME-* in the folder CONTENTS, with
+checksums; and every dependency that THIRD-PARTY.md lists as part of the product, with its licence. SPDX 2.3, tag-value form.
+The time is that of the commit (SOURCE_DATE_EPOCH).
 """
 
 import hashlib
@@ -23,11 +24,29 @@ def identifier(text):
     return "SPDXRef-" + re.sub(r"[^A-Za-z0-9.-]+", "-", text).strip("-")
 
 
-def main(name, version, folder, third_party):
+def files_below(folder, pattern):
+    return sorted(path for top in folder.glob(pattern) for path in [top, *top.rglob("*")] if path.is_file())
+
+
+def print_files(folder, pattern):
+    for path in files_below(folder, pattern):
+        name = path.relative_to(folder).as_posix()
+        # Names that differ in a sign alone, such as libc++ and libc--, need different identifiers.
+        number = hashlib.sha256(name.encode()).hexdigest()[:8]
+        digest = {kind: hashlib.new(kind, path.read_bytes()).hexdigest() for kind in ("sha1", "sha256")}
+        print(f"\nFileName: ./{name}\nSPDXID: {identifier('File-' + name)}-{number}")
+        print(f"FileChecksum: SHA1: {digest['sha1']}\nFileChecksum: SHA256: {digest['sha256']}")
+        print("LicenseConcluded: NOASSERTION\nLicenseInfoInFile: NOASSERTION\nFileCopyrightText: NOASSERTION")
+
+
+def main(name, version, files, contents, third_party):
     created = time.strftime("%Y-%m-%dT%H:%M:%SZ", time.gmtime(int(os.environ["SOURCE_DATE_EPOCH"])))
     print(f"SPDXVersion: SPDX-2.3\nDataLicense: CC0-1.0\nSPDXID: SPDXRef-DOCUMENT\nDocumentName: {name}")
-    print(f"DocumentNamespace: urn:tolvan:{name}\nCreator: Tool: make_spdx.py\nCreated: {created}\n")
-    print(f"PackageName: UtilsDllTrelioFrame\nSPDXID: SPDXRef-Package\nPackageVersion: {version}")
+    print(f"DocumentNamespace: urn:tolvan:{name}\nCreator: Tool: make_spdx.py\nCreated: {created}")
+    # Files stand before the first package: they belong to the document.
+    print_files(pathlib.Path(files), "*")
+    print_files(pathlib.Path(contents), f"{name}-*")
+    print(f"\nPackageName: UtilsDllTrelioFrame\nSPDXID: SPDXRef-Package\nPackageVersion: {version}")
     print("PackageDownloadLocation: NOASSERTION\nFilesAnalyzed: false")
     print("PackageLicenseConcluded: NOASSERTION\nPackageLicenseDeclared: NONE\nPackageCopyrightText: NOASSERTION")
     print("Relationship: SPDXRef-DOCUMENT DESCRIBES SPDXRef-Package")
@@ -35,13 +54,8 @@ def main(name, version, folder, third_party):
         plain = dependency.replace("`", "")
         print(f"\nPackageName: {plain}\nSPDXID: {identifier(plain)}\nPackageDownloadLocation: NOASSERTION\nFilesAnalyzed: false")
         print(f"PackageLicenseConcluded: NOASSERTION\nPackageLicenseComments: <text>{licence}</text>")
-        print(f"PackageLicenseDeclared: NOASSERTION\nPackageCopyrightText: NOASSERTION")
+        print("PackageLicenseDeclared: NOASSERTION\nPackageCopyrightText: NOASSERTION")
         print(f"Relationship: SPDXRef-Package CONTAINS {identifier(plain)}")
-    for path in sorted(pathlib.Path(folder).iterdir()):
-        digest = {kind: hashlib.new(kind, path.read_bytes()).hexdigest() for kind in ("sha1", "sha256")}
-        print(f"\nFileName: ./{path.name}\nSPDXID: {identifier('File-' + path.name)}")
-        print(f"FileChecksum: SHA1: {digest['sha1']}\nFileChecksum: SHA256: {digest['sha256']}")
-        print("LicenseConcluded: NOASSERTION\nLicenseInfoInFile: NOASSERTION\nFileCopyrightText: NOASSERTION")
 
 
 if __name__ == "__main__":
