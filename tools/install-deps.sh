@@ -13,7 +13,7 @@ Usage: tools/install-deps.sh GROUP...
   lint     check the format and build with Clang
   fuzz     build and run the fuzz targets
   docs     make the API reference
-  release  make the packages and archives (tools/release.sh)
+  release  make the packages and archives (tools/release.sh) and try them
 TEXT
 }
 
@@ -49,7 +49,8 @@ packages_of() {
         echo clang clang-format libclang-rt-14-dev shellcheck pkg-config
         ;;
     release)
-        echo dpkg-dev binutils file zip xz-utils
+        echo git dpkg-dev binutils file zip unzip xz-utils
+        echo abigail-tools mmdebstrap # what tries a release
         ;;
     docs)
         echo doxygen qtbase5-doc-dev

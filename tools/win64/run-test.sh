@@ -7,11 +7,13 @@ tree="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
 usage() {
     cat <<'TEXT'
 Usage: run-test.sh --sdk FOLDER --build FOLDER [--dlls FOLDER]... [--timeout SECONDS] PROGRAM [ARGUMENT]...
+       run-test.sh --alone --build FOLDER [--timeout SECONDS] PROGRAM [ARGUMENT]...
 
 Runs PROGRAM as CTest does in the win64 build, prints what it wrote and ends with its exit code.
   --sdk FOLDER       the unpacked Windows build of Qt (see find-sdk.sh)
   --build FOLDER     the build folder; the Wine prefixes are kept in its folder "wine"
   --dlls FOLDER      one more folder in which the program finds libraries (its own folder always counts)
+  --alone            the program has only what lies in its own folder, which is copied to drive C; there is no other drive
   --timeout SECONDS  time limit (default TOLVAN_TEST_TIMEOUT, else 120); exit code 124 when it is reached
 
 Every run starts with a fresh registry and fresh user folders; the system part of the prefix is shared.
@@ -31,6 +33,7 @@ sdk=
 build=
 limit="${TOLVAN_TEST_TIMEOUT:-120}"
 dlls=()
+alone=
 while [ $# -gt 0 ]; do
     case "$1" in
     --sdk | --build | --dlls | --timeout)
@@ -43,6 +46,10 @@ while [ $# -gt 0 ]; do
         esac
         shift 2
         ;;
+    --alone)
+        alone=yes
+        shift
+        ;;
     --help | -h)
         usage
         exit 0
@@ -51,8 +58,8 @@ while [ $# -gt 0 ]; do
     *) break ;;
     esac
 done
-if [ -z "$sdk" ] || [ -z "$build" ]; then
-    die "--sdk and --build are needed (see --help)"
+if [ -z "$sdk$alone" ] || [ -z "$build" ]; then
+    die "--build and either --sdk or --alone are needed (see --help)"
 fi
 [ $# -ge 1 ] || die "no program given"
 program="$(realpath "$1")" || die "'$1' does not exist"
@@ -164,12 +171,14 @@ trap clean_up EXIT
 # The import table of the program decides which arguments it gets.
 imports="$(x86_64-w64-mingw32-objdump -p "$program")" || die "'$program' is no Windows program"
 given=("$@")
+target=$program
 screen=()
 results=
 prepare_arguments() {
     arguments=("${given[@]}")
     if [[ "$imports" =~ _ZN(12QApplication|15QGuiApplication)C1 ]]; then
         local platform="${TOLVAN_TEST_PLATFORM:-offscreen}"
+        [ -z "$alone" ] || platform=windows # a host has no other plug-in
         arguments+=(-platform "$platform")
         [ "$platform" != windows ] || screen=("$tree/tests/support/with-x-server.sh")
     fi
@@ -183,13 +192,21 @@ prepare_arguments
 # Wine has no fonts for the offscreen platform; the fonts of the library's bundle are installed on this system.
 fonts=/usr/share/fonts/truetype/roboto/unhinted/RobotoTTF
 [ ! -d "$fonts" ] || export TOLVAN_TEST_FONTS="Z:${fonts}"
-WINEPATH="$(library_path)"
+[ -n "$alone" ] || WINEPATH="$(library_path)"
 export WINEPATH
+
+copy_to_drive_c() {
+    cp -r "$(dirname "$program")" "$run/drive_c/host"
+    find "$run/dosdevices" -mindepth 1 ! -name c: -delete
+    target="C:\\host\\$(basename "$program")"
+    unset TOLVAN_TEST_FONTS WINEPATH
+}
 
 run_program() {
     export HOME="$run/home" WINEPREFIX="$run"
+    [ -z "$alone" ] || copy_to_drive_c
     code=0
-    timeout --kill-after=5 "$limit" "${screen[@]}" "$wine" "$program" "${arguments[@]}" \
+    timeout --kill-after=5 "$limit" "${screen[@]}" "$wine" "$target" "${arguments[@]}" \
         >"$run/stdout.txt" 2>"$run/stderr.txt" </dev/null || code=$?
     stop_wine "$run"
 }
