@@ -146,8 +146,7 @@ esac
 
 echo "== Making the reference"
 rm -rf build/reference
-mkdir -p build
-doxygen docs/Doxyfile >/dev/null
+tools/reference.sh >/dev/null
 cp -r build/reference/html "$work/$name-reference"
 pack_tar "$name-reference"
 
