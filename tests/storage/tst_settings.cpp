@@ -6,8 +6,6 @@
 #include <utilsDll/StorageLocation.h>
 #include <utilsDll/TemporarySettings.h>
 
-#include <QDir>
-#include <QFile>
 #include <QSettings>
 
 #include <memory>
@@ -54,34 +52,26 @@ private Q_SLOTS:
     void operationsReachTheStore_data()
     {
         QTest::addColumn<bool>("temporary");
-        QTest::addColumn<bool>("persistentOnly");
-        QTest::newRow("native store") << false << false;
-        QTest::newRow("temporary file") << true << false;
-        QTest::newRow("native store in every mode") << false << true;
+        QTest::newRow("native store") << false;
+        QTest::newRow("temporary file") << true;
+        QTest::newRow("native store in every mode") << false;
     }
 
     void operationsReachTheStore()
     {
         QFETCH(bool, temporary);
-        QFETCH(bool, persistentOnly);
-        if (temporary || persistentOnly) {
-            CSettings::setTemporarySettings(*m_temporary);
-        }
-        CSettings settings(nullptr, persistentOnly);
+        CSettings settings(nullptr, isPersistentOnly());
         QCOMPARE(settings.usingTemporarySettings(), temporary);
         settings.setValue(text("k"), 7);
-        settings.setValue(QStringLiteral("ключ 日本"), QStringLiteral("значение"));
+        settings.setValue(text("ключ 日本"), text("значение"));
         settings.beginWriteArray(text("list"), 2);
         settings.setArrayIndex(1);
         settings.setValue(text("entry"), text("second"));
         settings.endArray();
         settings.sync();
-        const auto stored = [&](const char* key) {
-            return store(temporary, *m_temporary)->value(text(key)).toString();
-        };
-        QCOMPARE(stored("ключ 日本"), text("значение"));
-        QCOMPARE(stored("list/size"), text("2"));
-        QCOMPARE(stored("list/2/entry"), text("second"));
+        const auto native = store(temporary, *m_temporary);
+        QCOMPARE(native->value(text("ключ 日本")).toString(), text("значение"));
+        QCOMPARE(native->value(text("list/2/entry")).toString(), text("second"));
         QCOMPARE(settings.value(text("k"), 0).toInt(), 7);
         QVERIFY(settings.contains(text("k")) && !settings.contains(text("absent")));
         QCOMPARE(settings.beginReadArray(text("list")), 2);
@@ -100,11 +90,7 @@ private Q_SLOTS:
     void groups()
     {
         QFETCH(bool, temporary);
-        QFETCH(bool, persistentOnly);
-        if (temporary || persistentOnly) {
-            CSettings::setTemporarySettings(*m_temporary);
-        }
-        CSettings settings(nullptr, persistentOnly);
+        CSettings settings(nullptr, isPersistentOnly());
         settings.beginGroup(text("A"));
         QCOMPARE(settings.group(), text("A"));
         QCOMPARE(settings.localKey(text("k")), text(temporary ? "A/k" : "k"));
@@ -178,35 +164,25 @@ private Q_SLOTS:
         CSettings::setTemporarySettings(*m_temporary); // plays no part here
         installedLogger().take();
         QCOMPARE(CSettings::getLanguageFromOstraConfiguration(), QVariant(2)); // nothing stored
-        const auto store = [](const QVariant& code) {
-            QSettings(text("Tolvan"), text("Ostra Collection")).setValue(text("currentLanguage"), code);
-        };
-        for (const QVariant& code : {QVariant(0), QVariant(5), QVariant(12), QVariant(text("13"))}) {
-            store(code);
-            QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toString(), code.toString());
+        for (const int code : {0, 5, 12, 13}) {
+            CSettings::writeLanguageToOstraConfiguration(code);
+            QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toInt(), code);
         }
         QVERIFY(installedLogger().take().isEmpty());
-        store(7);
+        QSettings(text("Tolvan"), text("Ostra Collection")).setValue(text("currentLanguage"), 7);
         QCOMPARE(CSettings::getLanguageFromOstraConfiguration(), QVariant(2));
-        QCOMPARE(
-            installedLogger().take(),
-            QStringList(text(
-                "I TOLVAN_NAMESPACE::CSettings::getLanguageFromOstraConfiguration: OSTRA Collection uses "
-                "the language with code 7 that is not supported by Trelio Frame. English is used "
-                "instead.")));
-        CSettings::writeLanguageToOstraConfiguration(13);
-        QCOMPARE(CSettings::getLanguageFromOstraConfiguration().toInt(), 13);
+        const QString line = text(
+            "I TOLVAN_NAMESPACE::CSettings::getLanguageFromOstraConfiguration: OSTRA Collection uses the "
+            "language with code 7 that is not supported by Trelio Frame. English is used instead.");
+        QCOMPARE(installedLogger().take(), QStringList(line));
     }
 
     void preferencesFile()
     {
-        const QString path = QDir::temp().filePath(QStringLiteral("Präferenzen.ini"));
-        QSettings file(path, QSettings::IniFormat);
-        file.setValue(text("k"), text("v"));
-        file.setValue(text("empty"), QString());
-        file.sync();
+        const QString path = m_temporary->tempSettingsPath();
+        m_temporary->setValue(text("k"), text("v"));
+        m_temporary->setValue(text("empty"), QString());
         TOLVAN_NAMESPACE::CStorageLocation::setPreferencesFilePath(path);
-        CSettings::setTemporarySettings(*m_temporary);
         QCOMPARE(CSettings::getStringFromPreferencesFile(text("k"), text("d")), text("v"));
         QCOMPARE(CSettings::getStringFromPreferencesFile(text("empty"), text("d")), text("d"));
         QCOMPARE(CSettings::getStringFromPreferencesFile(text("absent"), text("d")), text("d"));
@@ -216,6 +192,15 @@ private Q_SLOTS:
     }
 
 private:
+    /// What the row asks for; begins the temporary mode where it plays a part.
+    bool isPersistentOnly() const
+    {
+        const QByteArray row = QTest::currentDataTag();
+        if (row != "native store") {
+            CSettings::setTemporarySettings(*m_temporary);
+        }
+        return row.endsWith("every mode");
+    }
     std::unique_ptr<CTemporarySettings> m_temporary;
 };
 

@@ -6,20 +6,30 @@
 #include <QString>
 #include <QStringList>
 
-/// A logger that stores its lines, each as "level line". Thread-safe.
+#include <utility>
+
+/// A logger that stores its lines, each as "level line", and calls of init(). Thread-safe.
 class RecordingLogger : public ILoggerInterface
 {
 public:
-    void init(const std::string& folder, const std::string& name, char level) override;
-    void log(char level, const char* text) override;
+    void init(const std::string& folder, const std::string&, char level) override
+    {
+        log(level, folder.c_str());
+    }
+    void log(char level, const char* text) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_lines += QString(QLatin1Char(level)) + QLatin1Char(' ') + QString::fromUtf8(text);
+    }
 
     /// Returns the lines since the last call.
-    QStringList take();
-    /// Arguments of the calls of init(), each as "folder|name|level code".
-    QStringList inits() const;
+    QStringList take()
+    {
+        const QMutexLocker lock(&m_mutex);
+        return std::exchange(m_lines, {});
+    }
 
 private:
-    mutable QMutex m_mutex;
+    QMutex m_mutex;
     QStringList m_lines;
-    QStringList m_inits;
 };

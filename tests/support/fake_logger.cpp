@@ -1,13 +1,12 @@
 // A logger library for the tests of the logger start-up. Notes every call in the file "logger.txt" of the
 // working folder. FAKE_LOGGER_NULL makes a variant that returns no logger, FAKE_LOGGER_NO_EXPORT one without
-// the export, FAKE_LOGGER_THROWS and FAKE_LOGGER_THROWS_IN_INIT variants that throw.
+// the export, FAKE_LOGGER_THROWS one whose logger throws.
 
 #include <utilsDll/ILoggerInterface.h>
 
 #include <QtCore/qglobal.h>
 
 #include <fstream>
-#include <stdexcept>
 
 namespace
 {
@@ -17,7 +16,7 @@ class FakeLogger : public ILoggerInterface
 public:
     void init(const std::string& folder, const std::string& name, char level) override
     {
-#if defined(FAKE_LOGGER_THROWS_IN_INIT)
+#if defined(FAKE_LOGGER_THROWS)
         throw 1;
 #endif
         note() << "init " << folder << '|' << name << '|' << int(static_cast<unsigned char>(level)) << '\n';
@@ -37,16 +36,12 @@ private:
 } // namespace
 
 #if defined(FAKE_LOGGER_NO_EXPORT)
-extern "C" Q_DECL_EXPORT ILoggerInterface* somethingElse();
-extern "C" Q_DECL_EXPORT ILoggerInterface* somethingElse()
-#else
+#define loggerInstance somethingElse
+#endif
 extern "C" Q_DECL_EXPORT ILoggerInterface* loggerInstance();
 extern "C" Q_DECL_EXPORT ILoggerInterface* loggerInstance()
-#endif
 {
-#if defined(FAKE_LOGGER_THROWS)
-    throw std::runtime_error("no logger");
-#elif defined(FAKE_LOGGER_NULL)
+#if defined(FAKE_LOGGER_NULL)
     return nullptr;
 #else
     static FakeLogger logger;
