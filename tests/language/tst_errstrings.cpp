@@ -96,8 +96,8 @@ private Q_SLOTS:
 #else
         const char variable[] = "TMPDIR";
         const QTemporaryDir root;
-        const QString folder = root.filePath(QStringLiteral("D:/temp:1"));
-        const QString expected = root.filePath(QStringLiteral("D:\\"));
+        const QString folder = root.filePath(QStringLiteral("𠮷 D:/temp:1"));
+        const QString expected = root.filePath(QStringLiteral("𠮷 D:\\"));
         QVERIFY(QDir().mkpath(folder));
 #endif
         const QByteArray before = qgetenv(variable);
