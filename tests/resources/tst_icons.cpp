@@ -1,8 +1,8 @@
 #include "Contrast.h"
+#include "FileTree.h"
 #include "TestMain.h"
 
 #include <QColor>
-#include <QDirIterator>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPainter>
@@ -14,16 +14,6 @@
 
 namespace
 {
-
-QStringList filesBelow(const QString& folder)
-{
-    QStringList names;
-    for (QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
-        names << QDir(folder).relativeFilePath(files.next());
-    }
-    names.sort();
-    return names;
-}
 
 /// The image of a drawing at its own size unless another is given, on a ground if one is given.
 QImage rendered(const QString& file, QColor ground = Qt::transparent, QSize size = {})
@@ -82,133 +72,127 @@ class IconsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void unchangedFilesAreLeftAlone();
-    void everyDrawingShowsSomethingOfItsOwn();
-    void strokesStandOutInNormalState();
-    void statesDiffer();
-    void cursorsAreVisibleOnEveryPicture();
-    void applicationIconSizes();
+    void initTestCase()
+    {
+        QVERIFY(generate({QStringLiteral("--out"), file({})}));
+        for (const QString& path : FileTree::filesBelow(file({}))) {
+            m_names << QDir(file({})).relativeFilePath(path);
+        }
+        QCOMPARE(m_names.size(), 349);
+        const QJsonObject palette =
+            QJsonDocument::fromJson(FileTree::read(QStringLiteral(ICON_PALETTE))).object();
+        m_ground = QColor(palette.value(QLatin1String("ground")).toString());
+        QVERIFY(m_ground.isValid());
+    }
+
+    void unchangedFilesAreLeftAlone()
+    {
+        const QDateTime old = QDateTime::currentDateTime().addDays(-1);
+        QFile kept(file(m_names.last()));
+        QVERIFY(kept.open(QIODevice::ReadWrite) && kept.setFileTime(old, QFileDevice::FileModificationTime));
+        QFile damaged(file(m_names.first()));
+        const qint64 size = damaged.size();
+        QVERIFY(damaged.resize(0));
+        QVERIFY(generate({QStringLiteral("--out"), file({})}));
+        QCOMPARE(QFileInfo(damaged).size(), size);
+        QVERIFY(qAbs(QFileInfo(kept).lastModified().secsTo(old)) <= 1);
+    }
+
+    void everyDrawingShowsSomethingOfItsOwn()
+    {
+        QHash<QByteArray, QString> seen;
+        for (const QString& name : qAsConst(m_names)) {
+            const QSvgRenderer renderer(file(name));
+            const QSize size = renderer.defaultSize();
+            QVERIFY2(renderer.isValid() &&
+                         renderer.viewBox().size().scaled(size, Qt::KeepAspectRatio) == size,
+                     qPrintable(name));
+            // At one common size, so that a copy does not pass for another image by its size.
+            const QImage image = rendered(file(name), Qt::transparent, {64, 64});
+            int visible = 0;
+            eachPixel(image, image.rect(), [&](QPoint, QRgb pixel) { visible += qAlpha(pixel) >= 64; });
+            QVERIFY2(visible >= 8, qPrintable(name));
+            const QByteArray bytes(reinterpret_cast<const char*>(image.constBits()),
+                                   int(image.sizeInBytes()));
+            QVERIFY2(!seen.contains(bytes), qPrintable(name + QStringLiteral(" = ") + seen.value(bytes)));
+            seen.insert(bytes, name);
+        }
+    }
+
+    void strokesStandOutInNormalState()
+    {
+        for (const QString& name : qAsConst(m_names)) {
+            const bool shade =
+                name.contains(QLatin1String("hadow")) || name.contains(QLatin1String("backdrop"));
+            if (!shade && withoutState(name) + QStringLiteral(".svg") == name) {
+                QVERIFY2(strokeContrast(file(name), m_ground) >= 3, qPrintable(name));
+            }
+        }
+    }
+
+    void statesDiffer()
+    {
+        QMultiHash<QString, QString> groups;
+        for (const QString& name : qAsConst(m_names)) {
+            for (const QString& other : groups.values(withoutState(name))) {
+                const double found =
+                    difference(rendered(file(name), m_ground), rendered(file(other), m_ground), m_ground);
+                QVERIFY2(found >= 20, qPrintable(name + QLatin1Char(' ') + other));
+            }
+            groups.insert(withoutState(name), name);
+        }
+        QVERIFY(groups.uniqueKeys().size() < m_names.size() / 2); // most images have states
+    }
+
+    void cursorsAreVisibleOnEveryPicture()
+    {
+        for (const QString& name : m_names.filter(QStringLiteral("cusors_"))) {
+            const QImage image = rendered(file(name));
+            QCOMPARE(image.size(), QSize(23, 24));
+            eachPixel(image, image.rect(),
+                      [&](QPoint at, QRgb pixel) { // a cursor that is cut is solid at the edge
+                          const bool edge = !image.rect().adjusted(1, 1, -1, -1).contains(at);
+                          QVERIFY2(!edge || qAlpha(pixel) <= 64, qPrintable(name));
+                      });
+            for (const QColor& ground : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::gray)}) {
+                QVERIFY2(strokeContrast(file(name), ground) >= 4.5, qPrintable(name + ground.name()));
+            }
+        }
+    }
+
+    void applicationIconSizes()
+    {
+        const QString folder = m_folder.filePath(QStringLiteral("logo"));
+        QVERIFY(generate({QStringLiteral("--logo-out"), folder}));
+        const auto logo = [&](int size) {
+            return QImage(QStringLiteral("%1/logo_%2.png").arg(folder).arg(size));
+        };
+        for (const int size : {16, 32, 48, 96, 128, 256, 512, 1024}) {
+            QCOMPARE(logo(size).size(), QSize(size, size));
+            QVERIFY(qAlpha(logo(size).pixel(0, 0)) < 255); // round corners
+            QCOMPARE(qAlpha(logo(size).pixel(size / 2, size / 2)), 255);
+        }
+        for (const int size : {16, 32}) { // drawings of their own, not the master made small
+            const QImage scaled =
+                logo(1024).scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            QVERIFY(difference(logo(size), scaled.convertToFormat(logo(size).format()), m_ground) > 10);
+        }
+    }
 
 private:
-    bool generate(const QStringList& arguments) const;
+    bool generate(const QStringList& arguments) const
+    {
+        QProcess python;
+        python.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        python.start(QStringLiteral(PYTHON), QStringList{QStringLiteral(ICON_TOOL)} + arguments);
+        return python.waitForFinished(60000) && python.exitCode() == 0;
+    }
     QString file(const QString& name) const { return m_folder.filePath(QStringLiteral("icons/") + name); }
 
     QTemporaryDir m_folder;
     QStringList m_names;
     QColor m_ground;
 };
-
-bool IconsTest::generate(const QStringList& arguments) const
-{
-    QProcess python;
-    python.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    python.start(QStringLiteral(PYTHON), QStringList{QStringLiteral(ICON_TOOL)} + arguments);
-    return python.waitForFinished(60000) && python.exitCode() == 0;
-}
-
-void IconsTest::initTestCase()
-{
-    QVERIFY(generate({QStringLiteral("--out"), file({})}));
-    m_names = filesBelow(file({}));
-    QCOMPARE(m_names.size(), 349);
-    QFile palette(QStringLiteral(ICON_PALETTE));
-    QVERIFY(palette.open(QIODevice::ReadOnly));
-    m_ground =
-        QColor(QJsonDocument::fromJson(palette.readAll()).object().value(QLatin1String("ground")).toString());
-    QVERIFY(m_ground.isValid());
-}
-
-void IconsTest::unchangedFilesAreLeftAlone()
-{
-    const QDateTime old = QDateTime::currentDateTime().addDays(-1);
-    QFile kept(file(m_names.last()));
-    QVERIFY(kept.open(QIODevice::ReadWrite) && kept.setFileTime(old, QFileDevice::FileModificationTime));
-    kept.close();
-    QFile damaged(file(m_names.first()));
-    const qint64 size = damaged.size();
-    QVERIFY(damaged.resize(0));
-    QVERIFY(generate({QStringLiteral("--out"), file({})}));
-    QCOMPARE(QFileInfo(damaged).size(), size);
-    QVERIFY(qAbs(QFileInfo(kept).lastModified().secsTo(old)) <= 1);
-}
-
-void IconsTest::everyDrawingShowsSomethingOfItsOwn()
-{
-    QHash<QByteArray, QString> seen;
-    for (const QString& name : qAsConst(m_names)) {
-        const QSvgRenderer renderer(file(name));
-        const QSize size = renderer.defaultSize();
-        QVERIFY2(renderer.isValid() && renderer.viewBox().size().scaled(size, Qt::KeepAspectRatio) == size,
-                 qPrintable(name));
-        // At one common size, so that a copy does not pass for another image by its size.
-        const QImage image = rendered(file(name), Qt::transparent, {64, 64});
-        int visible = 0;
-        eachPixel(image, image.rect(), [&](QPoint, QRgb pixel) { visible += qAlpha(pixel) >= 64; });
-        QVERIFY2(visible >= 8, qPrintable(name));
-        const QByteArray bytes(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()));
-        QVERIFY2(!seen.contains(bytes), qPrintable(name + QStringLiteral(" = ") + seen.value(bytes)));
-        seen.insert(bytes, name);
-    }
-}
-
-void IconsTest::strokesStandOutInNormalState()
-{
-    for (const QString& name : qAsConst(m_names)) {
-        const bool shade = name.contains(QLatin1String("hadow")) || name.contains(QLatin1String("backdrop"));
-        if (!shade && withoutState(name) + QStringLiteral(".svg") == name) {
-            QVERIFY2(strokeContrast(file(name), m_ground) >= 3, qPrintable(name));
-        }
-    }
-}
-
-void IconsTest::statesDiffer()
-{
-    QMultiHash<QString, QString> groups;
-    for (const QString& name : qAsConst(m_names)) {
-        for (const QString& other : groups.values(withoutState(name))) {
-            const double found =
-                difference(rendered(file(name), m_ground), rendered(file(other), m_ground), m_ground);
-            QVERIFY2(found >= 20, qPrintable(name + QLatin1Char(' ') + other));
-        }
-        groups.insert(withoutState(name), name);
-    }
-    QVERIFY(groups.uniqueKeys().size() < m_names.size() / 2); // most images have states
-}
-
-void IconsTest::cursorsAreVisibleOnEveryPicture()
-{
-    for (const QString& name : m_names.filter(QStringLiteral("cusors_"))) {
-        const QImage image = rendered(file(name));
-        QCOMPARE(image.size(), QSize(23, 24));
-        eachPixel(image, image.rect(),
-                  [&](QPoint at, QRgb pixel) { // a cursor that is cut is solid at the edge
-                      const bool edge = !image.rect().adjusted(1, 1, -1, -1).contains(at);
-                      QVERIFY2(!edge || qAlpha(pixel) <= 64, qPrintable(name));
-                  });
-        for (const QColor& ground : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::gray)}) {
-            QVERIFY2(strokeContrast(file(name), ground) >= 4.5, qPrintable(name + ground.name()));
-        }
-    }
-}
-
-void IconsTest::applicationIconSizes()
-{
-    const QString folder = m_folder.filePath(QStringLiteral("logo"));
-    QVERIFY(generate({QStringLiteral("--logo-out"), folder}));
-    const auto logo = [&](int size) {
-        return QImage(QStringLiteral("%1/logo_%2.png").arg(folder).arg(size));
-    };
-    for (const int size : {16, 32, 48, 96, 128, 256, 512, 1024}) {
-        QCOMPARE(logo(size).size(), QSize(size, size));
-        QVERIFY(qAlpha(logo(size).pixel(0, 0)) < 255); // round corners
-        QCOMPARE(qAlpha(logo(size).pixel(size / 2, size / 2)), 255);
-    }
-    for (const int size : {16, 32}) { // drawings of their own, not the master made small
-        const QImage scaled = logo(1024).scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        QVERIFY(difference(logo(size), scaled.convertToFormat(logo(size).format()), m_ground) > 10);
-    }
-}
 
 TOLVAN_GUI_TEST_MAIN(IconsTest)
 #include "tst_icons.moc"

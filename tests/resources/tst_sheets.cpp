@@ -36,171 +36,162 @@ class SheetsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase()
+    {
+        QApplication::setStyle(new CustomTolvanAppStyle);
+        loadFonts();
+    }
     void init() { setPredefinedAppStyleSheet(QString(), qApp); }
-    void fieldsHaveVisibleBorders();
-    void fieldsAreAsHighAsButtons();
-    void placeholdersAreSofterThanText();
-    void chosenAndHoveredRowsDiffer();
-    void popUpRowsAreAsHighAsListRows();
-    void headersStandAboveTheirCells();
-    void dialsShowTheirValue();
-    void checkedPicturesAreSharp();
-    void crashReporterHasItsFont();
-};
 
-void SheetsTest::initTestCase()
-{
-    QApplication::setStyle(new CustomTolvanAppStyle);
-    loadFonts();
-}
-
-void SheetsTest::fieldsHaveVisibleBorders()
-{
-    const auto check = [](QWidget* field) {
+    void fieldsHaveVisibleBorders()
+    {
         QWidget window;
-        field->setParent(&window);
-        field->setFocusPolicy(Qt::NoFocus);
-        field->setGeometry(10, 10, 80, 40);
+        QWidget* const fields[] = {new QLineEdit(&window), new QTextEdit(&window), new QListWidget(&window),
+                                   new QComboBox(&window)};
+        int y = 10;
+        for (QWidget* const field : fields) {
+            field->setFocusPolicy(Qt::NoFocus);
+            field->setGeometry(10, y, 80, 40);
+            y += 50;
+        }
         const QImage image = shown(window);
-        const qreal scale = image.devicePixelRatio();
-        const QRgb border = image.pixel(QPoint(qRound(10 * scale), qRound(30 * scale)));
-        QVERIFY2(contrast(border, ground.rgb()) >= 3, field->metaObject()->className());
-    };
-    check(new QLineEdit);
-    check(new QTextEdit);
-    check(new QPlainTextEdit);
-    check(new QListWidget);
-    check(new QComboBox);
-}
+        for (QWidget* const field : fields) {
+            const QPoint left(field->x(), field->y() + 20);
+            const QRgb border = image.pixel(left * image.devicePixelRatio());
+            QVERIFY2(contrast(border, ground.rgb()) >= 3, field->metaObject()->className());
+        }
+    }
 
-void SheetsTest::fieldsAreAsHighAsButtons()
-{
-    const auto height = [](QWidget&& widget) {
-        widget.setFont(QFont(QStringLiteral("Roboto"), 9));
-        widget.ensurePolished();
-        return widget.sizeHint().height();
-    };
-    QCOMPARE(height(QPushButton(QStringLiteral("Text"))), 28);
-    QCOMPARE(height(QLineEdit()), 28);
-    QCOMPARE(height(QComboBox()), 28);
-    QCOMPARE(height(QDateEdit()), 28);
-}
+    void fieldsAreAsHighAsButtons()
+    {
+        const auto height = [](QWidget&& widget) {
+            widget.setFont(QFont(QStringLiteral("Roboto"), 9));
+            widget.ensurePolished();
+            return widget.sizeHint().height();
+        };
+        QCOMPARE(height(QPushButton(QStringLiteral("Text"))), 28);
+        QCOMPARE(height(QLineEdit()), 28);
+        QCOMPARE(height(QComboBox()), 28);
+        QCOMPARE(height(QDateEdit()), 28);
+    }
 
-void SheetsTest::placeholdersAreSofterThanText()
-{
-    QPlainTextEdit field;
-    field.setCursorWidth(0);
-    field.setPlaceholderText(QStringLiteral("HHHH"));
-    const QImage placeholder = shown(field);
-    field.setPlainText(QStringLiteral("HHHH"));
-    const QImage text = shown(field);
-    const QRect inside = text.rect().adjusted(8, 8, -8, -8);
-    QVERIFY(contrast(brightest(text, inside), brightest(placeholder, inside)) > 1.5);
-    QVERIFY(contrast(brightest(placeholder, inside), text.pixel(inside.bottomRight())) >= 4.5);
-}
+    void placeholdersAreSofterThanText()
+    {
+        QPlainTextEdit field;
+        field.setCursorWidth(0);
+        field.setPlaceholderText(QStringLiteral("HHHH"));
+        const QImage placeholder = shown(field);
+        field.setPlainText(QStringLiteral("HHHH"));
+        const QImage text = shown(field);
+        const QRect inside = text.rect().adjusted(8, 8, -8, -8);
+        QVERIFY(contrast(brightest(text, inside), brightest(placeholder, inside)) > 1.5);
+        QVERIFY(contrast(brightest(placeholder, inside), text.pixel(inside.bottomRight())) >= 4.5);
+    }
 
-void SheetsTest::chosenAndHoveredRowsDiffer()
-{
-    QListWidget list;
-    list.addItem(QStringLiteral("HHHH"));
-    list.ensurePolished();
-    const auto textColour = [&list](QStyle::State state) {
-        QImage image(120, 28, QImage::Format_RGB32);
-        QPainter painter(&image);
-        QStyleOptionViewItem option;
-        option.initFrom(&list);
-        option.widget = &list;
-        option.rect = image.rect();
-        option.state = QStyle::State_Enabled | state;
-        list.itemDelegate()->paint(&painter, option, list.model()->index(0, 0));
-        return QColor(brightest(image, image.rect()));
-    };
-    const QColor chosen = textColour(QStyle::State_Selected); // in a list without focus
-    const QColor hovered = textColour(QStyle::State_MouseOver | QStyle::State_Active);
-    QVERIFY2(qAbs(chosen.red() - hovered.red()) > 50, qPrintable(chosen.name() + hovered.name()));
-}
+    void chosenAndHoveredRowsDiffer()
+    {
+        QListWidget list;
+        list.addItem(QStringLiteral("HHHH"));
+        list.ensurePolished();
+        const auto textColour = [&list](QStyle::State state) {
+            QImage image(120, 28, QImage::Format_RGB32);
+            QPainter painter(&image);
+            QStyleOptionViewItem option;
+            option.initFrom(&list);
+            option.widget = &list;
+            option.rect = image.rect();
+            option.state = QStyle::State_Enabled | state;
+            list.itemDelegate()->paint(&painter, option, list.model()->index(0, 0));
+            return QColor(brightest(image, image.rect()));
+        };
+        const QColor chosen = textColour(QStyle::State_Selected); // in a list without focus
+        const QColor hovered = textColour(QStyle::State_MouseOver | QStyle::State_Active);
+        QVERIFY2(qAbs(chosen.red() - hovered.red()) > 50, qPrintable(chosen.name() + hovered.name()));
+    }
 
-void SheetsTest::popUpRowsAreAsHighAsListRows()
-{
-    QListWidget list;
-    QComboBox box;
-    list.addItem(QStringLiteral("Row"));
-    box.addItem(QStringLiteral("Row"));
-    box.insertSeparator(1);
-    shown(list);
-    shown(box);
-    QCOMPARE(box.view()->sizeHintForRow(0), list.sizeHintForRow(0));
-    QVERIFY(box.view()->sizeHintForRow(1) < 12);
-    const QPointer<QAbstractItemDelegate> ours = box.view()->itemDelegate();
-    QApplication::setStyle(new CustomTolvanAppStyle); // the old style goes, and nothing of it may stay
-    QVERIFY(!ours && box.view()->itemDelegate());
-}
+    void popUpRowsAreAsHighAsListRows()
+    {
+        QListWidget list;
+        QComboBox box;
+        list.addItem(QStringLiteral("Row"));
+        box.addItem(QStringLiteral("Row"));
+        box.insertSeparator(1);
+        shown(list);
+        shown(box);
+        QCOMPARE(box.view()->sizeHintForRow(0), list.sizeHintForRow(0));
+        QVERIFY(box.view()->sizeHintForRow(1) < 12);
+        const QPointer<QAbstractItemDelegate> ours = box.view()->itemDelegate();
+        QApplication::setStyle(new CustomTolvanAppStyle); // the old style goes, and nothing of it may stay
+        QVERIFY(!ours && box.view()->itemDelegate());
+    }
 
-void SheetsTest::headersStandAboveTheirCells()
-{
-    QTableWidget table(1, 1);
-    table.setFocusPolicy(Qt::NoFocus);
-    table.setHorizontalHeaderLabels({QStringLiteral("HH")});
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("HH")));
-    const QRect header(QPoint(), QSize(80, table.horizontalHeader()->height() - 4));
-    shown(table);
-    const auto offset = [](QWidget* view, const QRect& area) { // of the text, in device pixels
-        const QImage image = view->grab(area).toImage();
-        int first = image.width();
-        eachPixel(image, image.rect(), [&](QPoint at, QRgb pixel) {
-            first = contrast(pixel, ground.rgb()) > 7 ? qMin(first, at.x()) : first;
-        });
-        return first;
-    };
-    QCOMPARE(offset(table.horizontalHeader()->viewport(), header),
-             offset(table.viewport(), table.visualRect(table.model()->index(0, 0)).adjusted(0, 2, -2, -2)));
-}
+    void headersStandAboveTheirCells()
+    {
+        QTableWidget table(1, 1);
+        table.setFocusPolicy(Qt::NoFocus);
+        table.setHorizontalHeaderLabels({QStringLiteral("HH")});
+        table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("HH")));
+        const QRect header(QPoint(), QSize(80, table.horizontalHeader()->height() - 4));
+        shown(table);
+        const auto offset = [](QWidget* view, const QRect& area) { // of the text, in device pixels
+            const QImage image = view->grab(area).toImage();
+            int first = image.width();
+            eachPixel(image, image.rect(), [&](QPoint at, QRgb pixel) {
+                first = contrast(pixel, ground.rgb()) > 7 ? qMin(first, at.x()) : first;
+            });
+            return first;
+        };
+        QCOMPARE(
+            offset(table.horizontalHeader()->viewport(), header),
+            offset(table.viewport(), table.visualRect(table.model()->index(0, 0)).adjusted(0, 2, -2, -2)));
+    }
 
-void SheetsTest::dialsShowTheirValue()
-{
-    const auto lit = [](int value) {
-        QDial dial;
-        dial.setFocusPolicy(Qt::NoFocus);
-        dial.setValue(value);
-        dial.resize(64, 64);
-        const QImage image = shown(dial);
-        int pixels = 0;
-        eachPixel(image, image.rect(),
-                  [&](QPoint, QRgb pixel) { pixels += qBlue(pixel) - qRed(pixel) > 100; });
-        return pixels;
-    };
-    QVERIFY(lit(50) > 2 * lit(10));
-    QVERIFY(lit(99) > 3 * lit(50) / 2);
-}
+    void dialsShowTheirValue()
+    {
+        const auto lit = [](int value) {
+            QDial dial;
+            dial.setFocusPolicy(Qt::NoFocus);
+            dial.setValue(value);
+            dial.resize(64, 64);
+            const QImage image = shown(dial);
+            int pixels = 0;
+            eachPixel(image, image.rect(),
+                      [&](QPoint, QRgb pixel) { pixels += qBlue(pixel) - qRed(pixel) > 100; });
+            return pixels;
+        };
+        QVERIFY(lit(50) > 2 * lit(10));
+        QVERIFY(lit(99) > 3 * lit(50) / 2);
+    }
 
-void SheetsTest::checkedPicturesAreSharp()
-{
-    QWidget column;
-    column.setObjectName(QStringLiteral("settingsCategories"));
-    QPushButton button(&column);
-    button.setObjectName(QStringLiteral("generalButton"));
-    button.setCheckable(true);
-    button.setChecked(true);
-    button.resize(60, 44);
-    const QImage image = shown(column);
-    QCOMPARE(image.devicePixelRatio(), 2.0);
-    const QImage picture =
-        QIcon(QStringLiteral(":/icons/settingsPanel/settings_general_checked.svg")).pixmap(48, 48).toImage();
-    QVERIFY(brightest(picture, picture.rect()) == qRgb(255, 255, 255));
-    const QRect inside(QPoint(16, 16), QSize(100, 56));            // without the bar at the left
-    QCOMPARE(QColor(brightest(image, inside)), QColor(Qt::white)); // its knobs, at full strength
-}
+    void checkedPicturesAreSharp()
+    {
+        QWidget column;
+        column.setObjectName(QStringLiteral("settingsCategories"));
+        QPushButton button(&column);
+        button.setObjectName(QStringLiteral("generalButton"));
+        button.setCheckable(true);
+        button.setChecked(true);
+        button.resize(60, 44);
+        const QImage image = shown(column);
+        QCOMPARE(image.devicePixelRatio(), 2.0);
+        const QImage picture = QIcon(QStringLiteral(":/icons/settingsPanel/settings_general_checked.svg"))
+                                   .pixmap(48, 48)
+                                   .toImage();
+        QVERIFY(brightest(picture, picture.rect()) == qRgb(255, 255, 255));
+        const QRect inside(QPoint(16, 16), QSize(100, 56));            // without the bar at the left
+        QCOMPARE(QColor(brightest(image, inside)), QColor(Qt::white)); // its knobs, at full strength
+    }
 
-void SheetsTest::crashReporterHasItsFont()
-{
-    setAppStyleSheet({QStringLiteral(":/qss/crash_sender.qss")}, qApp);
-    QDialog dialog;
-    QLabel label(&dialog);
-    label.ensurePolished();
-    QCOMPARE(label.font().families().value(0), QStringLiteral("Lucida Sans Unicode"));
-}
+    void crashReporterHasItsFont()
+    {
+        setAppStyleSheet({QStringLiteral(":/qss/crash_sender.qss")}, qApp);
+        QDialog dialog;
+        QLabel label(&dialog);
+        label.ensurePolished();
+        QCOMPARE(label.font().families().value(0), QStringLiteral("Lucida Sans Unicode"));
+    }
+};
 
 int main(int argc, char* argv[])
 {
