@@ -7,6 +7,7 @@ usage() {
 Usage: tools/install-deps.sh GROUP...
   build    compile the library and the showcase, and run it
   test     run the tests
+  qt6      the same with Qt 6
   windows  cross-build for 64-bit Windows and run the result under Wine
   sdk      make the Windows build of Qt (tools/win64/build-sdk.sh)
   bench    build and run the benchmark programs with their peers
@@ -34,6 +35,10 @@ packages_of() {
         echo php-cli php-soap gsoap libgsoap-dev openssl
         # what reads and writes archives and the trash beside us
         echo zip unzip p7zip-full libarchive-tools libglib2.0-bin gvfs gvfs-daemons trash-cli dbus
+        ;;
+    qt6)
+        echo qt6-base-dev qt6-base-private-dev qt6-svg-dev libqt6svg6 libquazip1-qt6-dev qt6-5compat-dev
+        echo qt6-l10n-tools qt6-translations-l10n
         ;;
     windows)
         echo g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 xvfb openbox xz-utils

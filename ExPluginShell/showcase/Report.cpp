@@ -1,6 +1,6 @@
 #include "Report.h"
 
-#include <QTextStream>
+#include <cstdio>
 
 namespace
 {
@@ -9,9 +9,8 @@ constexpr int nameWidth = 38;
 
 void print(const QString& text)
 {
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
-    out << text << '\n';
+    const QByteArray line = text.toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout);
 }
 
 } // namespace

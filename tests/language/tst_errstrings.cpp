@@ -34,8 +34,7 @@ QString drive()
 std::unique_ptr<QTranslator> installed(const QString& language)
 {
     auto translator = std::make_unique<QTranslator>();
-    if (!language.isEmpty()) {
-        translator->load(QStringLiteral(":/translations/tolvan_%1.qm").arg(language));
+    if (translator->load(QStringLiteral(":/translations/tolvan_%1.qm").arg(language))) {
         QCoreApplication::installTranslator(translator.get());
     }
     return translator;

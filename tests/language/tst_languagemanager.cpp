@@ -253,6 +253,9 @@ private Q_SLOTS:
         if (!QFontDatabase().families().contains(QStringLiteral("Noto Sans CJK SC"))) {
             QSKIP("needs the Noto CJK fonts");
         }
+        if (qVersion()[0] != '5') {
+            QSKIP("Qt 6 keeps the fallback fonts that it found first");
+        }
         CLanguageManager manager;
         manager.loadLanguages();
         QLabel plain, styled;

@@ -3,6 +3,7 @@
 #include <quazip/quacrc32.h>
 
 #include <QDataStream>
+#include <QIODevice>
 
 #include <zlib.h>
 

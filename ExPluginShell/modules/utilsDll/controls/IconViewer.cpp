@@ -1,5 +1,7 @@
 #include "controls/IconViewer.h"
 
+#include "frame/QtVersion.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 
@@ -12,9 +14,7 @@ namespace
 /// Returns the icon in \a size device pixels, or smaller if it has no larger bitmap.
 QPixmap devicePixmap(const QIcon& icon, const QSize& size, QIcon::Mode mode)
 {
-    // With this attribute QIcon multiplies the requested size by the application's ratio.
-    const bool enlarges = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
-    const qreal enlargement = enlarges ? qGuiApp->devicePixelRatio() : 1.0;
+    const qreal enlargement = QtVersion::iconsUseDevicePixels() ? qGuiApp->devicePixelRatio() : 1.0;
     QPixmap pixmap = icon.pixmap((QSizeF(size) / enlargement).toSize(), mode);
     pixmap.setDevicePixelRatio(1.0);
     return pixmap;

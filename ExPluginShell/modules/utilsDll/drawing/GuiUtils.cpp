@@ -1,12 +1,12 @@
 #include "GuiUtils.h"
 
 #include "frame/Logging.h"
+#include "frame/QtVersion.h"
 #include "platform/Display.h"
 #include "platform/WindowMenu.h"
 
 #include <QApplication>
 #include <QCursor>
-#include <QDesktopWidget>
 #include <QEnterEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -69,12 +69,11 @@ void moveWindowToScreenCenter(QWidget* window, QWidget* parent)
         reportMisplacedWindow(116, "Bug!!!");
         return;
     }
-    const QDesktopWidget* const desktop = QApplication::desktop();
-    if (!desktop) {
+    if (!QtVersion::hasDesktop()) {
         reportMisplacedWindow(111, "desktop is unavailable");
         return;
     }
-    const QRect screen = parent ? desktop->screenGeometry(parent) : defaultScreenGeometry();
+    const QRect screen = parent ? QtVersion::screenGeometry(*parent) : defaultScreenGeometry();
     if (parent && !screen.isValid()) {
         reportMisplacedWindow(90, "wrong screen geometry of parent widget");
     }

@@ -35,7 +35,7 @@ bool cutAtEdge(const QLineF& line, QPointF& outside, const QRectF& clip, int sou
                             {clip.bottomRight(), clip.bottomLeft()}};
     for (const QLineF& edge : edges) {
         QPointF crossing;
-        if (line.intersect(edge, &crossing) == QLineF::BoundedIntersection) {
+        if (line.intersects(edge, &crossing) == QLineF::BoundedIntersection) {
             outside = crossing;
             return true;
         }

@@ -101,7 +101,9 @@ void CLanguageManager::loadLanguages()
     for (const QString& fileName : fileNames) {
         const QString path = translationsFolder() + fileName;
         QTranslator translator;
-        translator.load(path);
+        if (!translator.load(path)) {
+            continue;
+        }
         const QString name = translator.translate(catalogueContext, catalogueKeys[0]);
         const QString number = translator.translate(catalogueContext, catalogueKeys[1]);
         if (!name.isEmpty() && !number.isEmpty()) {
@@ -215,7 +217,7 @@ void CLanguageManager::setCurrentLanguageNumber(unsigned number)
 QTranslator* CLanguageManager::installTranslator(const QString& path)
 {
     auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
-    translator->load(path);
+    static_cast<void>(translator->load(path)); // one without a catalogue leaves every text as it is
     QCoreApplication::installTranslator(translator.get());
     // Without an application object, which Qt warns about, nothing else would delete it.
     return QCoreApplication::instance() ? translator.release() : nullptr;

@@ -55,9 +55,9 @@ QString inHighContrast(const QString& sheet)
     int end = 0;
     for (auto matches = colour.globalMatch(sheet); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        result += sheet.midRef(end, match.capturedStart() - end);
+        result.append(sheet.constData() + end, match.capturedStart() - end);
         end = match.capturedEnd();
-        if (match.capturedRef(1).isEmpty()) {
+        if (match.captured(1).isEmpty()) {
             result += highContrastColour(QColor(match.captured())).name();
         } else {
             const QColor now = highContrastColour(
@@ -65,7 +65,7 @@ QString inHighContrast(const QString& sheet)
             result += QStringLiteral("rgba(%1, %2, %3").arg(now.red()).arg(now.green()).arg(now.blue());
         }
     }
-    return result + sheet.midRef(end);
+    return result + sheet.mid(end);
 }
 
 } // namespace

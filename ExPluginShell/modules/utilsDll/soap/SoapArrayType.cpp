@@ -19,8 +19,8 @@ QVector<int> bracketed(const QString& text)
     if (text.size() < 2 || !text.startsWith(QLatin1Char('[')) || !text.endsWith(QLatin1Char(']'))) {
         return result;
     }
-    const auto places = text.midRef(1, text.size() - 2).split(QLatin1Char(','));
-    for (const QStringRef& place : places) {
+    const auto places = QStringView(text).mid(1, text.size() - 2).split(QLatin1Char(','));
+    for (const QStringView place : places) {
         bool ok = false;
         const int number = place.trimmed().isEmpty() ? -1 : place.trimmed().toInt(&ok);
         if (!place.trimmed().isEmpty() && (!ok || number < 0)) {

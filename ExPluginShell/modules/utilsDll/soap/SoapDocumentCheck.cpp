@@ -46,7 +46,7 @@ SoapDocumentCheck::SoapDocumentCheck(const QByteArray& document, const QtSoapLim
     memory = document.size() + utf8.size() + text;
 }
 
-bool isSoapEncoding(const QStringRef& encoding)
+bool isSoapEncoding(QStringView encoding)
 {
     const QString name = encoding.toString().toLower();
     return name.isEmpty() || name == QLatin1String("utf-8") || name == QLatin1String("utf8") ||

@@ -26,6 +26,6 @@ QString documentTypeRefusal();
 ///
 /// In the encodings accepted the bytes of '<', '>' and the quotes stand for nothing else: the check above relies
 /// on that.
-bool isSoapEncoding(const QStringRef& encoding);
+bool isSoapEncoding(QStringView encoding);
 
 } // namespace TOLVAN_NAMESPACE

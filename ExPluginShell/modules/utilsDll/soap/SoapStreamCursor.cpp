@@ -74,10 +74,10 @@ SoapXmlCursor::Token SoapStreamCursor::failHere(const QString& error)
     return Token::Error;
 }
 
-QString SoapStreamCursor::shared(const QStringRef& name)
+QString SoapStreamCursor::shared(QStringView name)
 {
     constexpr int MaximumShared = 4096; // a document of ever new names shall not fill the table
-    const QString key = QString::fromRawData(name.unicode(), name.size());
+    const QString key = QString::fromRawData(name.data(), static_cast<int>(name.size()));
     const auto known = m_names.constFind(key);
     if (known != m_names.constEnd()) {
         return *known;
@@ -161,8 +161,8 @@ SoapXmlCursor::Token SoapStreamCursor::next()
 QString SoapStreamCursor::text() const
 {
     // not toString(): that would share, and keep alive, the reader's buffer of 256 characters and more
-    const QStringRef piece = m_reader.text();
-    return QString(piece.unicode(), piece.size());
+    const QStringView piece = m_reader.text();
+    return QString(piece.data(), static_cast<int>(piece.size()));
 }
 
 QDomElement SoapStreamCursor::takeElement()

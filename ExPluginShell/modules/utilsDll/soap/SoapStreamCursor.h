@@ -24,7 +24,7 @@ private:
     bool feed();
     Token advance();
     Token failHere(const QString& error);
-    QString shared(const QStringRef& name);
+    QString shared(QStringView name);
 
     QByteArray m_document;
     int m_fed = 0; ///< number of bytes that the reader has

@@ -109,7 +109,7 @@ QVariant toVariant(QtSoapType::Type type, const QString& text)
 
 QString lexical(QtSoapType::Type type, const QVariant& value)
 {
-    switch (static_cast<QMetaType::Type>(value.type())) {
+    switch (value.userType()) {
     case QMetaType::QByteArray: {
         const QByteArray bytes = value.toByteArray();
         return QString::fromLatin1(type == QtSoapType::HexBinary ? bytes.toHex().toUpper()
@@ -134,7 +134,7 @@ QString lexical(QtSoapType::Type type, const QVariant& value)
 
 QString fromVariant(const QVariant& value)
 {
-    const auto type = static_cast<QMetaType::Type>(value.type());
+    const int type = value.userType();
     if (type == QMetaType::Double || type == QMetaType::Float) {
         const double number = value.toDouble();
         if (std::isnan(number)) {

@@ -213,7 +213,7 @@ bool SoapValueReader::pack(QtSoapArray& result, int position, const QtSoapType& 
         result.m_run = std::make_shared<SoapItemRun>();
     }
     const auto& simple = static_cast<const QtSoapSimpleType&>(item);
-    const bool keepsText = simple.v.type() == QVariant::String;
+    const bool keepsText = simple.v.userType() == QMetaType::QString;
     result.m_run->append(simple);
     result.lastIndex = position;
     m_cursor.spend(SoapLimits::RunItemBytes - SoapLimits::ValueBytes -

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QRect>
+#include <QScreen>
+#include <QtGlobal>
+#include <QWidget>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QApplication>
+#include <QDesktopWidget>
+#endif
+
+/// What differs between Qt 5.15 and Qt 6. No other file of the library asks for the version of Qt. Internal, not
+/// installed.
+namespace TOLVAN_NAMESPACE::QtVersion
+{
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
+inline bool hasDesktop()
+{
+    return QApplication::desktop() != nullptr;
+}
+
+/// Returns the geometry of the screen that shows the largest part of \a widget, in logical pixels.
+inline QRect screenGeometry(const QWidget& widget)
+{
+    return QApplication::desktop()->screenGeometry(&widget);
+}
+
+/// Returns whether QIcon::pixmap() multiplies the requested size by the application's ratio.
+inline bool iconsUseDevicePixels()
+{
+    return QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+#else
+
+inline bool hasDesktop()
+{
+    return QGuiApplication::primaryScreen() != nullptr;
+}
+
+inline QRect screenGeometry(const QWidget& widget)
+{
+    const QRect frame =
+        widget.isWindow() ? widget.frameGeometry() : QRect(widget.mapToGlobal(QPoint()), widget.size());
+    const QScreen* const beneath = QGuiApplication::screenAt(frame.center());
+    const QScreen* const screen = beneath ? beneath : widget.screen();
+    return screen ? screen->geometry() : QRect();
+}
+
+inline bool iconsUseDevicePixels()
+{
+    return true;
+}
+
+#endif
+
+} // namespace TOLVAN_NAMESPACE::QtVersion
