@@ -24,7 +24,6 @@ packages_of() {
         echo g++ cmake ninja-build ccache python3
         echo qtbase5-dev qtbase5-private-dev libqt5svg5-dev libspdlog-dev
         echo libquazip1-qt5-dev libdeflate-dev libbz2-dev
-        echo libsqlite3-dev # the lens search of the showcase
         # the resource bundles: catalogues, fonts, rendered icons; a font with Chinese and Japanese characters to show them
         echo qttools5-dev-tools qttranslations5-l10n librsvg2-bin
         echo fonts-roboto-unhinted fonts-open-sans fonts-quicksand fonts-cantarell fonts-noto-cjk

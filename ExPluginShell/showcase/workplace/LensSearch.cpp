@@ -1,19 +1,12 @@
 #include "LensSearch.h"
 
-namespace
-{
-
-constexpr int mostShown = 100;
-
-} // namespace
-
 LensSearch::LensSearch(QObject* parent)
     : QObject(parent)
-    , m_table(std::make_shared<LensTable>())
 {
     qRegisterMetaType<QVector<Lens>>();
     m_pool.setMaxThreadCount(1);
     m_pool.setExpiryTimeout(-1);
+    m_pool.start([this] { m_table.open(); }); // the first question need not wait for it
 }
 
 LensSearch::~LensSearch()
@@ -29,14 +22,15 @@ void LensSearch::ask(const QString& text)
         if (number != m_latest.loadAcquire()) {
             return; // a newer question waits
         }
+        constexpr int mostShown = 100;
         QVector<Lens> lenses;
-        if (m_table->count() == 0 && !m_table->open().isEmpty()) {
+        if (m_table.count() == 0) {
             Q_EMIT found(lenses, -1);
             return;
         }
-        const QVector<int> rows = m_table->rowsWith(text);
+        const QVector<int> rows = m_table.rowsWith(text);
         for (const int row : rows.mid(0, mostShown)) {
-            lenses += m_table->at(row);
+            lenses += m_table.at(row);
         }
         Q_EMIT found(lenses, rows.size());
     });

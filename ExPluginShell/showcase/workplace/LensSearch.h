@@ -5,8 +5,6 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include <memory>
-
 /// Looks for lenses in a thread of its own, one question at a time: a newer one replaces those that wait.
 class LensSearch : public QObject
 {
@@ -25,7 +23,7 @@ Q_SIGNALS:
     void found(const QVector<Lens>& lenses, int total);
 
 private:
-    const std::shared_ptr<LensTable> m_table;
+    LensTable m_table; ///< used in the pool's thread only
     QThreadPool m_pool;
     QAtomicInt m_latest{0};
 };

@@ -1,65 +1,108 @@
 #include "LensTable.h"
 
 #include <QFile>
-
-#include <sqlite3.h>
+#include <QtEndian>
 
 #include <algorithm>
 
 namespace
 {
 
-/// A statement that is finalised at the end of its life.
-class Query
+constexpr int pageSize = 4096;
+constexpr int idColumn = 1, nameColumn = 3;
+constexpr int fileHeader = 100; // before the first page's own header
+
+/// The number that \a at points to, whose bytes have seven bits each; \a at is moved behind it.
+quint64 readNumber(const uchar*& at)
+{
+    quint64 number = *at & 0x7F;
+    while (*at++ & 0x80) {
+        number = number << 7 | (*at & 0x7F);
+    }
+    return number;
+}
+
+/// The columns of a record: the types stand before the values.
+class Record
 {
 public:
-    Query(sqlite3* database, const char* text)
+    explicit Record(const uchar* record)
+        : m_type(record)
+        , m_value(record)
     {
-        sqlite3_prepare_v2(database, text, -1, &m_statement, nullptr);
+        m_value += readNumber(m_type);
     }
-    ~Query() { sqlite3_finalize(m_statement); }
-    Q_DISABLE_COPY(Query)
 
-    bool next() { return sqlite3_step(m_statement) == SQLITE_ROW; }
-    void bind(int value) { sqlite3_bind_int(m_statement, 1, value); }
-    double number(int column) const { return sqlite3_column_double(m_statement, column); }
-    QByteArray text(int column) const
+    /// The bytes of the column that is \a ahead of the next one.
+    QByteArray column(int ahead = 0)
     {
-        return QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(m_statement, column)),
-                          sqlite3_column_bytes(m_statement, column));
+        constexpr int lengths[] = {0, 1, 2, 3, 4, 6, 8, 8, 0, 0}; // of numbers
+        QByteArray bytes;
+        for (int i = 0; i <= ahead; ++i) {
+            const quint64 type = readNumber(m_type);
+            const int length = type < 10 ? lengths[type] : int(type - 12) / 2;
+            bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(m_value), length);
+            m_value += length;
+        }
+        return bytes;
     }
 
 private:
-    sqlite3_stmt* m_statement = nullptr;
+    const uchar* m_type;
+    const uchar* m_value;
 };
 
 } // namespace
 
-LensTable::~LensTable()
+/// Reads the leaves of a table's tree, from its page \a number on.
+void LensTable::readPage(quint32 number)
 {
-    sqlite3_close(m_database);
+    constexpr uchar branch = 5, leaf = 13;
+    const uchar* const page = reinterpret_cast<const uchar*>(m_bytes.constData()) + (number - 1) * pageSize;
+    const uchar* const header = page + (number == 1 ? fileHeader : 0);
+    const int cells = qFromBigEndian<quint16>(header + 3);
+    for (int i = 0; i < cells; ++i) {
+        const bool inside = *header == branch;
+        const uchar* cell = page + qFromBigEndian<quint16>(header + (inside ? 12 : 8) + 2 * i);
+        if (inside) {
+            readPage(qFromBigEndian<quint32>(cell));
+        } else if (*header == leaf) {
+            readNumber(cell); // its length
+            readNumber(cell); // its row
+            m_records += cell;
+        }
+    }
+    if (*header == branch) {
+        readPage(qFromBigEndian<quint32>(header + 8));
+    }
 }
 
 //! [code]
-QString LensTable::open()
+bool LensTable::open()
 {
     QFile file(QStringLiteral(":/calibration/db/CAFList5.db"));
     if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
+        return false;
     }
-    auto* const bytes = file.map(0, file.size()); // stays mapped as long as the library is loaded
-    if (!bytes || sqlite3_open(":memory:", &m_database) != SQLITE_OK ||
-        sqlite3_deserialize(m_database, "main", bytes, file.size(), file.size(),
-                            SQLITE_DESERIALIZE_READONLY) != SQLITE_OK) {
-        return QString::fromUtf8(sqlite3_errmsg(m_database));
+    const auto* const bytes = reinterpret_cast<const char*>(file.map(0, file.size()));
+    m_bytes = QByteArray::fromRawData(bytes, int(file.size())); // stays mapped while the library is loaded
+    readPage(1);                                                // the list of tables and indexes
+    const auto root = std::find_if(m_records.begin(), m_records.end(), [](const uchar* entry) {
+        Record table(entry); // type, name, table, first page, text
+        return table.column() == "table" && table.column() == "Module";
+    });
+    //! [code]
+    if (root == m_records.end()) {
+        return false;
     }
-    Query names(m_database, "SELECT name FROM Module ORDER BY id");
-    while (names.next()) {
-        m_names += names.text(0).toLower() + '\n';
+    const quint32 first = Record(*root).column(3).toHex().toUInt(nullptr, 16);
+    m_records.clear();
+    readPage(first);
+    for (const uchar* const entry : qAsConst(m_records)) {
+        m_names += Record(entry).column(nameColumn).toLower() + '\n';
         m_ends += m_names.size();
     }
-    //! [code]
-    return m_ends.isEmpty() ? QString::fromUtf8(sqlite3_errmsg(m_database)) : QString();
+    return !m_ends.isEmpty();
 }
 
 QVector<int> LensTable::rowsWith(const QString& text) const
@@ -68,9 +111,12 @@ QVector<int> LensTable::rowsWith(const QString& text) const
     const auto longest = std::max_element(words.begin(), words.end(),
                                           [](const auto& a, const auto& b) { return a.size() < b.size(); });
     QVector<int> rows;
+    int row = 0;
     for (int from = m_names.indexOf(*longest); from >= 0 && !longest->isEmpty();
          from = m_names.indexOf(*longest, from)) {
-        const int row = int(std::upper_bound(m_ends.begin(), m_ends.end(), from) - m_ends.begin());
+        while (m_ends.at(row) <= from) {
+            ++row;
+        }
         const int begin = row > 0 ? m_ends.at(row - 1) : 0;
         const QByteArray name = QByteArray::fromRawData(m_names.constData() + begin, m_ends.at(row) - begin);
         if (std::all_of(words.begin(), words.end(), [&](const auto& word) { return name.contains(word); })) {
@@ -83,15 +129,6 @@ QVector<int> LensTable::rowsWith(const QString& text) const
 
 Lens LensTable::at(int row) const
 {
-    Query query(m_database, "SELECT cid, name, fmin, fmax, amin, raw_only FROM Module WHERE id = ?");
-    query.bind(row + 1);
-    if (!query.next()) {
-        return {};
-    }
-    return {QString::fromUtf8(query.text(0)),
-            QString::fromUtf8(query.text(1)),
-            query.number(2),
-            query.number(3),
-            query.number(4),
-            query.number(5) != 0};
+    return {QString::fromUtf8(Record(m_records.at(row)).column(idColumn)),
+            QString::fromUtf8(Record(m_records.at(row)).column(nameColumn))};
 }

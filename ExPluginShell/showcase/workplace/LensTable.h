@@ -4,35 +4,32 @@
 #include <QString>
 #include <QVector>
 
-struct sqlite3;
-
 /// One calibration module: a camera body with a lens at a range of focal lengths.
 struct Lens {
-    QString id;                       ///< for example "C24560b_001"
-    QString name;                     ///< body, lens and range
-    double shortest = 0, longest = 0; ///< focal length in millimetres
-    double widest = 0;                ///< smallest f-number
-    bool rawOnly = false;
+    QString id;   ///< for example "C24560b_001"
+    QString name; ///< body, lens and range
 };
 
-/// The calibration database, read where it lies in the library. All functions belong to one thread, which need
-/// not be the main one.
+/// The table "Module" of the calibration database, read where it lies in the library.
+///
+/// The database is written by the library's own build and never changes while the program runs, so that its pages
+/// can be read in their order, without a database engine: https://www.sqlite.org/fileformat2.html. All functions
+/// belong to one thread, which need not be the main one.
 class LensTable
 {
 public:
-    LensTable() = default;
-    ~LensTable();
-    Q_DISABLE_COPY(LensTable)
-
-    /// Opens the database and reads the names. \return an empty text, or what went wrong
-    QString open();
+    /// Finds the rows and reads their names. \return false if the database cannot be read
+    bool open();
     int count() const { return m_ends.size(); }
     /// The rows whose name contains every word of \a text, in the order of the table.
     QVector<int> rowsWith(const QString& text) const;
     Lens at(int row) const;
 
 private:
-    sqlite3* m_database = nullptr;
+    void readPage(quint32 number);
+
+    QByteArray m_bytes; ///< of the whole file, not copied
+    QVector<const uchar*> m_records;
     QByteArray m_names; ///< all names in lower case, each with a line feed at its end
     QVector<int> m_ends;
 };
