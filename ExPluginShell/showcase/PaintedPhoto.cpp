@@ -6,7 +6,6 @@
 #include <QTransform>
 
 #include <cmath>
-#include <vector>
 
 namespace
 {
@@ -18,13 +17,20 @@ constexpr double quay = 760.0; // where the houses stand
 constexpr double tilt = 2.4;   // degrees by which the camera was turned
 constexpr double lean = 0.085; // part of the width by which each upright edge falls inwards at the top
 
+/// A gradient from \a from to \a to.
+QLinearGradient shade(const QPointF& from, const QPointF& to, const QColor& first, const QColor& last)
+{
+    QLinearGradient gradient(from, to);
+    gradient.setColorAt(0.0, first);
+    gradient.setColorAt(1.0, last);
+    return gradient;
+}
+
 void paintSky(QPainter& painter)
 {
-    QLinearGradient sky(0, 0, 0, quay);
-    sky.setColorAt(0.0, QColor(30, 58, 104));
+    QLinearGradient sky = shade({0, 0}, {0, quay}, {30, 58, 104}, {252, 214, 160});
     sky.setColorAt(0.45, QColor(96, 124, 168));
     sky.setColorAt(0.78, QColor(226, 176, 148));
-    sky.setColorAt(1.0, QColor(252, 214, 160));
     painter.fillRect(QRectF(-400, -400, sceneWidth + 800, quay + 400), sky);
     QRadialGradient sun(1130, 640, 520);
     sun.setColorAt(0.0, QColor(255, 240, 205, 230));
@@ -33,33 +39,25 @@ void paintSky(QPainter& painter)
     painter.fillRect(QRectF(0, 0, sceneWidth, quay), sun);
     QRandomGenerator random(7);
     painter.setPen(Qt::NoPen);
-    for (int cloud = 0; cloud < 9; ++cloud) {
-        const QPointF middle(random.bounded(sceneWidth), 90 + random.bounded(330));
-        for (int puff = 0; puff < 11; ++puff) {
-            const double across = 60 + random.bounded(150);
-            painter.setBrush(QColor(255, 232, 214, 9));
-            painter.drawEllipse(middle + QPointF(random.bounded(240) - 120, random.bounded(24) - 12), across,
-                                across * 0.12);
-        }
+    painter.setBrush(QColor(255, 232, 214, 9));
+    for (int puff = 0; puff < 99; ++puff) {
+        const QPointF cloud((puff / 11) * 179 % 1500, 90 + (puff / 11) * 97 % 330);
+        const double across = 60 + random.bounded(150);
+        painter.drawEllipse(cloud + QPointF(random.bounded(240) - 120, random.bounded(24) - 12), across,
+                            across * 0.12);
     }
 }
 
-void paintHills(QPainter& painter)
+/// A ridge of hills, \a phase along its waves.
+void paintHills(QPainter& painter, double height, double phase, const QColor& color)
 {
-    const struct {
-        double height;
-        double phase;
-        QColor color;
-    } ridges[] = {{120, 0.4, {136, 138, 166}}, {74, 2.2, {96, 104, 136}}};
-    for (const auto& entry : ridges) {
-        QPainterPath ridge(QPointF(-400, quay));
-        for (double x = -400; x <= sceneWidth + 400; x += 6) {
-            const double t = x / 210 + entry.phase;
-            ridge.lineTo(x, quay - entry.height * (1.1 + 0.5 * std::sin(t) + 0.22 * std::sin(2.7 * t)));
-        }
-        ridge.lineTo(sceneWidth + 400, quay);
-        painter.fillPath(ridge, entry.color);
+    QPainterPath ridge(QPointF(-400, quay));
+    for (double x = -400; x <= sceneWidth + 400; x += 6) {
+        const double t = x / 210 + phase;
+        ridge.lineTo(x, quay - height * (1.1 + 0.5 * std::sin(t) + 0.22 * std::sin(2.7 * t)));
     }
+    ridge.lineTo(sceneWidth + 400, quay);
+    painter.fillPath(ridge, color);
 }
 
 void paintWindows(QPainter& painter, const QRectF& wall, int columns, int rows, QRandomGenerator& random)
@@ -72,10 +70,9 @@ void paintWindows(QPainter& painter, const QRectF& wall, int columns, int rows, 
                                 stepX * 0.44, stepY * 0.6);
             const bool lit = random.bounded(100) < 22;
             painter.fillRect(window.adjusted(-3, -3, 3, 5), QColor(240, 232, 218, 190));
-            QLinearGradient glass(window.topLeft(), window.bottomRight());
-            glass.setColorAt(0, lit ? QColor(255, 222, 150) : QColor(58, 70, 92));
-            glass.setColorAt(1, lit ? QColor(240, 170, 90) : QColor(112, 126, 148));
-            painter.fillRect(window, glass);
+            painter.fillRect(window, shade(window.topLeft(), window.bottomRight(),
+                                           lit ? QColor(255, 222, 150) : QColor(58, 70, 92),
+                                           lit ? QColor(240, 170, 90) : QColor(112, 126, 148)));
             painter.fillRect(QRectF(window.center().x() - 1, window.y(), 2, window.height()),
                              QColor(240, 232, 218));
             painter.fillRect(QRectF(window.x(), window.y() + window.height() * 0.4, window.width(), 2),
@@ -87,35 +84,25 @@ void paintWindows(QPainter& painter, const QRectF& wall, int columns, int rows, 
 void paintHouse(QPainter& painter, const QRectF& wall, const QColor& color, int gable,
                 QRandomGenerator& random)
 {
-    QLinearGradient light(wall.topLeft(), wall.topRight());
-    light.setColorAt(0, color.darker(122));
-    light.setColorAt(1, color.lighter(104));
-    painter.fillRect(wall, light);
-    QPainterPath roof;
+    painter.fillRect(wall, shade(wall.topLeft(), wall.topRight(), color.darker(122), color.lighter(104)));
+    const double step = wall.width() / 9;
+    QPolygonF roof;
     if (gable == 0) { // a pointed gable
-        roof.moveTo(wall.left() - 6, wall.top());
-        roof.lineTo(wall.center().x(), wall.top() - wall.width() * 0.55);
-        roof.lineTo(wall.right() + 6, wall.top());
+        roof << wall.topLeft() - QPointF(6, 0) << QPointF(wall.center().x(), wall.top() - wall.width() * 0.55)
+             << wall.topRight() + QPointF(6, 0);
     } else if (gable == 1) { // a stepped one
-        const double step = wall.width() / 9;
-        roof.moveTo(wall.left(), wall.top());
-        for (int i = 0; i < 4; ++i) {
-            roof.lineTo(wall.left() + step * i, wall.top() - step * (i + 1));
-            roof.lineTo(wall.left() + step * (i + 1), wall.top() - step * (i + 1));
+        for (int i = 0; i < 9; ++i) {
+            const double height = step * (i < 5 ? i : 8 - i);
+            roof << wall.topLeft() + QPointF(step * i, -height)
+                 << wall.topLeft() + QPointF(step * (i + 1), -height);
         }
-        for (int i = 4; i > 0; --i) {
-            roof.lineTo(wall.right() - step * i, wall.top() - step * i);
-            roof.lineTo(wall.right() - step * (i - 1), wall.top() - step * i);
-        }
-        roof.lineTo(wall.right(), wall.top());
     } else { // a hipped roof
-        roof.moveTo(wall.left() - 8, wall.top());
-        roof.lineTo(wall.left() + wall.width() * 0.2, wall.top() - 66);
-        roof.lineTo(wall.right() - wall.width() * 0.2, wall.top() - 66);
-        roof.lineTo(wall.right() + 8, wall.top());
+        roof << wall.topLeft() - QPointF(8, 0) << wall.topLeft() + QPointF(wall.width() * 0.2, -66)
+             << wall.topLeft() + QPointF(wall.width() * 0.8, -66) << wall.topRight() + QPointF(8, 0);
     }
-    roof.closeSubpath();
-    painter.fillPath(roof, gable == 1 ? color.darker(106) : QColor(112, 62, 52));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gable == 1 ? color.darker(106) : QColor(112, 62, 52));
+    painter.drawPolygon(roof);
     paintWindows(painter, wall, std::max(2, int(wall.width() / 52)), std::max(3, int(wall.height() / 92)),
                  random);
     painter.fillRect(QRectF(wall.center().x() - 17, wall.bottom() - 58, 34, 58), QColor(66, 44, 38));
@@ -124,10 +111,7 @@ void paintHouse(QPainter& painter, const QRectF& wall, const QColor& color, int 
 
 void paintTower(QPainter& painter, const QRectF& wall)
 {
-    QLinearGradient light(wall.topLeft(), wall.topRight());
-    light.setColorAt(0, QColor(122, 104, 92));
-    light.setColorAt(1, QColor(206, 178, 148));
-    painter.fillRect(wall, light);
+    painter.fillRect(wall, shade(wall.topLeft(), wall.topRight(), {122, 104, 92}, {206, 178, 148}));
     for (double y = wall.top() + 150; y < wall.bottom() - 40; y += 118) {
         painter.fillRect(QRectF(wall.left() - 5, y, wall.width() + 10, 8), QColor(232, 214, 188));
         painter.fillRect(QRectF(wall.center().x() - 11, y + 34, 22, 52), QColor(56, 52, 58));
@@ -138,11 +122,11 @@ void paintTower(QPainter& painter, const QRectF& wall)
     painter.drawEllipse(clock, 38, 38);
     painter.drawLine(clock, clock + QPointF(0, -28));
     painter.drawLine(clock, clock + QPointF(19, 9));
-    QPainterPath spire(QPointF(wall.left() - 12, wall.top()));
-    spire.lineTo(wall.center().x(), wall.top() - 178);
-    spire.lineTo(wall.right() + 12, wall.top());
-    spire.closeSubpath();
-    painter.fillPath(spire, QColor(66, 96, 98));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(66, 96, 98));
+    painter.drawPolygon(QPolygonF({wall.topLeft() - QPointF(12, 0),
+                                   {wall.center().x(), wall.top() - 178},
+                                   wall.topRight() + QPointF(12, 0)}));
 }
 
 void paintTown(QPainter& painter)
@@ -165,28 +149,19 @@ void paintTown(QPainter& painter)
     painter.fillRect(QRectF(-400, quay + 8, sceneWidth + 800, 22), QColor(58, 54, 56));
 }
 
-/// The water mirrors the town, darker and drawn out by ripples.
-void paintWater(QImage& scene, double scale)
+/// The rows of the water from \a top to \a bottom mirror the town, darker and drawn out by ripples.
+void paintWater(const QImage& scene, uchar* bits, double scale, int top, int bottom)
 {
     const int shore = int((quay + 28) * scale);
-    const int width = scene.width();
-    std::vector<double> sine(width);
-    std::vector<double> cosine(width);
-    for (int x = 0; x < width; ++x) {
-        const double phase = std::sin(x / scale * 0.02) * 2.5;
-        sine[x] = std::sin(phase);
-        cosine[x] = std::cos(phase);
-    }
-    for (int y = shore; y < scene.height(); ++y) {
+    for (int y = std::max(top, shore); y < bottom; ++y) {
         const double depth = double(y - shore) / (scene.height() - shore);
         const double height = (1.5 + 9.0 * depth) * scale;
-        const double rise = std::sin(y / scale * 0.75) * height;
-        const double fall = std::cos(y / scale * 0.75) * height;
         const int dim = int((0.74 - 0.3 * depth) * 256);
         const double mirror = shore - 30 * scale - (y - shore) * 1.9;
-        auto* const line = reinterpret_cast<QRgb*>(scene.scanLine(y));
-        for (int x = 0; x < width; ++x) { // a sine of a sum
-            const int row = qBound(0, int(mirror - rise * cosine[x] - fall * sine[x]), shore - 1);
+        auto* const line = reinterpret_cast<QRgb*>(bits + y * scene.bytesPerLine());
+        for (int x = 0; x < scene.width(); ++x) {
+            const double ripple = std::sin(y / scale * 0.75 + std::sin(x / scale * 0.02) * 2.5) * height;
+            const int row = qBound(0, int(mirror - ripple), shore - 1);
             const QRgb above = reinterpret_cast<const QRgb*>(scene.constScanLine(row))[x];
             line[x] =
                 qRgb(qRed(above) * dim * 220 >> 16, qGreen(above) * dim * 246 >> 16, qBlue(above) * dim >> 8);
@@ -194,15 +169,15 @@ void paintWater(QImage& scene, double scale)
     }
 }
 
-/// Darker corners and the grain of a sensor.
-void develop(QImage& image)
+/// Darker corners and the grain of a sensor, for the rows of a picture of \a size that begin at \a top.
+void develop(QImage& rows, const QSize& size, int top)
 {
-    quint32 noise = 1839;
-    for (int y = 0; y < image.height(); ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const double dy = 2.0 * y / image.height() - 1.0;
-        for (int x = 0; x < image.width(); ++x) {
-            const double dx = 2.0 * x / image.width() - 1.0;
+    for (int y = 0; y < rows.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(rows.scanLine(y));
+        const double dy = 2.0 * (top + y) / size.height() - 1.0;
+        quint32 noise = 1839 + quint32(top + y) * 2654435761u;
+        for (int x = 0; x < size.width(); ++x) {
+            const double dx = 2.0 * x / size.width() - 1.0;
             const int light = int(256 - 40 * (dx * dx + dy * dy));
             noise = noise * 1664525 + 1013904223;
             const int grain = int(noise >> 29) - 4;
@@ -217,47 +192,53 @@ void develop(QImage& image)
 QTransform throughTheLens(const QSizeF& size)
 {
     const double margin = 110; // of the scene, never in the picture
-    const QPolygonF frame{QVector<QPointF>{{margin, 0},
-                                           {sceneWidth - margin, 0},
-                                           {sceneWidth - margin, sceneHeight - 60},
-                                           {margin, sceneHeight - 60}}};
+    QPolygonF frame(QRectF(margin, 0, sceneWidth - 2 * margin, sceneHeight - 60));
+    frame.removeLast(); // the first corner again
     const QPolygonF seen{QVector<QPointF>{{size.width() * lean, 0},
                                           {size.width() * (1 - lean), 0},
                                           {size.width() * 1.02, size.height()},
                                           {-size.width() * 0.02, size.height()}}};
     QTransform keystone;
     QTransform::quadToQuad(frame, seen, keystone);
-    QTransform turn;
-    turn.translate(size.width() / 2, size.height() / 2);
-    turn.rotate(tilt);
-    turn.scale(1.08, 1.08);
-    turn.translate(-size.width() / 2, -size.height() / 2);
-    return keystone * turn;
+    const QPointF middle(size.width() / 2, size.height() / 2);
+    return keystone * QTransform::fromTranslate(-middle.x(), -middle.y()) *
+           QTransform().rotate(tilt).scale(1.08, 1.08) * QTransform::fromTranslate(middle.x(), middle.y());
 }
 
 } // namespace
 
-QImage paintedPhoto(const QSize& size)
+QImage paintedPhoto(const QSize& size, const Progress& progress)
 {
-    const QSize least = size.expandedTo({8, 8});
-    const double scale = std::max(least.width() / sceneWidth, least.height() / sceneHeight);
+    const double scale = std::max(size.width() / sceneWidth, size.height() / sceneHeight);
     QImage scene(QSize(int(sceneWidth * scale) + 1, int(sceneHeight * scale) + 1), QImage::Format_RGB32);
-    {
-        QPainter painter(&scene);
+    uchar* const sceneBits = scene.bits();
+    QImage photo(size, QImage::Format_RGB32);
+    uchar* const photoBits = photo.bits();
+    const auto paint = [&](int top, int bottom) {
+        QImage rows = band(sceneBits, scene, top, bottom);
+        QPainter painter(&rows);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(0, -top);
         painter.scale(scale, scale);
         paintSky(painter);
-        paintHills(painter);
+        paintHills(painter, 120, 0.4, {136, 138, 166});
+        paintHills(painter, 74, 2.2, {96, 104, 136});
         paintTown(painter);
-    }
-    paintWater(scene, scale);
-    QImage photo(least, QImage::Format_RGB32);
-    photo.fill(QColor(30, 58, 104));
-    QPainter painter(&photo);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setTransform(QTransform::fromScale(1 / scale, 1 / scale) * throughTheLens(least));
-    painter.drawImage(0, 0, scene);
-    painter.end();
-    develop(photo);
-    return photo;
+    };
+    const auto flood = [&](int top, int bottom) { paintWater(scene, sceneBits, scale, top, bottom); };
+    const auto take = [&](int top, int bottom) {
+        QImage rows = band(photoBits, photo, top, bottom);
+        rows.fill(QColor(30, 58, 104));
+        QPainter painter(&rows);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setTransform(QTransform::fromScale(1 / scale, 1 / scale) * throughTheLens(size) *
+                             QTransform::fromTranslate(0, -top));
+        painter.drawImage(0, 0, scene);
+        painter.end();
+        develop(rows, size, top);
+    };
+    const bool finished = forBands(scene.height(), partOf(progress, 0.0, 0.4), paint) &&
+                          forBands(scene.height(), partOf(progress, 0.4, 0.2), flood) &&
+                          forBands(size.height(), partOf(progress, 0.6, 0.4), take);
+    return finished ? photo : QImage();
 }

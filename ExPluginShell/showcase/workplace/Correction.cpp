@@ -1,48 +1,13 @@
 #include "Correction.h"
 
 #include <QPainter>
-#include <QThread>
-#include <QThreadPool>
 
-#include <atomic>
 #include <cmath>
 
 namespace
 {
 
-constexpr int bandHeight = 48;
 constexpr double strongestDistortion = 0.28;
-
-/// Runs \a work for bands of rows on all cores.
-bool forBands(int height, const Progress& progress, const std::function<void(int top, int bottom)>& work)
-{
-    std::atomic<int> next{0};
-    std::atomic<int> done{0};
-    std::atomic<bool> stopped{false};
-    QThreadPool pool; // of its own: the global pool also serves Qt's painting
-    for (int i = 0; i < QThread::idealThreadCount(); ++i) {
-        pool.start([&] {
-            for (int top = next.fetch_add(bandHeight); top < height && !stopped;
-                 top = next.fetch_add(bandHeight)) {
-                work(top, std::min(top + bandHeight, height));
-                done += bandHeight;
-            }
-        });
-    }
-    while (!pool.waitForDone(40)) {
-        if (!progress(std::min(1.0, double(done) / height))) {
-            stopped = true;
-        }
-    }
-    return !stopped;
-}
-
-/// The rows from \a top to \a bottom of \a image as an image that shares its memory.
-QImage band(uchar* bits, const QImage& image, int top, int bottom)
-{
-    const auto stride = image.bytesPerLine();
-    return QImage(bits + top * stride, image.width(), bottom - top, stride, image.format());
-}
 
 using Mapping = std::function<QPointF(const QPointF&)>;
 
@@ -147,12 +112,28 @@ Mapping radial(double amount, const QSizeF& size)
     };
 }
 
+/// \a source in a smaller \a size.
+QImage reduced(const QImage& source, const QSize& size, const Progress& progress)
+{
+    QImage result(size, QImage::Format_RGB32);
+    uchar* const bits = result.bits();
+    forBands(size.height(), progress, [&](int top, int bottom) {
+        const int from = int(qint64(top) * source.height() / size.height());
+        const int to = int(qint64(bottom) * source.height() / size.height());
+        QImage rows = band(bits, result, top, bottom);
+        QPainter(&rows).drawImage(0, 0,
+                                  source.copy(0, from, source.width(), to - from)
+                                      .scaled(rows.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    });
+    return result;
+}
+
 /// The picture, blurred away from the line of focus.
 QImage tiltShifted(const QImage& source, const Step& step, const Progress& progress)
 {
     const double factor = 1 + step.amount * source.width() / 90.0;
     const QSize small(std::max(2, int(source.width() / factor)), std::max(2, int(source.height() / factor)));
-    const QImage soft = source.scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+    const QImage soft = reduced(source, small, partOf(progress, 0.0, 0.4))
                             .scaled((small + source.size()) / 2 / std::max(1.0, factor / 4),
                                     Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QPointF centre(step.focus.x1() * source.width(), step.focus.y1() * source.height());
@@ -167,7 +148,7 @@ QImage tiltShifted(const QImage& source, const Step& step, const Progress& progr
 
     QImage result = source.convertToFormat(QImage::Format_RGB32);
     uchar* const bits = result.bits();
-    const bool finished = forBands(source.height(), progress, [&](int top, int bottom) {
+    const bool finished = forBands(source.height(), partOf(progress, 0.4, 0.6), [&](int top, int bottom) {
         QImage veil(source.width(), bottom - top, QImage::Format_ARGB32_Premultiplied);
         veil.fill(Qt::transparent);
         {
@@ -254,29 +235,26 @@ void Step::setAngle(double degrees)
     line = QLineF(real.x1() / aspect, real.y1(), real.x2() / aspect, real.y2());
 }
 
-QVariantMap Step::toMap() const
+QVariantList Step::toList() const
 {
-    QVariantList stored;
+    QVariantList stored{int(tool), amount, area, focus, width, aspect};
     for (const QLineF& line : lines) {
         stored += line;
     }
-    return {{QStringLiteral("tool"), int(tool)}, {QStringLiteral("lines"), stored},
-            {QStringLiteral("amount"), amount},  {QStringLiteral("area"), area},
-            {QStringLiteral("focus"), focus},    {QStringLiteral("width"), width},
-            {QStringLiteral("aspect"), aspect}};
+    return stored;
 }
 
-Step Step::fromMap(const QVariantMap& map)
+Step Step::fromList(const QVariantList& stored)
 {
     Step step;
-    step.tool = Tool(qBound(0, map.value(QStringLiteral("tool")).toInt(), toolCount - 1));
-    for (const QVariant& line : map.value(QStringLiteral("lines")).toList()) {
+    step.tool = Tool(qBound(0, stored.value(0).toInt(), toolCount - 1));
+    step.amount = stored.value(1).toDouble();
+    step.area = stored.value(2).toRectF();
+    step.focus = stored.value(3).toLineF();
+    step.width = stored.value(4).toDouble();
+    step.aspect = stored.value(5).toDouble();
+    for (const QVariant& line : stored.mid(6)) {
         step.lines += line.toLineF();
     }
-    step.amount = map.value(QStringLiteral("amount")).toDouble();
-    step.area = map.value(QStringLiteral("area")).toRectF();
-    step.focus = map.value(QStringLiteral("focus")).toLineF();
-    step.width = map.value(QStringLiteral("width")).toDouble();
-    step.aspect = map.value(QStringLiteral("aspect")).toDouble();
     return step;
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QImage>
+#include "Bands.h"
+
 #include <QLineF>
 #include <QRectF>
 #include <QVariant>
 #include <QVector>
-
-#include <functional>
 
 /// The tools of the workplace, in the order of the tool bar.
 enum class Tool { Horizon, Keystoning, Distortion, Crop, TiltShift };
@@ -33,15 +32,13 @@ struct Step {
     /// Turns the line so that angle() becomes \a degrees.
     void setAngle(double degrees);
 
-    QVariantMap toMap() const;
-    static Step fromMap(const QVariantMap& map);
+    /// As it is stored in a preset.
+    QVariantList toList() const;
+    static Step fromList(const QVariantList& stored);
 };
 
 /// The threshold for compareImages(): its measure gets small with the size of the pictures, and a copy gives 0.
 constexpr double differenceThreshold = 1e-12;
-
-/// Receives how much is done, 0 to 1. \return false to stop the work
-using Progress = std::function<bool(double part)>;
 
 /// \a picture with \a step carried out, computed on all cores.
 ///

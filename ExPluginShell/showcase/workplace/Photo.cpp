@@ -15,8 +15,8 @@ constexpr QSize mostOnCanvas(1500, 1000);
 Photo Photo::painted()
 {
     constexpr QSize size(5640, 4230);
-    return {QStringLiteral("harbour-town.jpg"), size, paintedPhoto(QSize(1080, 810)),
-            [size] { return paintedPhoto(size); }};
+    return {QStringLiteral("harbour-town.jpg"), size, paintedPhoto(QSize(1080, 810), goOn),
+            [size](const Progress& progress) { return paintedPhoto(size, progress); }};
 }
 
 Photo Photo::fromFile(const QString& path, QString* error)
@@ -35,7 +35,7 @@ Photo Photo::fromFile(const QString& path, QString* error)
     if (reader.transformation() & QImageIOHandler::TransformationRotate90) {
         size.transpose();
     }
-    const auto full = [path] {
+    const auto full = [path](const Progress&) {
         QImageReader whole(path);
         whole.setAutoTransform(true);
         return whole.read().convertToFormat(QImage::Format_RGB32);

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QImage>
-#include <QString>
+#include "Bands.h"
 
-#include <functional>
+#include <QString>
 
 /// A photo that is worked on: a small image for the canvas now, the full one when it is asked for.
 struct Photo {
     QString name;
     QSize size; ///< of the full picture
     QImage small;
-    std::function<QImage()> full; ///< may be called from any thread; null if the file cannot be read any more
+    /// May be called from any thread; returns null if the file cannot be read any more, or the work was stopped.
+    std::function<QImage(const Progress&)> full;
 
     /// The photo that is painted by code, 24 megapixels.
     static Photo painted();

@@ -10,8 +10,10 @@ class RenderItem : public CQRunnableItem
     Q_OBJECT
 
 public:
-    /// \param picture where the picture comes from; called in the thread of the work
-    RenderItem(std::function<QImage()> picture, QVector<Step> steps);
+    /// Where the picture comes from; called in the thread of the work.
+    using Source = std::function<QImage(const Progress&)>;
+
+    RenderItem(Source picture, QVector<Step> steps);
 
     /// The corrected picture; known when the work has finished, null if it was stopped.
     QImage result() const { return m_result; }
@@ -22,7 +24,7 @@ Q_SIGNALS:
     void progress(int percent);
 
 private:
-    const std::function<QImage()> m_picture;
+    const Source m_picture;
     const QVector<Step> m_steps;
     QImage m_result;
 };
