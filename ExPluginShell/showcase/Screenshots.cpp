@@ -9,14 +9,7 @@
 #include <utilsDll/AboutDlg.h>
 #include <utilsDll/LanguageManager.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QPixmap>
-#include <QProcess>
-#include <QTableView>
-#include <QTextStream>
-#include <QTimer>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <functional>
 
@@ -27,32 +20,26 @@ constexpr QSize windowSize(1280, 800);
 constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 /// Suppresses the offscreen platform's warning about size hints.
-class QuietPlatform
+void writeMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
-public:
-    QuietPlatform() { usual = qInstallMessageHandler(&QuietPlatform::write); }
-    ~QuietPlatform() { qInstallMessageHandler(usual); }
-    Q_DISABLE_COPY(QuietPlatform)
-
-private:
-    static void write(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        if (!text.contains(QLatin1String("propagateSizeHints"))) {
-            usual(type, context, text);
-        }
+    if (!text.contains(QLatin1String("propagateSizeHints"))) {
+        QTextStream(stderr) << text << '\n';
     }
-
-    inline static QtMessageHandler usual = nullptr;
-};
+}
 
 bool save(const QPixmap& picture, const QDir& folder, const QString& name)
 {
-    const QString path = folder.filePath(name + QStringLiteral(".png"));
-    if (!folder.mkpath(QStringLiteral(".")) || !picture.save(path)) {
-        QTextStream(stderr) << "showcase: cannot write " << path << '\n';
-        return false;
-    }
-    return true;
+    return folder.mkpath(QStringLiteral(".")) && picture.save(folder.filePath(name + QStringLiteral(".png")));
+}
+
+/// Whether the page in view is no wider than the window; one that scrolls sideways is a fault.
+bool fits(const ShowcaseWindow& window, const Page& page)
+{
+    const QWidget* const shown = window.currentPage();
+    const bool fits = shown->width() <= shown->parentWidget()->width();
+    QTextStream(stderr) << (fits ? QString()
+                                 : QStringLiteral("%1 is too wide\n").arg(QLatin1String(page.name)));
+    return fits;
 }
 
 bool writePages(const QDir& folder)
@@ -71,7 +58,7 @@ bool writePages(const QDir& folder)
         QApplication::processEvents();
         const QString name =
             QStringLiteral("%1-%2").arg(++number, 2, 10, QLatin1Char('0')).arg(QLatin1String(page.name));
-        ok = save(window.grab(), folder, name) && ok;
+        ok = save(window.grab(), folder, name) && fits(window, page) && ok;
     }
     return ok;
 }
@@ -107,29 +94,12 @@ bool writeDialogs(const QDir& folder)
     return saveDialog(folder, QStringLiteral("about-family"), [] { CAboutOstraDlg().exec(); }) && ok;
 }
 
-/// The page with all widgets does not fit into the window.
-bool writeWholePage(const QDir& folder, const QString& name)
-{
-    QWidget frame;
-    auto* const layout = new QVBoxLayout(&frame);
-    layout->setContentsMargins(16, 16, 16, 16);
-    QWidget* const page = makeStylePage(&frame);
-    layout->addWidget(page);
-    frame.resize(layout->sizeHint());
-    frame.show();
-    QApplication::processEvents();
-    QApplication::setActiveWindow(&frame); // no window manager does it here
-    page->findChild<QTableView*>()->setFocus();
-    QApplication::processEvents();
-    return save(frame.grab(), folder, name);
-}
-
 } // namespace
 
 bool writeScreenshots(const QString& folder)
 {
     using TOLVAN_NAMESPACE::CLanguageManager;
-    const QuietPlatform quiet;
+    qInstallMessageHandler(&writeMessage);
     const StoredLanguage storedLanguage;
     auto* const languages = CLanguageManager::instance();
     const QDir root(folder);
@@ -140,7 +110,6 @@ bool writeScreenshots(const QString& folder)
         const QString language = languages->currentLanguageAbbrv();
         ok = writePages(QDir(root.filePath(language))) && ok;
         ok = writeDialogs(QDir(root.filePath(language))) && ok;
-        ok = writeWholePage(root, QStringLiteral("style-") + language) && ok;
     }
     if (!qEnvironmentVariableIsSet(scaleVariable)) { // once more at double size, in a process of its own
         qputenv(scaleVariable, "2");
