@@ -2,12 +2,9 @@
 
 #include <QCoreApplication>
 #include <QLibrary>
-#include <QMutexLocker>
 
 namespace
 {
-
-constexpr int keptLines = 2000;
 
 /// "function: text", where a function name has no blank.
 LogLine parsed(char level, const QString& line)
@@ -45,22 +42,8 @@ void LiveLog::init(const std::string& folder, const std::string& name, char leve
 
 void LiveLog::log(char level, const char* text)
 {
-    const LogLine line = parsed(level, QString::fromUtf8(text));
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_lines += line;
-        if (m_lines.size() > keptLines) {
-            m_lines.removeFirst();
-        }
-    }
     if (m_file) {
         m_file->log(level, text);
     }
-    Q_EMIT lineAdded(line);
-}
-
-QVector<LogLine> LiveLog::lines() const
-{
-    const QMutexLocker lock(&m_mutex);
-    return m_lines;
+    Q_EMIT lineAdded(parsed(level, QString::fromUtf8(text)));
 }

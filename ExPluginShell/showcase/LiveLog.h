@@ -2,10 +2,8 @@
 
 #include <utilsDll/ILoggerInterface.h>
 
-#include <QMutex>
 #include <QObject>
 #include <QTime>
-#include <QVector>
 
 /// One line of the log.
 struct LogLine {
@@ -15,8 +13,8 @@ struct LogLine {
     QString text;
 };
 
-/// The host's own logger: keeps the last lines for the logging page and passes every line on to the product's
-/// logger library, where that is found. Thread-safe; lives as long as the process.
+/// The host's own logger: passes every line on to the log page and to the product's logger library, where that is
+/// found. Thread-safe; lives as long as the process.
 class LiveLog : public QObject, public ILoggerInterface
 {
     Q_OBJECT
@@ -29,9 +27,6 @@ public:
     void init(const std::string& folder, const std::string& name, char level) override;
     void log(char level, const char* text) override;
 
-    /// The last lines, oldest first.
-    QVector<LogLine> lines() const;
-
 Q_SIGNALS:
     /// A line came in. Emitted in the thread that logged.
     void lineAdded(const LogLine& line);
@@ -39,8 +34,6 @@ Q_SIGNALS:
 private:
     LiveLog();
 
-    mutable QMutex m_mutex;
-    QVector<LogLine> m_lines;
     ILoggerInterface* m_file = nullptr;
 };
 

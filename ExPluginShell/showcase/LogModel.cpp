@@ -2,49 +2,34 @@
 
 #include <QColor>
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr int mostRows = 2000;
 
-int rankOf(char level)
-{
-    return QByteArray("DIWE").indexOf(level);
-}
-
 QColor colourOf(char level)
 {
     const QColor colours[] = {{0xA9, 0xAE, 0xB5}, {0x7F, 0xD9, 0xE8}, {0xF2, 0xB4, 0x4C}, {0xF0, 0x70, 0x6A}};
-    return colours[qMax(0, rankOf(level))];
+    return colours[LogModel::rankOf(level)];
 }
 
 } // namespace
 
-LogModel::LogModel(QObject* parent)
-    : QAbstractTableModel(parent)
+LogModel::LogModel()
 {
-    setMinimumLevel(m_minimum);
     connect(&LiveLog::instance(), &LiveLog::lineAdded, this, &LogModel::append);
 }
 
-void LogModel::setMinimumLevel(char level)
+LogModel& LogModel::instance()
 {
-    beginResetModel();
-    m_minimum = level;
-    m_lines.clear();
-    for (const LogLine& line : LiveLog::instance().lines()) {
-        if (rankOf(line.level) >= rankOf(level)) {
-            m_lines += line;
-        }
-    }
-    endResetModel();
+    static LogModel model;
+    return model;
 }
 
 void LogModel::append(const LogLine& line)
 {
-    if (rankOf(line.level) < rankOf(m_minimum)) {
-        return;
-    }
     if (m_lines.size() == mostRows) {
         beginRemoveRows({}, 0, 0);
         m_lines.removeFirst();
@@ -63,10 +48,14 @@ void LogModel::retranslate()
     }
 }
 
-QString LogModel::levelName(char level)
+QStringList LogModel::levelNames()
 {
-    const QString names[] = {tr("Debug"), tr("Information"), tr("Warning"), tr("Error")};
-    return names[qMax(0, rankOf(level))];
+    return {tr("Debug"), tr("Information"), tr("Warning"), tr("Error")};
+}
+
+int LogModel::rankOf(char level)
+{
+    return int(std::find(std::begin(levels), std::end(levels), level) - levels) % 4;
 }
 
 int LogModel::rowCount(const QModelIndex& parent) const
@@ -77,6 +66,9 @@ int LogModel::rowCount(const QModelIndex& parent) const
 QVariant LogModel::data(const QModelIndex& index, int role) const
 {
     const LogLine& line = m_lines.at(index.row());
+    if (role == RankRole) {
+        return rankOf(line.level);
+    }
     if (role == Qt::ForegroundRole && index.column() == Level) {
         return colourOf(line.level);
     }
@@ -86,8 +78,8 @@ QVariant LogModel::data(const QModelIndex& index, int role) const
     if (role != Qt::DisplayRole) {
         return {};
     }
-    const QString cells[] = {line.time.toString(QStringLiteral("HH:mm:ss.zzz")), levelName(line.level),
-                             line.function, line.text};
+    const QString cells[] = {line.time.toString(QStringLiteral("HH:mm:ss.zzz")),
+                             levelNames().at(rankOf(line.level)), line.function, line.text};
     return cells[index.column()];
 }
 

@@ -20,9 +20,9 @@ void Report::heading(const QString& title)
     print(QStringLiteral("\n%1\n%2").arg(title, QString(title.size(), QLatin1Char('-'))));
 }
 
-void Report::row(const QString& name, const QString& value)
+void Report::row(const char* name, const QString& value)
 {
-    line(QStringLiteral("    "), name, value);
+    line(QStringLiteral("    "), QString::fromLatin1(name), value);
 }
 
 void Report::check(const QString& name, const QString& value, bool ok)

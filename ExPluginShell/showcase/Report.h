@@ -10,9 +10,13 @@ public:
     /// Begins a section.
     void heading(const QString& title);
     /// A fact that has no verdict.
-    void row(const QString& name, const QString& value);
+    void row(const char* name, const QString& value);
     /// A step and its result; \a ok: whether it did what it should
     void check(const QString& name, const QString& value, bool ok);
+    void check(const char* name, const QString& value, bool ok)
+    {
+        check(QString::fromLatin1(name), value, ok);
+    }
     /// Writes the closing line.
     /// \return whether every step did what it should
     bool finish();

@@ -1,25 +1,12 @@
 #include "ShowcaseWindow.h"
 
-#include "CodeSample.h"
 #include "pages/Pages.h"
 
 #include <utilsDll/controls/IconViewer.h>
 #include <utilsDll/LanguageManager.h>
 #include <utilsDll/Settings.h>
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QComboBox>
-#include <QCoreApplication>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QShortcut>
-#include <QStackedWidget>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 using TOLVAN_NAMESPACE::CLanguageManager;
 using TOLVAN_NAMESPACE::CSettings;
@@ -51,6 +38,17 @@ QString translated(const char* text)
     return *text ? QCoreApplication::translate("Pages", text) : QString();
 }
 
+/// The lines between the first two marks of the source file \a name, as they were built into this program.
+QString codeSample(const QString& name)
+{
+    QFile file(QStringLiteral(":/showcase/code/") + name);
+    file.open(QIODevice::ReadOnly);
+    static const QRegularExpression mark(QStringLiteral(" *//! \\[code\\]\n"));
+    const QString code = QString::fromUtf8(file.readAll()).split(mark).value(1);
+    const QString indent(code.indexOf(QRegularExpression(QStringLiteral("[^ ]"))), QLatin1Char(' '));
+    return QString(code).replace(QLatin1Char('\n') + indent, QStringLiteral("\n")).trimmed();
+}
+
 } // namespace
 
 ShowcaseWindow::ShowcaseWindow(QWidget* parent)
@@ -78,57 +76,45 @@ QWidget* ShowcaseWindow::makeNavigation()
     m_list->setObjectName(QStringLiteral("pageList"));
     m_list->setIconSize(QSize(20, 20));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* const logo = new TOLVAN_NAMESPACE::CIconViewer(this);
+    logo->setFixedSize(32, 32);
+    logo->setIcon(QApplication::windowIcon());
+    auto* const name = new QLabel(QStringLiteral("Trelio Frame"), this);
+    name->setObjectName(QStringLiteral("productName"));
+    auto* const product = new QHBoxLayout;
+    product->setContentsMargins(6, 0, 0, 0); // in line with the icons of the pages
+    product->setSpacing(10);
+    product->addWidget(logo);
+    product->addWidget(name, 1);
     auto* const panel = new QWidget(this);
     panel->setObjectName(QStringLiteral("navigation"));
     panel->setFixedWidth(240);
     auto* const layout = new QVBoxLayout(panel);
     layout->setContentsMargins(8, 16, 8, 16);
     layout->setSpacing(12);
-    layout->addWidget(makeProductName());
+    layout->addLayout(product);
     layout->addWidget(m_list, 1);
-    layout->addWidget(makeLanguageChoice());
+    layout->addLayout(makeLanguageChoice());
     return panel;
 }
 
-QWidget* ShowcaseWindow::makeProductName()
-{
-    auto* const row = new QWidget(this);
-    auto* const logo = new TOLVAN_NAMESPACE::CIconViewer(row);
-    logo->setFixedSize(32, 32);
-    logo->setIcon(QApplication::windowIcon());
-    auto* const name = new QLabel(QStringLiteral("Trelio Frame"), row);
-    name->setObjectName(QStringLiteral("productName"));
-    auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(6, 0, 0, 0); // in line with the icons of the pages
-    layout->setSpacing(10);
-    layout->addWidget(logo);
-    layout->addWidget(name, 1);
-    return row;
-}
-
-QWidget* ShowcaseWindow::makeLanguageChoice()
+QVBoxLayout* ShowcaseWindow::makeLanguageChoice()
 {
     auto* const languages = CLanguageManager::instance();
-    auto* const area = new QWidget(this);
-    m_languageLabel = new QLabel(area);
+    m_languageLabel = new QLabel(this);
     m_languageLabel->setObjectName(QStringLiteral("languageLabel"));
-    m_languages = new QComboBox(area);
-    m_languages->setModel(languages->model());
-    m_languageLabel->setBuddy(m_languages);
-    auto* const layout = new QVBoxLayout(area);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const choice = new QComboBox(this);
+    choice->setModel(languages->model());
+    m_languageLabel->setBuddy(choice);
+    const auto follow = [=] { choice->setCurrentIndex(languages->currentLanguageIndex()); };
+    connect(choice, qOverload<int>(&QComboBox::activated), languages, &CLanguageManager::changeLanguage);
+    connect(languages, &CLanguageManager::languageChanged, choice, follow);
+    follow();
+    auto* const layout = new QVBoxLayout;
     layout->setSpacing(6);
     layout->addWidget(m_languageLabel);
-    layout->addWidget(m_languages);
-    connect(m_languages, qOverload<int>(&QComboBox::activated), languages, &CLanguageManager::changeLanguage);
-    connect(languages, &CLanguageManager::languageChanged, this, &ShowcaseWindow::showLanguage);
-    showLanguage();
-    return area;
-}
-
-void ShowcaseWindow::showLanguage()
-{
-    m_languages->setCurrentIndex(CLanguageManager::instance()->currentLanguageIndex());
+    layout->addWidget(choice);
+    return layout;
 }
 
 QVBoxLayout* ShowcaseWindow::makePageArea()
@@ -229,13 +215,11 @@ void ShowcaseWindow::restore()
     if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
         resize(1280, 800);
     }
-    const QString name = settings.value(pageKey).toString();
     const auto all = pages();
-    int row = 0;
-    for (int i = 0; i < all.size(); ++i) {
-        row = name == QLatin1String(all.at(i).name) ? i : row;
-    }
-    showPage(row);
+    const auto stored = std::find_if(all.begin(), all.end(), [&](const Page& page) {
+        return settings.value(pageKey).toString() == QLatin1String(page.name);
+    });
+    showPage(stored == all.end() ? 0 : int(stored - all.begin()));
     m_list->setFocus();
 }
 

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-class QComboBox;
 class QLabel;
 class QListWidget;
 class QPlainTextEdit;
@@ -28,13 +27,9 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
-private Q_SLOTS:
-    void showLanguage();
-
 private:
     QWidget* makeNavigation();
-    QWidget* makeProductName();
-    QWidget* makeLanguageChoice();
+    QVBoxLayout* makeLanguageChoice();
     QVBoxLayout* makePageArea();
     void addPages();
     void step(int rows);
@@ -48,5 +43,4 @@ private:
     QPushButton* m_codeButton = nullptr;
     QPlainTextEdit* m_code = nullptr;
     QLabel* m_languageLabel = nullptr;
-    QComboBox* m_languages = nullptr;
 };

@@ -8,11 +8,19 @@
 class StoredLanguage
 {
 public:
-    StoredLanguage();
-    ~StoredLanguage();
+    StoredLanguage() = default;
+    ~StoredLanguage()
+    {
+        if (m_language.isValid()) {
+            m_family.setValue(m_key, m_language);
+        } else {
+            m_family.remove(m_key);
+        }
+    }
     Q_DISABLE_COPY(StoredLanguage)
 
 private:
-    QSettings m_family;
-    const QVariant m_language;
+    const QString m_key = QStringLiteral("currentLanguage");
+    QSettings m_family{QStringLiteral("Tolvan"), QStringLiteral("Ostra Collection")};
+    const QVariant m_language = m_family.value(m_key);
 };

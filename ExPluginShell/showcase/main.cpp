@@ -1,8 +1,7 @@
-#include "LiveLog.h"
-#include "OwnTexts.h"
+#include "LogModel.h"
+#include "pages/Pages.h"
 #include "Report.h"
 #include "Screenshots.h"
-#include "sections/Sections.h"
 #include "ShowcaseWindow.h"
 
 #include <utilsDll/customtolvanappstyle.h>
@@ -15,6 +14,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QTranslator>
 
 #include <algorithm>
 #include <memory>
@@ -25,9 +25,14 @@ namespace
 int runConsole()
 {
     Report report;
-    for (const Section& section : sections()) {
-        report.heading(QString::fromLatin1(section.title));
-        section.run(report);
+    auto all = pages();
+    std::rotate(all.begin(), all.end() - 1,
+                all.end()); // the log first, so that it has the lines of the others
+    for (const Page& page : all) {
+        if (page.walk) {
+            report.heading(QString::fromLatin1(page.title));
+            page.walk(report);
+        }
     }
     return report.finish() ? 0 : 1;
 }
@@ -37,6 +42,7 @@ void startLog()
 {
     using namespace TOLVAN_NAMESPACE;
     if (isLoggerEnabled()) {
+        LogModel::instance(); // has the lines from the first one on
         LiveLog& log = LiveLog::instance();
         const QString level = getLogLevel(); // may be stored as an empty text
         log.init(CStorageLocation::loggerFilesPath().toStdString(), "showcase",
@@ -51,6 +57,22 @@ bool hasNoDisplay()
     return QGuiApplication::platformName() == QLatin1String("offscreen");
 }
 
+/// Keeps the showcase's own texts in the language of the library. The library carries only its own texts and Qt's,
+/// so each host brings a catalogue of its own and follows the language manager.
+void followLanguage()
+{
+    auto* const languages = TOLVAN_NAMESPACE::CLanguageManager::instance();
+    auto* const texts = new QTranslator(qApp);
+    const auto follow = [=] {
+        QCoreApplication::removeTranslator(texts);
+        if (texts->load(QStringLiteral(":/showcase/showcase_%1.qm").arg(languages->currentLanguageAbbrv()))) {
+            QCoreApplication::installTranslator(texts);
+        }
+    };
+    QObject::connect(languages, &TOLVAN_NAMESPACE::CLanguageManager::languageChanged, texts, follow);
+    follow();
+}
+
 /// Language and appearance, as every host of the product sets them once at start-up.
 void applyAppearance()
 {
@@ -61,7 +83,7 @@ void applyAppearance()
         QApplication::setFont(font);
     }
     CLanguageManager::instance()->loadLanguageForApp();
-    new OwnTexts(qApp);
+    followLanguage();
     loadFonts();
     loadAppLogoIcon();
     QApplication::setStyle(new CustomTolvanAppStyle);
@@ -111,14 +133,12 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(
         QStringLiteral("A host that uses UtilsDllTrelioFrame as the product does."));
     parser.addHelpOption();
-    const QCommandLineOption console(QStringLiteral("console"),
-                                     QStringLiteral("Walk the subsystems and print a report."));
-    const QCommandLineOption temporary(QStringLiteral("temporary"),
-                                       QStringLiteral("Keep settings in a temporary file for this run."));
-    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
-                                         QStringLiteral("Write every page as a picture."),
-                                         QStringLiteral("folder"));
-    parser.addOptions({console, temporary, screenshots});
+    const QString temporary = QStringLiteral("temporary");
+    const QString screenshots = QStringLiteral("screenshots");
+    parser.addOptions(
+        {{QStringLiteral("console"), QStringLiteral("Walk the subsystems and print a report.")},
+         {temporary, QStringLiteral("Keep settings in a temporary file for this run.")},
+         {screenshots, QStringLiteral("Write every page as a picture."), QStringLiteral("folder")}});
     parser.process(*application);
 
     std::unique_ptr<CTemporarySettings> settings;

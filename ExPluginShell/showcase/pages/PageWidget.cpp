@@ -1,13 +1,5 @@
 #include "PageWidget.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-#include <QFormLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 PageWidget::PageWidget(QWidget* parent)
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
@@ -18,8 +10,8 @@ PageWidget::PageWidget(QWidget* parent)
 
 void PageWidget::translate(const char* source, std::function<void(const QString&)> apply)
 {
-    m_texts.push_back({source, std::move(apply)});
-    this->apply(m_texts.back());
+    m_texts.push_back([=] { apply(QCoreApplication::translate(metaObject()->className(), source)); });
+    m_texts.back()();
 }
 
 void PageWidget::say(QLabel* label, std::function<QString()> text)
@@ -28,28 +20,18 @@ void PageWidget::say(QLabel* label, std::function<QString()> text)
     m_said[label] = std::move(text);
 }
 
-void PageWidget::apply(const Text& text) const
-{
-    text.apply(QCoreApplication::translate(metaObject()->className(), text.source));
-}
-
-void PageWidget::addAnswer()
+QLabel* PageWidget::makeAnswer()
 {
     m_answer = new QLabel(this);
     m_answer->setObjectName(QStringLiteral("answer"));
     m_answer->setWordWrap(true);
     m_answer->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_column->addWidget(m_answer);
-}
-
-void PageWidget::answer(std::function<QString()> text)
-{
-    say(m_answer, std::move(text));
+    return m_answer;
 }
 
 QLabel* PageWidget::addTitle(const char* source)
 {
-    auto* label = addText(source);
+    auto* const label = addText(source);
     label->setObjectName(QStringLiteral("pageSubtitle"));
     label->setContentsMargins(0, 10, 0, 0);
     return label;
@@ -57,25 +39,23 @@ QLabel* PageWidget::addTitle(const char* source)
 
 QLabel* PageWidget::addText(const char* source)
 {
-    auto* label = new QLabel(this);
+    auto* const label = withText(new QLabel(this), source);
     label->setWordWrap(true);
-    translate(source, [label](const QString& text) { label->setText(text); });
     m_column->addWidget(label);
     return label;
 }
 
 QPushButton* PageWidget::makeButton(const char* source, std::function<void()> action)
 {
-    auto* button = new QPushButton(this);
+    auto* const button = withText(new QPushButton(this), source);
     button->setAutoDefault(false);
-    translate(source, [button](const QString& text) { button->setText(text); });
     connect(button, &QPushButton::clicked, this, std::move(action));
     return button;
 }
 
 QFormLayout* PageWidget::addForm()
 {
-    auto* form = new QFormLayout;
+    auto* const form = new QFormLayout;
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
@@ -83,32 +63,61 @@ QFormLayout* PageWidget::addForm()
     return form;
 }
 
-void PageWidget::addButtons(std::initializer_list<QPushButton*> buttons)
+QHBoxLayout* PageWidget::makeRow(std::initializer_list<QWidget*> widgets, int wide)
 {
-    auto* row = new QHBoxLayout;
+    auto* const row = new QHBoxLayout;
     row->setSpacing(8);
-    for (QPushButton* const button : buttons) {
-        row->addWidget(button);
+    for (QWidget* const widget : widgets) {
+        row->addWidget(widget, row->count() == wide);
     }
-    row->addStretch();
-    m_column->addLayout(row);
+    if (wide < 0) {
+        row->addStretch();
+    }
+    return row;
 }
 
 void PageWidget::addRow(QFormLayout* form, const char* source, QWidget* field)
 {
     constexpr int labelWidth = 230; // the same in all forms of a page
-    auto* label = new QLabel(this);
+    auto* const label = withText(new QLabel(this), source);
     label->setMinimumWidth(labelWidth);
     label->setBuddy(field);
-    translate(source, [label](const QString& text) { label->setText(text); });
     form->addRow(label, field);
+}
+
+QLabel* PageWidget::addFact(QFormLayout* form, const char* source, std::function<QString()> value)
+{
+    auto* const label = new QLabel(this);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    say(label, std::move(value));
+    addRow(form, source, label);
+    return label;
+}
+
+void PageWidget::prepareTable(QTableView* table)
+{
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setTabKeyNavigation(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void PageWidget::refill(QComboBox* box, const QStringList& texts)
+{
+    const int index = qMax(0, box->currentIndex());
+    box->clear();
+    box->addItems(texts);
+    box->setCurrentIndex(index);
 }
 
 void PageWidget::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        for (const Text& text : m_texts) {
-            apply(text);
+        for (const auto& renew : m_texts) {
+            renew();
         }
         for (const auto& [label, text] : m_said) {
             label->setText(text());

@@ -1,26 +1,19 @@
 #pragma once
 
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 #include <map>
 #include <vector>
 
-class QFormLayout;
-class QLabel;
-class QPushButton;
-class QVBoxLayout;
-
-/// Base of the pages: a column of widgets whose texts follow the language while the showcase runs.
+/// Base of the pages: a column of widgets whose texts follow the language while the showcase runs. Brings all
+/// of Qt's widgets with it.
 ///
 /// \code
 /// StylePage::StylePage(QWidget* parent) : PageWidget(parent)
 /// {
 ///     addTitle(QT_TR_NOOP("Sliders"));
-///     auto* button = new QPushButton(this);
-///     const char* const reset = QT_TR_NOOP("Reset");
-///     translate(reset, [button](const QString& text) { button->setText(text); });
-///     column()->addWidget(button);
+///     column()->addWidget(withText(new QPushButton, QT_TR_NOOP("Reset")));
 /// }
 /// \endcode
 class PageWidget : public QWidget
@@ -38,6 +31,9 @@ protected:
     /// the class of the page, so \a source is marked with QT_TR_NOOP; outside of this call, whose name the
     /// tools take for a translation of their own.
     void translate(const char* source, std::function<void(const QString&)> apply);
+    /// Keeps a property of \a object, its text if none is named, in the language of the application.
+    template <class Object>
+    Object* withText(Object* object, const char* source, const char* property = "text");
     /// Shows in \a label what \a text puts together, now and whenever the language changes, until the next
     /// call for this label.
     void say(QLabel* label, std::function<QString()> text);
@@ -52,30 +48,38 @@ protected:
     QPushButton* makeButton(const char* source, std::function<void()> action);
     /// Adds a form with the label column at the left.
     QFormLayout* addForm();
-    /// Adds a row of buttons, left-aligned.
-    void addButtons(std::initializer_list<QPushButton*> buttons);
+    /// Makes a row of widgets, left-aligned unless one of them is to take what is left.
+    static QHBoxLayout* makeRow(std::initializer_list<QWidget*> widgets, int wide = -1);
+    /// Adds a row of widgets, left-aligned.
+    void addButtons(std::initializer_list<QWidget*> buttons) { column()->addLayout(makeRow(buttons)); }
     /// Adds a row with a translated label to \a form.
     void addRow(QFormLayout* form, const char* source, QWidget* field);
+    /// Adds a row with a text that can be selected and follows the language.
+    QLabel* addFact(QFormLayout* form, const char* source, std::function<QString()> value);
+    /// Sets up \a table for reading: whole rows, no numbers beside them, no editing, Tab leaves it.
+    static void prepareTable(QTableView* table);
+    /// Renews the texts of \a box; the choice stays.
+    static void refill(QComboBox* box, const QStringList& texts);
 
-    /// Adds the line that answer() fills.
-    void addAnswer();
+    /// Makes the label that answer() fills; the caller adds it to a layout.
+    QLabel* makeAnswer();
     /// What came of the last action; follows the language.
-    void answer(std::function<QString()> text);
+    void answer(std::function<QString()> text) { say(m_answer, std::move(text)); }
 
     /// Called after every change of the language, for texts that are put together.
     virtual void languageChanged() {}
     void changeEvent(QEvent* event) override;
 
 private:
-    struct Text {
-        const char* source;
-        std::function<void(const QString&)> apply;
-    };
-
-    void apply(const Text& text) const;
-
     QVBoxLayout* m_column;
-    std::vector<Text> m_texts;
+    std::vector<std::function<void()>> m_texts;
     std::map<QLabel*, std::function<QString()>> m_said;
     QLabel* m_answer = nullptr;
 };
+
+template <class Object>
+Object* PageWidget::withText(Object* object, const char* source, const char* property)
+{
+    translate(source, [object, property](const QString& text) { object->setProperty(property, text); });
+    return object;
+}

@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -68,15 +68,16 @@ QStringList RulesGraph::rulesFrom(const QString& correction) const
     return texts;
 }
 
-QPointF RulesGraph::place(int node) const
+/// Where a node stands: "None" in the middle, the others about it.
+QRectF RulesGraph::box(int node) const
 {
-    const QPointF middle(width() / 2.0, height() / 2.0);
-    if (node == 0) {
-        return middle;
-    }
     const double angle = M_PI / 4 + (node - 1) * M_PI / 2;
-    return middle + QPointF(std::cos(angle) * (width() / 2.0 - nodeSize.width() * 0.4) * 0.92,
-                            std::sin(angle) * (height() / 2.0 - nodeSize.height()) * 1.1);
+    const QPointF reach = node == 0 ? QPointF()
+                                    : QPointF(std::cos(angle) * (width() * 0.46 - nodeSize.width() * 0.37),
+                                              std::sin(angle) * (height() * 0.55 - nodeSize.height() * 1.1));
+    QRectF place(QPointF(), nodeSize);
+    place.moveCenter(QPointF(width(), height()) / 2 + reach);
+    return place;
 }
 
 void RulesGraph::paintEvent(QPaintEvent*)
@@ -84,27 +85,31 @@ void RulesGraph::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const bool ofChosen : {false, true}) {
+        painter.setPen(QPen(ofChosen ? accent : QColor(0x5A, 0x5E, 0x65), ofChosen ? 2.0 : 1.0));
         for (int from = 0; from < m_nodes.size(); ++from) {
-            QStringList drawn;
-            for (const RulesMachine::Rule& rule : m_machine.rules()) {
-                const QString target = targetOf(rule, m_nodes.at(from));
-                if ((from == m_chosen) == ofChosen && !target.isEmpty() && !drawn.contains(target)) {
-                    drawn += target;
-                    painter.setPen(QPen(ofChosen ? accent : QColor(0x5A, 0x5E, 0x65), ofChosen ? 2.0 : 1.0));
-                    paintArrow(painter, place(from), place(m_nodes.indexOf(target)));
+            for (int to = 0; to < m_nodes.size(); ++to) {
+                if ((from == m_chosen) == ofChosen && leads(m_nodes.at(from), m_nodes.at(to))) {
+                    paintArrow(painter, box(from).center(), box(to).center());
                 }
             }
         }
     }
     for (int node = 0; node < m_nodes.size(); ++node) {
-        const QRectF box(place(node) - QPointF(nodeSize.width(), nodeSize.height()) / 2, nodeSize);
         const bool chosen = node == m_chosen;
         painter.setPen(QPen(chosen ? accent : QColor(0x6B, 0x70, 0x78), chosen && hasFocus() ? 3.0 : 1.5));
         painter.setBrush(chosen ? QColor(0x1F, 0x7C, 0x8D) : QColor(0x2C, 0x2D, 0x31));
-        painter.drawRoundedRect(box, 6, 6);
+        painter.drawRoundedRect(box(node), 6, 6);
         painter.setPen(Qt::white);
-        painter.drawText(box, Qt::AlignCenter, m_nodes.at(node));
+        painter.drawText(box(node), Qt::AlignCenter, m_nodes.at(node));
     }
+}
+
+/// Whether a rule leads from one correction to another.
+bool RulesGraph::leads(const QString& from, const QString& to) const
+{
+    const auto& rules = m_machine.rules();
+    return std::any_of(rules.begin(), rules.end(),
+                       [&](const RulesMachine::Rule& rule) { return targetOf(rule, from) == to; });
 }
 
 void RulesGraph::choose(int node)
@@ -117,8 +122,7 @@ void RulesGraph::choose(int node)
 void RulesGraph::mousePressEvent(QMouseEvent* event)
 {
     for (int node = 0; node < m_nodes.size(); ++node) {
-        const QRectF box(place(node) - QPointF(nodeSize.width(), nodeSize.height()) / 2, nodeSize);
-        if (box.contains(event->localPos())) {
+        if (box(node).contains(event->localPos())) {
             choose(node);
         }
     }

@@ -13,8 +13,6 @@ class RulesGraph : public QWidget
 public:
     explicit RulesGraph(QWidget* parent);
 
-    /// How many rules there are.
-    int ruleCount() const { return m_machine.rules().size(); }
     /// The rules that lead from \a correction to another one, in words.
     QStringList rulesFrom(const QString& correction) const;
     QString chosen() const { return m_nodes.at(m_chosen); }
@@ -30,8 +28,9 @@ protected:
     QSize minimumSizeHint() const override { return {320, 300}; }
 
 private:
-    QPointF place(int node) const;
+    QRectF box(int node) const;
     void choose(int node);
+    bool leads(const QString& from, const QString& to) const;
 
     RulesMachine m_machine;
     const QStringList m_nodes;

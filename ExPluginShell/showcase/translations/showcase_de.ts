@@ -3,9 +3,34 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n Anforderung</numerusform>
+            <numerusform>%n Anforderungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n Aufruf</numerusform>
+            <numerusform>%n Aufrufe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>Die Wartezeit ist um. %n Klick zurückgehalten und danach zugestellt.</numerusform>
+            <numerusform>Die Wartezeit ist um. %n Klicks zurückgehalten und danach zugestellt.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Delayed calls</source>
         <translation>Verzögerte Aufrufe</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Anforderungen</translation>
     </message>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -24,6 +49,10 @@
         <translation>Warten</translation>
     </message>
     <message>
+        <source>No clicks yet.</source>
+        <translation>Noch keine Klicks.</translation>
+    </message>
+    <message>
         <source>Wait, input excluded</source>
         <translation>Warten ohne Eingaben</translation>
     </message>
@@ -35,27 +64,16 @@
         <source>Click me meanwhile</source>
         <translation>Klicken Sie mich inzwischen</translation>
     </message>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n Klick</numerusform>
+            <numerusform>%n Klicks</numerusform>
+        </translation>
+    </message>
     <message>
         <source>While the page waits, clicks are held back and delivered after the wait.</source>
         <translation>Während die Seite wartet, werden Klicks zurückgehalten und danach zugestellt.</translation>
-    </message>
-    <message>
-        <source>No clicks yet.</source>
-        <translation>Noch keine Klicks.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n request(s)</source>
-        <translation>
-            <numerusform>%n Anforderung</numerusform>
-            <numerusform>%n Anforderungen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n call(s)</source>
-        <translation>
-            <numerusform>%n Aufruf</numerusform>
-            <numerusform>%n Aufrufe</numerusform>
-        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
@@ -72,13 +90,6 @@
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>%1 ms Wartezeit. Klicks werden zurückgehalten.</translation>
     </message>
-    <message numerus="yes">
-        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
-        <translation>
-            <numerusform>Die Wartezeit ist um. %n Klick zurückgehalten und danach zugestellt.</numerusform>
-            <numerusform>Die Wartezeit ist um. %n Klicks zurückgehalten und danach zugestellt.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
         <translation>Warten auf einen Arbeitsfaden. Klicks werden sofort zugestellt.</translation>
@@ -86,13 +97,6 @@
     <message>
         <source>The worker has finished.</source>
         <translation>Die Aufgabe ist beendet.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n click(s)</source>
-        <translation>
-            <numerusform>%n Klick</numerusform>
-            <numerusform>%n Klicks</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -149,6 +153,14 @@
         <translation>Dateiname</translation>
     </message>
     <message>
+        <source>may be used</source>
+        <translation>erlaubt</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
         <source>As a name</source>
         <translation>Als Name</translation>
     </message>
@@ -165,6 +177,14 @@
         <translation>Zweiter Pfad</translation>
     </message>
     <message>
+        <source>equal</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
         <source>Compared as a whole</source>
         <translation>Im Ganzen verglichen</translation>
     </message>
@@ -179,6 +199,10 @@
     <message>
         <source>A folder as an archive</source>
         <translation>Ein Ordner als Archiv</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -209,40 +233,12 @@
         <translation>Die Dateiverwaltung wurde gebeten, %1 zu zeigen.</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>In den Papierkorb legen</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>Das Archiv liegt im Papierkorb.</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>Es gibt kein Archiv.</translation>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
     </message>
     <message>
         <source>Cancelled: no archive is left.</source>
         <translation>Abgebrochen: Es bleibt kein Archiv zurück.</translation>
-    </message>
-    <message>
-        <source>may be used</source>
-        <translation>erlaubt</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>abgelehnt</translation>
-    </message>
-    <message>
-        <source>equal</source>
-        <translation>gleich</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>verschieden</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Ordner wählen</translation>
     </message>
 </context>
 <context>
@@ -250,14 +246,6 @@
     <message>
         <source>Use this language</source>
         <translation>Diese Sprache verwenden</translation>
-    </message>
-    <message>
-        <source>Now in use: %1</source>
-        <translation>Jetzt in Gebrauch: %1</translation>
-    </message>
-    <message>
-        <source>Already in use: %1</source>
-        <translation>Bereits in Gebrauch: %1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -290,6 +278,14 @@
     <message>
         <source>Abbreviation</source>
         <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>Jetzt in Gebrauch: %1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>Bereits in Gebrauch: %1</translation>
     </message>
 </context>
 <context>
@@ -358,12 +354,16 @@
         <translation>Fehler</translation>
     </message>
     <message>
-        <source>Logged at the level %1.</source>
-        <translation>Mit der Stufe %1 protokolliert.</translation>
+        <source>Show from</source>
+        <translation>Anzeigen ab</translation>
     </message>
     <message>
         <source>The log of this process</source>
         <translation>Das Protokoll dieses Prozesses</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>Mit der Stufe %1 protokolliert.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +507,8 @@
         <translation>Dateien</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Namen, Größen, Archive, Papierkorb und Dateimanager.</translation>
+        <source>Names, sizes, archives and the file browser.</source>
+        <translation>Namen, Größen, Archive und Dateimanager.</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -531,8 +531,8 @@
         <translation>Darstellung</translation>
     </message>
     <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Alle Standard-Bedienelemente im Stil des Produkts.</translation>
+        <source>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</source>
+        <translation>Standardelemente im Stil und mit den Stylesheets des Produkts, in den Zuständen, die sie annehmen können.</translation>
     </message>
     <message>
         <source>Message boxes</source>
@@ -590,44 +590,6 @@
         <translation>Stylesheets</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>Zustand</translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation>Skalierung</translation>
-    </message>
-    <message>
-        <source>Ground</source>
-        <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation>Pfad kopieren</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n icon(s)</source>
-        <translation>
-            <numerusform>%n Symbol</numerusform>
-            <numerusform>%n Symbole</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No icon is chosen.</source>
-        <translation>Kein Symbol ist gewählt.</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>Kopiert: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n rule(s) lead on from</source>
-        <translation>
-            <numerusform>%n Regel führt weiter von</numerusform>
-            <numerusform>%n Regeln führen weiter von</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Normal</source>
         <translation>Normal</translation>
     </message>
@@ -663,16 +625,54 @@
         <source>Light</source>
         <translation>Hell</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>The six preferred countries stand above the line, which cannot be chosen.</source>
+        <translation>Die sechs bevorzugten Länder stehen über der Linie, die sich nicht wählen lässt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n Regel führt weiter von</numerusform>
+            <numerusform>%n Regeln führen weiter von</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n Symbol</numerusform>
+            <numerusform>%n Symbole</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>Kein Symbol ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Settings are kept in %1.</source>
-        <translation>Einstellungen liegen in %1.</translation>
-    </message>
-    <message>
-        <source>Settings are kept in the system&apos;s own store again.</source>
-        <translation>Einstellungen liegen wieder im Einstellungsspeicher des Systems.</translation>
+        <source>Keep all settings in a temporary file, which is removed afterwards</source>
+        <translation>Alle Einstellungen in einer temporären Datei halten, die danach gelöscht wird</translation>
     </message>
     <message>
         <source>Logged from the next start on: %1</source>
@@ -739,16 +739,24 @@
         <translation>In die Datei schreiben</translation>
     </message>
     <message>
-        <source>Written and read back: %1 = %2</source>
-        <translation>Geschrieben und zurückgelesen: %1 = %2</translation>
-    </message>
-    <message>
         <source>Written into the file of the product family.</source>
         <translation>In die Datei der Produktfamilie geschrieben.</translation>
     </message>
     <message>
         <source>The file of the product family cannot be written.</source>
         <translation>Die Datei der Produktfamilie kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in %1.</source>
+        <translation>Einstellungen liegen in %1.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>Einstellungen liegen wieder im Einstellungsspeicher des Systems.</translation>
+    </message>
+    <message>
+        <source>Written and read back: %1 = %2</source>
+        <translation>Geschrieben und zurückgelesen: %1 = %2</translation>
     </message>
 </context>
 <context>
@@ -776,14 +784,6 @@
 </context>
 <context>
     <name>StatePage</name>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
     <message>
         <source>First launch on this profile</source>
         <translation>Erster Start mit diesem Profil</translation>
@@ -864,6 +864,14 @@
         <source>Reset: the work ended well.</source>
         <translation>Zurückgesetzt: Die Arbeit endete ordentlich.</translation>
     </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
 </context>
 <context>
     <name>StoragePage</name>
@@ -924,18 +932,6 @@
         <translation>Erneut gelesen um %1.</translation>
     </message>
     <message>
-        <source>not on this system</source>
-        <translation>auf diesem System nicht vorhanden</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-    <message>
         <source>Purpose</source>
         <translation>Zweck</translation>
     </message>
@@ -946,6 +942,18 @@
     <message>
         <source>Exists</source>
         <translation>Vorhanden</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>auf diesem System nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
     </message>
 </context>
 <context>
@@ -991,26 +999,6 @@
         <translation>Flach</translation>
     </message>
     <message>
-        <source>Other buttons</source>
-        <translation>Weitere Schaltflächen</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>Ein Tooltip erklärt in einem Satz.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Automatisch korrigieren</translation>
-    </message>
-    <message>
         <source>Check boxes and radio buttons</source>
         <translation>Kontrollkästchen und Optionsfelder</translation>
     </message>
@@ -1019,24 +1007,24 @@
         <translation>Aus</translation>
     </message>
     <message>
-        <source>On</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
         <source>Partly</source>
         <translation>Teils</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
     <message>
-        <source>Old harbour at dusk</source>
-        <translation>Alter Hafen im Abendlicht</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>Alter Hafen im Abendlicht</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1051,44 +1039,16 @@
         <translation>Kennwort</translation>
     </message>
     <message>
-        <source>Can be read only</source>
-        <translation>Kann nur gelesen werden</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Kamera</translation>
-    </message>
-    <message>
         <source>Cannot be changed</source>
         <translation>Kann nicht geändert werden</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Choices and numbers</source>
         <translation>Auswahl und Zahlen</translation>
     </message>
     <message>
-        <source>Perspective</source>
-        <translation>Perspektive</translation>
-    </message>
-    <message>
         <source>Ranges and progress</source>
         <translation>Bereiche und Fortschritt</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Objektive</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Metadaten</translation>
     </message>
     <message>
         <source>Lens</source>
@@ -1103,54 +1063,6 @@
         <translation>Blende</translation>
     </message>
     <message>
-        <source>Shape</source>
-        <translation>Form</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Stürzende Linien</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizont</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Zuschneiden</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Verzeichnung</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Raster</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Hilfslinien</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Lupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Gerade Linien bleiben gerade, und der Turm kippt nicht länger nach hinten.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Tilt-Shift</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>An beiden Enden unscharf</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
@@ -1159,12 +1071,8 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>Fit to window</source>
-        <translation>An Fenster anpassen</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Originalgröße</translation>
+        <source>Grid</source>
+        <translation>Raster</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -1174,41 +1082,9 @@
         <source>Rotate left</source>
         <translation>Nach links drehen</translation>
     </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ansicht</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
-    </message>
 </context>
 <context>
     <name>ToolPanel</name>
-    <message>
-        <source>Accept</source>
-        <translation>Übernehmen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>No tool</source>
-        <translation>Kein Werkzeug</translation>
-    </message>
-    <message>
-        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
-        <translation>Wählen Sie links ein Werkzeug. Die Regeln des Produkts bestimmen, was ein Klick sonst noch ein- oder ausschaltet oder anwendet.</translation>
-    </message>
     <message>
         <source>Horizon</source>
         <translation>Horizont</translation>
@@ -1216,10 +1092,6 @@
     <message>
         <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
         <translation>Ziehen Sie eine Linie entlang dessen, was waagerecht sein soll. Mit Umschalt dreht sie sich in Schritten von 15°.</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>Drehung</translation>
     </message>
     <message>
         <source>Keystoning</source>
@@ -1234,20 +1106,8 @@
         <translation>Verzeichnung</translation>
     </message>
     <message>
-        <source>Camera and lens</source>
-        <translation>Kamera und Objektiv</translation>
-    </message>
-    <message>
-        <source>Every word has to occur, in any order.</source>
-        <translation>Alle Wörter müssen vorkommen, in beliebiger Reihenfolge.</translation>
-    </message>
-    <message>
         <source>Crop</source>
         <translation>Zuschneiden</translation>
-    </message>
-    <message>
-        <source>Aspect ratio</source>
-        <translation>Seitenverhältnis</translation>
     </message>
     <message>
         <source>Tilt-shift</source>
@@ -1256,6 +1116,54 @@
     <message>
         <source>What lies between the outer lines stays sharp.</source>
         <translation>Was zwischen den äußeren Linien liegt, bleibt scharf.</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>Kein Werkzeug</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>Wählen Sie links ein Werkzeug. Die Regeln des Produkts bestimmen, was ein Klick sonst noch ein- oder ausschaltet oder anwendet.</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Reset this tool</source>
+        <translation>Dieses Werkzeug zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>From pincushion to barrel</source>
+        <translation>Von kissenförmig bis tonnenförmig</translation>
+    </message>
+    <message>
+        <source>Search, for example: canon 24-70</source>
+        <translation>Suchen, zum Beispiel: canon 24-70</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Lenses found</source>
+        <translation>Gefundene Objektive</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>Alle Wörter müssen vorkommen, in beliebiger Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>Seitenverhältnis</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -1287,6 +1195,18 @@
 <context>
     <name>WebServicePage</name>
     <message>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>The service has not been asked yet.</source>
+        <translation>Der Dienst wurde noch nicht gefragt.</translation>
+    </message>
+    <message>
         <source>Amount</source>
         <translation>Menge</translation>
     </message>
@@ -1297,14 +1217,6 @@
     <message>
         <source>Ask the service</source>
         <translation>Dienst befragen</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Anfrage</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Antwort</translation>
     </message>
     <message>
         <source>Fault: %1</source>
@@ -1373,6 +1285,10 @@
         <translation>Vorher und nachher vergleichen</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
         <source>Save the corrections as a preset</source>
         <translation>Korrekturen als Vorgabe speichern</translation>
     </message>
@@ -1409,18 +1325,6 @@
         <translation>Noch keine Korrekturen</translation>
     </message>
     <message>
-        <source>Before and after are alike.</source>
-        <translation>Vorher und nachher sind gleich.</translation>
-    </message>
-    <message>
-        <source>Before and after differ.</source>
-        <translation>Vorher und nachher unterscheiden sich.</translation>
-    </message>
-    <message>
-        <source>Measure: %1</source>
-        <translation>Messwert: %1</translation>
-    </message>
-    <message>
         <source>Open a photo</source>
         <translation>Foto öffnen</translation>
     </message>
@@ -1441,8 +1345,16 @@
         <translation>Angehalten. Das Bild ist unverändert.</translation>
     </message>
     <message>
+        <source>%1 cannot be read any more.</source>
+        <translation>%1 kann nicht mehr gelesen werden.</translation>
+    </message>
+    <message>
         <source>Applied in %1 s</source>
         <translation>Angewendet in %1 s</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>Messwert: %1</translation>
     </message>
     <message>
         <source>Save the picture</source>
@@ -1493,10 +1405,6 @@
         <translation>Vorgabe gespeichert: %1</translation>
     </message>
     <message>
-        <source>Presets</source>
-        <translation>Vorgaben</translation>
-    </message>
-    <message>
         <source>Brought back: %1</source>
         <translation>Zurückgeholt: %1</translation>
     </message>
@@ -1511,6 +1419,14 @@
     <message>
         <source>Cannot be moved to the recycle bin: %1</source>
         <translation>Kann nicht in den Papierkorb verschoben werden: %1</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>Vorher und nachher sind gleich.</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>Vorher und nachher unterscheiden sich.</translation>
     </message>
 </context>
 </TS>

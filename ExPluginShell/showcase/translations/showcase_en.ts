@@ -3,9 +3,34 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n request</numerusform>
+            <numerusform>%n requests</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n call</numerusform>
+            <numerusform>%n calls</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>The wait is over. %n click held back and delivered afterwards.</numerusform>
+            <numerusform>The wait is over. %n clicks held back and delivered afterwards.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Delayed calls</source>
         <translation>Delayed calls</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Requests</translation>
     </message>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -24,6 +49,10 @@
         <translation>Waits</translation>
     </message>
     <message>
+        <source>No clicks yet.</source>
+        <translation>No clicks yet.</translation>
+    </message>
+    <message>
         <source>Wait, input excluded</source>
         <translation>Wait, input excluded</translation>
     </message>
@@ -35,27 +64,16 @@
         <source>Click me meanwhile</source>
         <translation>Click me meanwhile</translation>
     </message>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n click</numerusform>
+            <numerusform>%n clicks</numerusform>
+        </translation>
+    </message>
     <message>
         <source>While the page waits, clicks are held back and delivered after the wait.</source>
         <translation>While the page waits, clicks are held back and delivered after the wait.</translation>
-    </message>
-    <message>
-        <source>No clicks yet.</source>
-        <translation>No clicks yet.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n request(s)</source>
-        <translation>
-            <numerusform>%n request</numerusform>
-            <numerusform>%n requests</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n call(s)</source>
-        <translation>
-            <numerusform>%n call</numerusform>
-            <numerusform>%n calls</numerusform>
-        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
@@ -72,13 +90,6 @@
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>Waiting for %1 ms. Clicks are held back.</translation>
     </message>
-    <message numerus="yes">
-        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
-        <translation>
-            <numerusform>The wait is over. %n click held back and delivered afterwards.</numerusform>
-            <numerusform>The wait is over. %n clicks held back and delivered afterwards.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
         <translation>Waiting for a worker. Clicks are delivered at once.</translation>
@@ -86,13 +97,6 @@
     <message>
         <source>The worker has finished.</source>
         <translation>The worker has finished.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n click(s)</source>
-        <translation>
-            <numerusform>%n click</numerusform>
-            <numerusform>%n clicks</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -149,6 +153,14 @@
         <translation>File name</translation>
     </message>
     <message>
+        <source>may be used</source>
+        <translation>may be used</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
         <source>As a name</source>
         <translation>As a name</translation>
     </message>
@@ -165,6 +177,14 @@
         <translation>Second path</translation>
     </message>
     <message>
+        <source>equal</source>
+        <translation>equal</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>different</translation>
+    </message>
+    <message>
         <source>Compared as a whole</source>
         <translation>Compared as a whole</translation>
     </message>
@@ -179,6 +199,10 @@
     <message>
         <source>A folder as an archive</source>
         <translation>A folder as an archive</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -209,40 +233,12 @@
         <translation>Asked the file browser to show %1.</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>Send to the recycle bin</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>The archive is in the recycle bin.</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>There is no archive.</translation>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
     </message>
     <message>
         <source>Cancelled: no archive is left.</source>
         <translation>Cancelled: no archive is left.</translation>
-    </message>
-    <message>
-        <source>may be used</source>
-        <translation>may be used</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>refused</translation>
-    </message>
-    <message>
-        <source>equal</source>
-        <translation>equal</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>different</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Choose a folder</translation>
     </message>
 </context>
 <context>
@@ -250,14 +246,6 @@
     <message>
         <source>Use this language</source>
         <translation>Use this language</translation>
-    </message>
-    <message>
-        <source>Now in use: %1</source>
-        <translation>Now in use: %1</translation>
-    </message>
-    <message>
-        <source>Already in use: %1</source>
-        <translation>Already in use: %1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -290,6 +278,14 @@
     <message>
         <source>Abbreviation</source>
         <translation>Abbreviation</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>Now in use: %1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>Already in use: %1</translation>
     </message>
 </context>
 <context>
@@ -358,12 +354,16 @@
         <translation>Error</translation>
     </message>
     <message>
-        <source>Logged at the level %1.</source>
-        <translation>Logged at the level %1.</translation>
+        <source>Show from</source>
+        <translation>Show from</translation>
     </message>
     <message>
         <source>The log of this process</source>
         <translation>The log of this process</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>Logged at the level %1.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +507,8 @@
         <translation>Files</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Names, sizes, archives, the recycle bin and the file browser.</translation>
+        <source>Names, sizes, archives and the file browser.</source>
+        <translation>Names, sizes, archives and the file browser.</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -531,8 +531,8 @@
         <translation>Appearance</translation>
     </message>
     <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Every standard widget under the product&apos;s style and style sheets.</translation>
+        <source>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</source>
+        <translation>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</translation>
     </message>
     <message>
         <source>Message boxes</source>
@@ -590,44 +590,6 @@
         <translation>Style sheets</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>State</translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation>Scale</translation>
-    </message>
-    <message>
-        <source>Ground</source>
-        <translation>Ground</translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation>Copy the path</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n icon(s)</source>
-        <translation>
-            <numerusform>%n icon</numerusform>
-            <numerusform>%n icons</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No icon is chosen.</source>
-        <translation>No icon is chosen.</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>Copied: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n rule(s) lead on from</source>
-        <translation>
-            <numerusform>%n rule leads on from</numerusform>
-            <numerusform>%n rules lead on from</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Normal</source>
         <translation>Normal</translation>
     </message>
@@ -663,16 +625,54 @@
         <source>Light</source>
         <translation>Light</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Ground</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Copy the path</translation>
+    </message>
+    <message>
+        <source>The six preferred countries stand above the line, which cannot be chosen.</source>
+        <translation>The six preferred countries stand above the line, which cannot be chosen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n rule leads on from</numerusform>
+            <numerusform>%n rules lead on from</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n icon</numerusform>
+            <numerusform>%n icons</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>No icon is chosen.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copied: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Settings are kept in %1.</source>
-        <translation>Settings are kept in %1.</translation>
-    </message>
-    <message>
-        <source>Settings are kept in the system&apos;s own store again.</source>
-        <translation>Settings are kept in the system&apos;s own store again.</translation>
+        <source>Keep all settings in a temporary file, which is removed afterwards</source>
+        <translation>Keep all settings in a temporary file, which is removed afterwards</translation>
     </message>
     <message>
         <source>Logged from the next start on: %1</source>
@@ -739,16 +739,24 @@
         <translation>Write into the file</translation>
     </message>
     <message>
-        <source>Written and read back: %1 = %2</source>
-        <translation>Written and read back: %1 = %2</translation>
-    </message>
-    <message>
         <source>Written into the file of the product family.</source>
         <translation>Written into the file of the product family.</translation>
     </message>
     <message>
         <source>The file of the product family cannot be written.</source>
         <translation>The file of the product family cannot be written.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in %1.</source>
+        <translation>Settings are kept in %1.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>Settings are kept in the system&apos;s own store again.</translation>
+    </message>
+    <message>
+        <source>Written and read back: %1 = %2</source>
+        <translation>Written and read back: %1 = %2</translation>
     </message>
 </context>
 <context>
@@ -776,14 +784,6 @@
 </context>
 <context>
     <name>StatePage</name>
-    <message>
-        <source>yes</source>
-        <translation>yes</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
     <message>
         <source>First launch on this profile</source>
         <translation>First launch on this profile</translation>
@@ -864,6 +864,14 @@
         <source>Reset: the work ended well.</source>
         <translation>Reset: the work ended well.</translation>
     </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
 </context>
 <context>
     <name>StoragePage</name>
@@ -924,18 +932,6 @@
         <translation>Read again at %1.</translation>
     </message>
     <message>
-        <source>not on this system</source>
-        <translation>not on this system</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>yes</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-    <message>
         <source>Purpose</source>
         <translation>Purpose</translation>
     </message>
@@ -946,6 +942,18 @@
     <message>
         <source>Exists</source>
         <translation>Exists</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>not on this system</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
     </message>
 </context>
 <context>
@@ -991,26 +999,6 @@
         <translation>Flat</translation>
     </message>
     <message>
-        <source>Other buttons</source>
-        <translation>Other buttons</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Help</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>A tool tip explains in one sentence.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Options</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Correct automatically</translation>
-    </message>
-    <message>
         <source>Check boxes and radio buttons</source>
         <translation>Check boxes and radio buttons</translation>
     </message>
@@ -1019,24 +1007,24 @@
         <translation>Off</translation>
     </message>
     <message>
-        <source>On</source>
-        <translation>On</translation>
-    </message>
-    <message>
         <source>Partly</source>
         <translation>Partly</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
     </message>
     <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
     <message>
-        <source>Old harbour at dusk</source>
-        <translation>Old harbour at dusk</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Title</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>Old harbour at dusk</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1051,44 +1039,16 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>Can be read only</source>
-        <translation>Can be read only</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Camera</translation>
-    </message>
-    <message>
         <source>Cannot be changed</source>
         <translation>Cannot be changed</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Shortcut</translation>
     </message>
     <message>
         <source>Choices and numbers</source>
         <translation>Choices and numbers</translation>
     </message>
     <message>
-        <source>Perspective</source>
-        <translation>Perspective</translation>
-    </message>
-    <message>
         <source>Ranges and progress</source>
         <translation>Ranges and progress</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Lenses</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>History</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Metadata</translation>
     </message>
     <message>
         <source>Lens</source>
@@ -1103,54 +1063,6 @@
         <translation>Aperture</translation>
     </message>
     <message>
-        <source>Shape</source>
-        <translation>Shape</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Keystoning</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizon</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Crop</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Distortion</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Grid</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Guides</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Preview</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Loupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Straight lines stay straight, and the tower stops leaning backwards.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Tilt-shift</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>Blurred at both ends</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
@@ -1159,12 +1071,8 @@
         <translation>Redo</translation>
     </message>
     <message>
-        <source>Fit to window</source>
-        <translation>Fit to window</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Actual size</translation>
+        <source>Grid</source>
+        <translation>Grid</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -1174,41 +1082,9 @@
         <source>Rotate left</source>
         <translation>Rotate left</translation>
     </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Edit</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>View</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Ready</translation>
-    </message>
 </context>
 <context>
     <name>ToolPanel</name>
-    <message>
-        <source>Accept</source>
-        <translation>Accept</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>No tool</source>
-        <translation>No tool</translation>
-    </message>
-    <message>
-        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
-        <translation>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</translation>
-    </message>
     <message>
         <source>Horizon</source>
         <translation>Horizon</translation>
@@ -1216,10 +1092,6 @@
     <message>
         <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
         <translation>Drag a line along what should be level. With Shift it turns in steps of 15°.</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>Rotation</translation>
     </message>
     <message>
         <source>Keystoning</source>
@@ -1234,20 +1106,8 @@
         <translation>Distortion</translation>
     </message>
     <message>
-        <source>Camera and lens</source>
-        <translation>Camera and lens</translation>
-    </message>
-    <message>
-        <source>Every word has to occur, in any order.</source>
-        <translation>Every word has to occur, in any order.</translation>
-    </message>
-    <message>
         <source>Crop</source>
         <translation>Crop</translation>
-    </message>
-    <message>
-        <source>Aspect ratio</source>
-        <translation>Aspect ratio</translation>
     </message>
     <message>
         <source>Tilt-shift</source>
@@ -1256,6 +1116,54 @@
     <message>
         <source>What lies between the outer lines stays sharp.</source>
         <translation>What lies between the outer lines stays sharp.</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>No tool</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Accept</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Reset this tool</source>
+        <translation>Reset this tool</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>From pincushion to barrel</source>
+        <translation>From pincushion to barrel</translation>
+    </message>
+    <message>
+        <source>Search, for example: canon 24-70</source>
+        <translation>Search, for example: canon 24-70</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Camera and lens</translation>
+    </message>
+    <message>
+        <source>Lenses found</source>
+        <translation>Lenses found</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>Every word has to occur, in any order.</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>Aspect ratio</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -1287,6 +1195,18 @@
 <context>
     <name>WebServicePage</name>
     <message>
+        <source>Request</source>
+        <translation>Request</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Answer</translation>
+    </message>
+    <message>
+        <source>The service has not been asked yet.</source>
+        <translation>The service has not been asked yet.</translation>
+    </message>
+    <message>
         <source>Amount</source>
         <translation>Amount</translation>
     </message>
@@ -1297,14 +1217,6 @@
     <message>
         <source>Ask the service</source>
         <translation>Ask the service</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Request</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Answer</translation>
     </message>
     <message>
         <source>Fault: %1</source>
@@ -1373,6 +1285,10 @@
         <translation>Compare before and after</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
         <source>Save the corrections as a preset</source>
         <translation>Save the corrections as a preset</translation>
     </message>
@@ -1409,18 +1325,6 @@
         <translation>No corrections yet</translation>
     </message>
     <message>
-        <source>Before and after are alike.</source>
-        <translation>Before and after are alike.</translation>
-    </message>
-    <message>
-        <source>Before and after differ.</source>
-        <translation>Before and after differ.</translation>
-    </message>
-    <message>
-        <source>Measure: %1</source>
-        <translation>Measure: %1</translation>
-    </message>
-    <message>
         <source>Open a photo</source>
         <translation>Open a photo</translation>
     </message>
@@ -1441,8 +1345,16 @@
         <translation>Stopped. The picture is unchanged.</translation>
     </message>
     <message>
+        <source>%1 cannot be read any more.</source>
+        <translation>%1 cannot be read any more.</translation>
+    </message>
+    <message>
         <source>Applied in %1 s</source>
         <translation>Applied in %1 s</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>Measure: %1</translation>
     </message>
     <message>
         <source>Save the picture</source>
@@ -1493,10 +1405,6 @@
         <translation>Preset saved: %1</translation>
     </message>
     <message>
-        <source>Presets</source>
-        <translation>Presets</translation>
-    </message>
-    <message>
         <source>Brought back: %1</source>
         <translation>Brought back: %1</translation>
     </message>
@@ -1511,6 +1419,14 @@
     <message>
         <source>Cannot be moved to the recycle bin: %1</source>
         <translation>Cannot be moved to the recycle bin: %1</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>Before and after are alike.</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>Before and after differ.</translation>
     </message>
 </context>
 </TS>

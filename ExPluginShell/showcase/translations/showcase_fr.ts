@@ -3,9 +3,34 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n demande</numerusform>
+            <numerusform>%n demandes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n appel</numerusform>
+            <numerusform>%n appels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>L’attente est terminée. %n clic retenu puis transmis.</numerusform>
+            <numerusform>L’attente est terminée. %n clics retenus puis transmis.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Delayed calls</source>
         <translation>Appels différés</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Demandes</translation>
     </message>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -24,6 +49,10 @@
         <translation>Attentes</translation>
     </message>
     <message>
+        <source>No clicks yet.</source>
+        <translation>Aucun clic pour l’instant.</translation>
+    </message>
+    <message>
         <source>Wait, input excluded</source>
         <translation>Attendre, saisie exclue</translation>
     </message>
@@ -35,27 +64,16 @@
         <source>Click me meanwhile</source>
         <translation>Cliquez-moi entre-temps</translation>
     </message>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n clic</numerusform>
+            <numerusform>%n clics</numerusform>
+        </translation>
+    </message>
     <message>
         <source>While the page waits, clicks are held back and delivered after the wait.</source>
         <translation>Pendant l’attente, les clics sont retenus, puis transmis ensuite.</translation>
-    </message>
-    <message>
-        <source>No clicks yet.</source>
-        <translation>Aucun clic pour l’instant.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n request(s)</source>
-        <translation>
-            <numerusform>%n demande</numerusform>
-            <numerusform>%n demandes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n call(s)</source>
-        <translation>
-            <numerusform>%n appel</numerusform>
-            <numerusform>%n appels</numerusform>
-        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
@@ -72,13 +90,6 @@
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>Attente de %1 ms. Les clics sont retenus.</translation>
     </message>
-    <message numerus="yes">
-        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
-        <translation>
-            <numerusform>L’attente est terminée. %n clic retenu puis transmis.</numerusform>
-            <numerusform>L’attente est terminée. %n clics retenus puis transmis.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
         <translation>Attente d’une tâche de fond. Les clics sont transmis aussitôt.</translation>
@@ -86,13 +97,6 @@
     <message>
         <source>The worker has finished.</source>
         <translation>La tâche est terminée.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n click(s)</source>
-        <translation>
-            <numerusform>%n clic</numerusform>
-            <numerusform>%n clics</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -149,6 +153,14 @@
         <translation>Nom de fichier</translation>
     </message>
     <message>
+        <source>may be used</source>
+        <translation>utilisable</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
         <source>As a name</source>
         <translation>Comme nom</translation>
     </message>
@@ -165,6 +177,14 @@
         <translation>Deuxième chemin</translation>
     </message>
     <message>
+        <source>equal</source>
+        <translation>égaux</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différents</translation>
+    </message>
+    <message>
         <source>Compared as a whole</source>
         <translation>Comparés en entier</translation>
     </message>
@@ -179,6 +199,10 @@
     <message>
         <source>A folder as an archive</source>
         <translation>Un dossier en archive</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -209,40 +233,12 @@
         <translation>Le gestionnaire de fichiers a été prié d’afficher %1.</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>Placer dans la Corbeille</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>L’archive est dans la corbeille.</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>Il n’y a pas d’archive.</translation>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
     </message>
     <message>
         <source>Cancelled: no archive is left.</source>
         <translation>Annulé : aucune archive ne subsiste.</translation>
-    </message>
-    <message>
-        <source>may be used</source>
-        <translation>utilisable</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>refusé</translation>
-    </message>
-    <message>
-        <source>equal</source>
-        <translation>égaux</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>différents</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Choisir un dossier</translation>
     </message>
 </context>
 <context>
@@ -250,14 +246,6 @@
     <message>
         <source>Use this language</source>
         <translation>Utiliser cette langue</translation>
-    </message>
-    <message>
-        <source>Now in use: %1</source>
-        <translation>Maintenant utilisée : %1</translation>
-    </message>
-    <message>
-        <source>Already in use: %1</source>
-        <translation>Déjà utilisée : %1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -290,6 +278,14 @@
     <message>
         <source>Abbreviation</source>
         <translation>Abréviation</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>Maintenant utilisée : %1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>Déjà utilisée : %1</translation>
     </message>
 </context>
 <context>
@@ -358,12 +354,16 @@
         <translation>Erreur</translation>
     </message>
     <message>
-        <source>Logged at the level %1.</source>
-        <translation>Inscrit au niveau %1.</translation>
+        <source>Show from</source>
+        <translation>Afficher à partir de</translation>
     </message>
     <message>
         <source>The log of this process</source>
         <translation>Le journal de ce processus</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>Inscrit au niveau %1.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +507,8 @@
         <translation>Fichiers</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>Noms, tailles, archives, corbeille et gestionnaire de fichiers.</translation>
+        <source>Names, sizes, archives and the file browser.</source>
+        <translation>Noms, tailles, archives et gestionnaire de fichiers.</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -531,8 +531,8 @@
         <translation>Apparence</translation>
     </message>
     <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>Tous les éléments standard avec le style et les feuilles de style du produit.</translation>
+        <source>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</source>
+        <translation>Les éléments standard sous le style et les feuilles de style du produit, dans les états qu’ils peuvent prendre.</translation>
     </message>
     <message>
         <source>Message boxes</source>
@@ -590,44 +590,6 @@
         <translation>Feuilles de style</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>État</translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation>Échelle</translation>
-    </message>
-    <message>
-        <source>Ground</source>
-        <translation>Fond</translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation>Copier le chemin</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n icon(s)</source>
-        <translation>
-            <numerusform>%n icône</numerusform>
-            <numerusform>%n icônes</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No icon is chosen.</source>
-        <translation>Aucune icône n’est choisie.</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>Copié : %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n rule(s) lead on from</source>
-        <translation>
-            <numerusform>%n règle part de</numerusform>
-            <numerusform>%n règles partent de</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Normal</source>
         <translation>Normal</translation>
     </message>
@@ -663,16 +625,54 @@
         <source>Light</source>
         <translation>Clair</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Copier le chemin</translation>
+    </message>
+    <message>
+        <source>The six preferred countries stand above the line, which cannot be chosen.</source>
+        <translation>Les six pays privilégiés figurent au-dessus de la ligne, qui ne peut pas être choisie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n règle part de</numerusform>
+            <numerusform>%n règles partent de</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n icône</numerusform>
+            <numerusform>%n icônes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>Aucune icône n’est choisie.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copié : %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Settings are kept in %1.</source>
-        <translation>Les réglages sont conservés dans %1.</translation>
-    </message>
-    <message>
-        <source>Settings are kept in the system&apos;s own store again.</source>
-        <translation>Les réglages sont de nouveau conservés dans les réglages du système.</translation>
+        <source>Keep all settings in a temporary file, which is removed afterwards</source>
+        <translation>Garder tous les réglages dans un fichier temporaire, supprimé ensuite</translation>
     </message>
     <message>
         <source>Logged from the next start on: %1</source>
@@ -739,16 +739,24 @@
         <translation>Écrire dans le fichier</translation>
     </message>
     <message>
-        <source>Written and read back: %1 = %2</source>
-        <translation>Écrit et relu : %1 = %2</translation>
-    </message>
-    <message>
         <source>Written into the file of the product family.</source>
         <translation>Écrit dans le fichier de la famille de produits.</translation>
     </message>
     <message>
         <source>The file of the product family cannot be written.</source>
         <translation>Le fichier de la famille de produits ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in %1.</source>
+        <translation>Les réglages sont conservés dans %1.</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>Les réglages sont de nouveau conservés dans les réglages du système.</translation>
+    </message>
+    <message>
+        <source>Written and read back: %1 = %2</source>
+        <translation>Écrit et relu : %1 = %2</translation>
     </message>
 </context>
 <context>
@@ -776,14 +784,6 @@
 </context>
 <context>
     <name>StatePage</name>
-    <message>
-        <source>yes</source>
-        <translation>oui</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>non</translation>
-    </message>
     <message>
         <source>First launch on this profile</source>
         <translation>Premier lancement de ce profil</translation>
@@ -864,6 +864,14 @@
         <source>Reset: the work ended well.</source>
         <translation>Remis à zéro : le travail s’est bien terminé.</translation>
     </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
 </context>
 <context>
     <name>StoragePage</name>
@@ -924,18 +932,6 @@
         <translation>Relu à %1.</translation>
     </message>
     <message>
-        <source>not on this system</source>
-        <translation>absent de ce système</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>oui</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>non</translation>
-    </message>
-    <message>
         <source>Purpose</source>
         <translation>Usage</translation>
     </message>
@@ -946,6 +942,18 @@
     <message>
         <source>Exists</source>
         <translation>Existe</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>absent de ce système</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
     </message>
 </context>
 <context>
@@ -991,26 +999,6 @@
         <translation>Plat</translation>
     </message>
     <message>
-        <source>Other buttons</source>
-        <translation>Autres boutons</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>Une info-bulle explique en une phrase.</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Options</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>Corriger automatiquement</translation>
-    </message>
-    <message>
         <source>Check boxes and radio buttons</source>
         <translation>Cases à cocher et boutons radio</translation>
     </message>
@@ -1019,24 +1007,24 @@
         <translation>Non</translation>
     </message>
     <message>
-        <source>On</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
         <source>Partly</source>
         <translation>En partie</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>Text</source>
         <translation>Texte</translation>
     </message>
     <message>
-        <source>Old harbour at dusk</source>
-        <translation>Vieux port au crépuscule</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>Vieux port au crépuscule</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1051,44 +1039,16 @@
         <translation>Mot de passe</translation>
     </message>
     <message>
-        <source>Can be read only</source>
-        <translation>En lecture seule</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Appareil photo</translation>
-    </message>
-    <message>
         <source>Cannot be changed</source>
         <translation>Non modifiable</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Raccourci</translation>
     </message>
     <message>
         <source>Choices and numbers</source>
         <translation>Choix et nombres</translation>
     </message>
     <message>
-        <source>Perspective</source>
-        <translation>Perspective</translation>
-    </message>
-    <message>
         <source>Ranges and progress</source>
         <translation>Plages et progression</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>Objectifs</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historique</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>Métadonnées</translation>
     </message>
     <message>
         <source>Lens</source>
@@ -1103,54 +1063,6 @@
         <translation>Ouverture</translation>
     </message>
     <message>
-        <source>Shape</source>
-        <translation>Forme</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>Correction trapézoïdale</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizon</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>Recadrage</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>Distorsion</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Grille</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>Repères</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>Loupe</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>Les lignes droites restent droites, et la tour cesse de pencher en arrière.</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>Bascule et décentrement</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>Flou aux deux bords</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
@@ -1159,12 +1071,8 @@
         <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Fit to window</source>
-        <translation>Adapter à la fenêtre</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Taille réelle</translation>
+        <source>Grid</source>
+        <translation>Grille</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -1174,41 +1082,9 @@
         <source>Rotate left</source>
         <translation>Rotation à gauche</translation>
     </message>
-    <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Édition</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Affichage</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Prêt</translation>
-    </message>
 </context>
 <context>
     <name>ToolPanel</name>
-    <message>
-        <source>Accept</source>
-        <translation>Valider</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>No tool</source>
-        <translation>Aucun outil</translation>
-    </message>
-    <message>
-        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
-        <translation>Choisissez un outil à gauche. Les règles du produit décident de ce qu’un clic active, désactive ou applique en plus.</translation>
-    </message>
     <message>
         <source>Horizon</source>
         <translation>Horizon</translation>
@@ -1216,10 +1092,6 @@
     <message>
         <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
         <translation>Tracez une ligne le long de ce qui doit être horizontal. Avec Maj, elle tourne par pas de 15°.</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>Rotation</translation>
     </message>
     <message>
         <source>Keystoning</source>
@@ -1234,20 +1106,8 @@
         <translation>Distorsion</translation>
     </message>
     <message>
-        <source>Camera and lens</source>
-        <translation>Appareil et objectif</translation>
-    </message>
-    <message>
-        <source>Every word has to occur, in any order.</source>
-        <translation>Tous les mots doivent figurer, dans n’importe quel ordre.</translation>
-    </message>
-    <message>
         <source>Crop</source>
         <translation>Recadrage</translation>
-    </message>
-    <message>
-        <source>Aspect ratio</source>
-        <translation>Format</translation>
     </message>
     <message>
         <source>Tilt-shift</source>
@@ -1256,6 +1116,54 @@
     <message>
         <source>What lies between the outer lines stays sharp.</source>
         <translation>Ce qui se trouve entre les lignes extérieures reste net.</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>Aucun outil</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>Choisissez un outil à gauche. Les règles du produit décident de ce qu’un clic active, désactive ou applique en plus.</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Valider</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Reset this tool</source>
+        <translation>Réinitialiser cet outil</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>From pincushion to barrel</source>
+        <translation>Du coussinet au barillet</translation>
+    </message>
+    <message>
+        <source>Search, for example: canon 24-70</source>
+        <translation>Rechercher, par exemple : canon 24-70</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Appareil et objectif</translation>
+    </message>
+    <message>
+        <source>Lenses found</source>
+        <translation>Objectifs trouvés</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>Tous les mots doivent figurer, dans n’importe quel ordre.</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -1287,6 +1195,18 @@
 <context>
     <name>WebServicePage</name>
     <message>
+        <source>Request</source>
+        <translation>Requête</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>The service has not been asked yet.</source>
+        <translation>Le service n’a pas encore été interrogé.</translation>
+    </message>
+    <message>
         <source>Amount</source>
         <translation>Quantité</translation>
     </message>
@@ -1297,14 +1217,6 @@
     <message>
         <source>Ask the service</source>
         <translation>Interroger le service</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>Requête</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>Réponse</translation>
     </message>
     <message>
         <source>Fault: %1</source>
@@ -1373,6 +1285,10 @@
         <translation>Comparer avant et après</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
         <source>Save the corrections as a preset</source>
         <translation>Enregistrer les corrections comme préréglage</translation>
     </message>
@@ -1409,18 +1325,6 @@
         <translation>Aucune correction pour l’instant</translation>
     </message>
     <message>
-        <source>Before and after are alike.</source>
-        <translation>Avant et après sont semblables.</translation>
-    </message>
-    <message>
-        <source>Before and after differ.</source>
-        <translation>Avant et après diffèrent.</translation>
-    </message>
-    <message>
-        <source>Measure: %1</source>
-        <translation>Mesure : %1</translation>
-    </message>
-    <message>
         <source>Open a photo</source>
         <translation>Ouvrir une photo</translation>
     </message>
@@ -1441,8 +1345,16 @@
         <translation>Arrêté. L’image est inchangée.</translation>
     </message>
     <message>
+        <source>%1 cannot be read any more.</source>
+        <translation>%1 ne peut plus être lu.</translation>
+    </message>
+    <message>
         <source>Applied in %1 s</source>
         <translation>Appliqué en %1 s</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>Mesure : %1</translation>
     </message>
     <message>
         <source>Save the picture</source>
@@ -1493,10 +1405,6 @@
         <translation>Préréglage enregistré : %1</translation>
     </message>
     <message>
-        <source>Presets</source>
-        <translation>Préréglages</translation>
-    </message>
-    <message>
         <source>Brought back: %1</source>
         <translation>Récupéré : %1</translation>
     </message>
@@ -1511,6 +1419,14 @@
     <message>
         <source>Cannot be moved to the recycle bin: %1</source>
         <translation>Impossible de placer dans la Corbeille : %1</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>Avant et après sont semblables.</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>Avant et après diffèrent.</translation>
     </message>
 </context>
 </TS>

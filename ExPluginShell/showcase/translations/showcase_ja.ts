@@ -3,9 +3,31 @@
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>要求 %n 回</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>呼び出し %n 回</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>待機が終わりました。保留して後で届けたクリック：%n 回</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Delayed calls</source>
         <translation>遅延呼び出し</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>要求</translation>
     </message>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -24,6 +46,10 @@
         <translation>待機</translation>
     </message>
     <message>
+        <source>No clicks yet.</source>
+        <translation>まだクリックがありません。</translation>
+    </message>
+    <message>
         <source>Wait, input excluded</source>
         <translation>入力を止めて待機</translation>
     </message>
@@ -35,25 +61,15 @@
         <source>Click me meanwhile</source>
         <translation>その間にクリック</translation>
     </message>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>クリック %n 回</numerusform>
+        </translation>
+    </message>
     <message>
         <source>While the page waits, clicks are held back and delivered after the wait.</source>
         <translation>待機中のクリックは保留され、待機後に届きます。</translation>
-    </message>
-    <message>
-        <source>No clicks yet.</source>
-        <translation>まだクリックがありません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n request(s)</source>
-        <translation>
-            <numerusform>要求 %n 回</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n call(s)</source>
-        <translation>
-            <numerusform>呼び出し %n 回</numerusform>
-        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
@@ -69,12 +85,6 @@
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>%1 ms 待機中です。クリックは保留されます。</translation>
     </message>
-    <message numerus="yes">
-        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
-        <translation>
-            <numerusform>待機が終わりました。保留して後で届けたクリック：%n 回</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
         <translation>ワーカーを待っています。クリックはすぐに届きます。</translation>
@@ -82,12 +92,6 @@
     <message>
         <source>The worker has finished.</source>
         <translation>ワーカーが終了しました。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n click(s)</source>
-        <translation>
-            <numerusform>クリック %n 回</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -144,6 +148,14 @@
         <translation>ファイル名</translation>
     </message>
     <message>
+        <source>may be used</source>
+        <translation>使用できます</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>使用できません</translation>
+    </message>
+    <message>
         <source>As a name</source>
         <translation>名前として</translation>
     </message>
@@ -160,6 +172,14 @@
         <translation>2 つ目のパス</translation>
     </message>
     <message>
+        <source>equal</source>
+        <translation>同じ</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>異なる</translation>
+    </message>
+    <message>
         <source>Compared as a whole</source>
         <translation>全体の比較</translation>
     </message>
@@ -174,6 +194,10 @@
     <message>
         <source>A folder as an archive</source>
         <translation>フォルダーをアーカイブにする</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -204,40 +228,12 @@
         <translation>ファイルブラウザーに %1 の表示を依頼しました。</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>ごみ箱に移動</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>アーカイブはごみ箱にあります。</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>アーカイブがありません。</translation>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
     </message>
     <message>
         <source>Cancelled: no archive is left.</source>
         <translation>キャンセルしました：アーカイブは残っていません。</translation>
-    </message>
-    <message>
-        <source>may be used</source>
-        <translation>使用できます</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>使用できません</translation>
-    </message>
-    <message>
-        <source>equal</source>
-        <translation>同じ</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>異なる</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>フォルダーを選択</translation>
     </message>
 </context>
 <context>
@@ -245,14 +241,6 @@
     <message>
         <source>Use this language</source>
         <translation>この言語を使う</translation>
-    </message>
-    <message>
-        <source>Now in use: %1</source>
-        <translation>使用中：%1</translation>
-    </message>
-    <message>
-        <source>Already in use: %1</source>
-        <translation>すでに使用中：%1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -285,6 +273,14 @@
     <message>
         <source>Abbreviation</source>
         <translation>略号</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>使用中：%1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>すでに使用中：%1</translation>
     </message>
 </context>
 <context>
@@ -353,12 +349,16 @@
         <translation>エラー</translation>
     </message>
     <message>
-        <source>Logged at the level %1.</source>
-        <translation>レベル %1 で記録しました。</translation>
+        <source>Show from</source>
+        <translation>表示する最低レベル</translation>
     </message>
     <message>
         <source>The log of this process</source>
         <translation>このプロセスのログ</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>レベル %1 で記録しました。</translation>
     </message>
 </context>
 <context>
@@ -502,8 +502,8 @@
         <translation>ファイル</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>名前、サイズ、アーカイブ、ごみ箱、ファイルブラウザー。</translation>
+        <source>Names, sizes, archives and the file browser.</source>
+        <translation>名前、サイズ、アーカイブ、ファイルブラウザー。</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -526,8 +526,8 @@
         <translation>外観</translation>
     </message>
     <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>製品のスタイルとスタイルシートを適用した標準ウィジェット。</translation>
+        <source>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</source>
+        <translation>製品のスタイルとスタイルシートを適用した標準部品と、その状態ごとの表示です。</translation>
     </message>
     <message>
         <source>Message boxes</source>
@@ -585,42 +585,6 @@
         <translation>スタイルシート</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>状態</translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation>倍率</translation>
-    </message>
-    <message>
-        <source>Ground</source>
-        <translation>背景</translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation>パスをコピー</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n icon(s)</source>
-        <translation>
-            <numerusform>アイコン %n 個</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No icon is chosen.</source>
-        <translation>アイコンが選ばれていません。</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>コピーしました：%1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n rule(s) lead on from</source>
-        <translation>
-            <numerusform>%n 件の規則の出発点：</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Normal</source>
         <translation>通常</translation>
     </message>
@@ -656,16 +620,52 @@
         <source>Light</source>
         <translation>明るい</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>倍率</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>The six preferred countries stand above the line, which cannot be chosen.</source>
+        <translation>優先する 6 か国は線の上にあります。線は選べません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n 件の規則の出発点：</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>アイコン %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>アイコンが選ばれていません。</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>コピーしました：%1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Settings are kept in %1.</source>
-        <translation>設定は %1 に保存されます。</translation>
-    </message>
-    <message>
-        <source>Settings are kept in the system&apos;s own store again.</source>
-        <translation>設定は再びシステムの設定に保存されます。</translation>
+        <source>Keep all settings in a temporary file, which is removed afterwards</source>
+        <translation>すべての設定を一時ファイルに保存し、後で削除する</translation>
     </message>
     <message>
         <source>Logged from the next start on: %1</source>
@@ -732,16 +732,24 @@
         <translation>ファイルに書き込む</translation>
     </message>
     <message>
-        <source>Written and read back: %1 = %2</source>
-        <translation>書き込んで読み直しました：%1 = %2</translation>
-    </message>
-    <message>
         <source>Written into the file of the product family.</source>
         <translation>製品ファミリーのファイルに書き込みました。</translation>
     </message>
     <message>
         <source>The file of the product family cannot be written.</source>
         <translation>製品ファミリーのファイルに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Settings are kept in %1.</source>
+        <translation>設定は %1 に保存されます。</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>設定は再びシステムの設定に保存されます。</translation>
+    </message>
+    <message>
+        <source>Written and read back: %1 = %2</source>
+        <translation>書き込んで読み直しました：%1 = %2</translation>
     </message>
 </context>
 <context>
@@ -769,14 +777,6 @@
 </context>
 <context>
     <name>StatePage</name>
-    <message>
-        <source>yes</source>
-        <translation>あり</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>なし</translation>
-    </message>
     <message>
         <source>First launch on this profile</source>
         <translation>このプロファイルでの初回起動</translation>
@@ -857,6 +857,14 @@
         <source>Reset: the work ended well.</source>
         <translation>リセットしました：処理は正常に終わりました。</translation>
     </message>
+    <message>
+        <source>yes</source>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>StoragePage</name>
@@ -917,18 +925,6 @@
         <translation>%1 に読み直しました。</translation>
     </message>
     <message>
-        <source>not on this system</source>
-        <translation>このシステムにはありません</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>あり</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>なし</translation>
-    </message>
-    <message>
         <source>Purpose</source>
         <translation>用途</translation>
     </message>
@@ -939,6 +935,18 @@
     <message>
         <source>Exists</source>
         <translation>存在</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>このシステムにはありません</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>なし</translation>
     </message>
 </context>
 <context>
@@ -984,26 +992,6 @@
         <translation>フラット</translation>
     </message>
     <message>
-        <source>Other buttons</source>
-        <translation>その他のボタン</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>ツールチップは一文で説明します。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>オプション</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>自動補正</translation>
-    </message>
-    <message>
         <source>Check boxes and radio buttons</source>
         <translation>チェックボックスとラジオボタン</translation>
     </message>
@@ -1012,24 +1000,24 @@
         <translation>オフ</translation>
     </message>
     <message>
-        <source>On</source>
-        <translation>オン</translation>
-    </message>
-    <message>
         <source>Partly</source>
         <translation>一部</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
     </message>
     <message>
         <source>Text</source>
         <translation>テキスト</translation>
     </message>
     <message>
-        <source>Old harbour at dusk</source>
-        <translation>夕暮れの古い港</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>夕暮れの古い港</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1044,44 +1032,16 @@
         <translation>パスワード</translation>
     </message>
     <message>
-        <source>Can be read only</source>
-        <translation>読み取り専用</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>カメラ</translation>
-    </message>
-    <message>
         <source>Cannot be changed</source>
         <translation>変更できません</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>ショートカット</translation>
     </message>
     <message>
         <source>Choices and numbers</source>
         <translation>選択と数値</translation>
     </message>
     <message>
-        <source>Perspective</source>
-        <translation>パースペクティブ</translation>
-    </message>
-    <message>
         <source>Ranges and progress</source>
         <translation>範囲と進行状況</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>レンズ</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>履歴</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>メタデータ</translation>
     </message>
     <message>
         <source>Lens</source>
@@ -1096,54 +1056,6 @@
         <translation>絞り</translation>
     </message>
     <message>
-        <source>Shape</source>
-        <translation>形状</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>台形補正</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>水平</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>切り抜き</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>歪曲収差</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>グリッド</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>ガイド</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>プレビュー</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>ルーペ</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>直線はまっすぐなまま、塔が後ろに傾くこともなくなります。</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>ティルトシフト</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>両端をぼかす</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>元に戻す</translation>
     </message>
@@ -1152,12 +1064,8 @@
         <translation>やり直す</translation>
     </message>
     <message>
-        <source>Fit to window</source>
-        <translation>ウィンドウに合わせる</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>実寸表示</translation>
+        <source>Grid</source>
+        <translation>グリッド</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -1167,41 +1075,9 @@
         <source>Rotate left</source>
         <translation>左に回転</translation>
     </message>
-    <message>
-        <source>File</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>編集</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>表示</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
-    </message>
 </context>
 <context>
     <name>ToolPanel</name>
-    <message>
-        <source>Accept</source>
-        <translation>確定</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>No tool</source>
-        <translation>ツールなし</translation>
-    </message>
-    <message>
-        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
-        <translation>左のツールを選んでください。クリックで何がオン・オフになり、何が適用されるかは製品の規則が決めます。</translation>
-    </message>
     <message>
         <source>Horizon</source>
         <translation>水平</translation>
@@ -1209,10 +1085,6 @@
     <message>
         <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
         <translation>水平にしたいものに沿って線を引きます。Shift キーを押すと 15° ずつ回ります。</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>回転</translation>
     </message>
     <message>
         <source>Keystoning</source>
@@ -1227,20 +1099,8 @@
         <translation>歪曲収差</translation>
     </message>
     <message>
-        <source>Camera and lens</source>
-        <translation>カメラとレンズ</translation>
-    </message>
-    <message>
-        <source>Every word has to occur, in any order.</source>
-        <translation>すべての語を含むものを順序を問わず探します。</translation>
-    </message>
-    <message>
         <source>Crop</source>
         <translation>切り抜き</translation>
-    </message>
-    <message>
-        <source>Aspect ratio</source>
-        <translation>縦横比</translation>
     </message>
     <message>
         <source>Tilt-shift</source>
@@ -1249,6 +1109,54 @@
     <message>
         <source>What lies between the outer lines stays sharp.</source>
         <translation>外側の線の間は鮮明なままです。</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>ツールなし</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>左のツールを選んでください。クリックで何がオン・オフになり、何が適用されるかは製品の規則が決めます。</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Reset this tool</source>
+        <translation>このツールをリセット</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>From pincushion to barrel</source>
+        <translation>糸巻き型から樽型まで</translation>
+    </message>
+    <message>
+        <source>Search, for example: canon 24-70</source>
+        <translation>検索（例：canon 24-70）</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>カメラとレンズ</translation>
+    </message>
+    <message>
+        <source>Lenses found</source>
+        <translation>見つかったレンズ</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>すべての語を含むものを順序を問わず探します。</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>縦横比</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -1278,6 +1186,18 @@
 <context>
     <name>WebServicePage</name>
     <message>
+        <source>Request</source>
+        <translation>リクエスト</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <source>The service has not been asked yet.</source>
+        <translation>サービスにはまだ問い合わせていません。</translation>
+    </message>
+    <message>
         <source>Amount</source>
         <translation>数量</translation>
     </message>
@@ -1288,14 +1208,6 @@
     <message>
         <source>Ask the service</source>
         <translation>サービスに問い合わせる</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>リクエスト</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>応答</translation>
     </message>
     <message>
         <source>Fault: %1</source>
@@ -1363,6 +1275,10 @@
         <translation>補正前後を比較</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
         <source>Save the corrections as a preset</source>
         <translation>補正をプリセットとして保存</translation>
     </message>
@@ -1399,18 +1315,6 @@
         <translation>補正はまだありません</translation>
     </message>
     <message>
-        <source>Before and after are alike.</source>
-        <translation>補正前後に違いはありません。</translation>
-    </message>
-    <message>
-        <source>Before and after differ.</source>
-        <translation>補正前後に違いがあります。</translation>
-    </message>
-    <message>
-        <source>Measure: %1</source>
-        <translation>差の値：%1</translation>
-    </message>
-    <message>
         <source>Open a photo</source>
         <translation>写真を開く</translation>
     </message>
@@ -1431,8 +1335,16 @@
         <translation>停止しました。画像は変わっていません。</translation>
     </message>
     <message>
+        <source>%1 cannot be read any more.</source>
+        <translation>%1 を読み込めなくなりました。</translation>
+    </message>
+    <message>
         <source>Applied in %1 s</source>
         <translation>%1 秒で適用しました</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>差の値：%1</translation>
     </message>
     <message>
         <source>Save the picture</source>
@@ -1483,10 +1395,6 @@
         <translation>プリセットを保存しました：%1</translation>
     </message>
     <message>
-        <source>Presets</source>
-        <translation>プリセット</translation>
-    </message>
-    <message>
         <source>Brought back: %1</source>
         <translation>元に戻しました：%1</translation>
     </message>
@@ -1501,6 +1409,14 @@
     <message>
         <source>Cannot be moved to the recycle bin: %1</source>
         <translation>ごみ箱に移動できません：%1</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>補正前後に違いはありません。</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>補正前後に違いがあります。</translation>
     </message>
 </context>
 </TS>

@@ -3,9 +3,31 @@
 <TS version="2.1" language="zh-CN" sourcelanguage="en">
 <context>
     <name>AsyncPage</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n 次请求</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n 次调用</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
+        <translation>
+            <numerusform>等待结束。%n 次点击被保留并在之后送达。</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Delayed calls</source>
         <translation>延迟调用</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>请求</translation>
     </message>
     <message>
         <source>Move the slider: its many requests become one call.</source>
@@ -24,6 +46,10 @@
         <translation>等待</translation>
     </message>
     <message>
+        <source>No clicks yet.</source>
+        <translation>还没有点击。</translation>
+    </message>
+    <message>
         <source>Wait, input excluded</source>
         <translation>等待（屏蔽输入）</translation>
     </message>
@@ -35,25 +61,15 @@
         <source>Click me meanwhile</source>
         <translation>期间点击我</translation>
     </message>
+    <message numerus="yes">
+        <source>%n click(s)</source>
+        <translation>
+            <numerusform>%n 次点击</numerusform>
+        </translation>
+    </message>
     <message>
         <source>While the page waits, clicks are held back and delivered after the wait.</source>
         <translation>等待期间的点击会被保留，等待结束后再送达。</translation>
-    </message>
-    <message>
-        <source>No clicks yet.</source>
-        <translation>还没有点击。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n request(s)</source>
-        <translation>
-            <numerusform>%n 次请求</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n call(s)</source>
-        <translation>
-            <numerusform>%n 次调用</numerusform>
-        </translation>
     </message>
     <message>
         <source>Every %1 ms.</source>
@@ -69,12 +85,6 @@
         <source>Waiting for %1 ms. Clicks are held back.</source>
         <translation>等待 %1 毫秒。点击会被保留。</translation>
     </message>
-    <message numerus="yes">
-        <source>The wait is over. %n click(s) held back and delivered afterwards.</source>
-        <translation>
-            <numerusform>等待结束。%n 次点击被保留并在之后送达。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Waiting for a worker. Clicks are delivered at once.</source>
         <translation>正在等待后台线程。点击会立即送达。</translation>
@@ -82,12 +92,6 @@
     <message>
         <source>The worker has finished.</source>
         <translation>工作线程已完成。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n click(s)</source>
-        <translation>
-            <numerusform>%n 次点击</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -144,6 +148,14 @@
         <translation>文件名</translation>
     </message>
     <message>
+        <source>may be used</source>
+        <translation>可以使用</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
         <source>As a name</source>
         <translation>作为名称</translation>
     </message>
@@ -160,6 +172,14 @@
         <translation>第二个路径</translation>
     </message>
     <message>
+        <source>equal</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
         <source>Compared as a whole</source>
         <translation>整体比较</translation>
     </message>
@@ -174,6 +194,10 @@
     <message>
         <source>A folder as an archive</source>
         <translation>将文件夹压缩</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -204,40 +228,12 @@
         <translation>已请求文件浏览器显示 %1。</translation>
     </message>
     <message>
-        <source>Send to the recycle bin</source>
-        <translation>移到回收站</translation>
-    </message>
-    <message>
-        <source>The archive is in the recycle bin.</source>
-        <translation>压缩文件已在回收站中。</translation>
-    </message>
-    <message>
-        <source>There is no archive.</source>
-        <translation>没有压缩文件。</translation>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
     </message>
     <message>
         <source>Cancelled: no archive is left.</source>
         <translation>已取消：没有留下压缩文件。</translation>
-    </message>
-    <message>
-        <source>may be used</source>
-        <translation>可以使用</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>不允许</translation>
-    </message>
-    <message>
-        <source>equal</source>
-        <translation>相同</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>不同</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>选择文件夹</translation>
     </message>
 </context>
 <context>
@@ -245,14 +241,6 @@
     <message>
         <source>Use this language</source>
         <translation>使用此语言</translation>
-    </message>
-    <message>
-        <source>Now in use: %1</source>
-        <translation>现在使用：%1</translation>
-    </message>
-    <message>
-        <source>Already in use: %1</source>
-        <translation>已在使用：%1</translation>
     </message>
     <message>
         <source>What follows the language</source>
@@ -285,6 +273,14 @@
     <message>
         <source>Abbreviation</source>
         <translation>缩写</translation>
+    </message>
+    <message>
+        <source>Now in use: %1</source>
+        <translation>现在使用：%1</translation>
+    </message>
+    <message>
+        <source>Already in use: %1</source>
+        <translation>已在使用：%1</translation>
     </message>
 </context>
 <context>
@@ -353,12 +349,16 @@
         <translation>错误</translation>
     </message>
     <message>
-        <source>Logged at the level %1.</source>
-        <translation>已按级别“%1”记录。</translation>
+        <source>Show from</source>
+        <translation>显示自</translation>
     </message>
     <message>
         <source>The log of this process</source>
         <translation>此进程的日志</translation>
+    </message>
+    <message>
+        <source>Logged at the level %1.</source>
+        <translation>已按级别“%1”记录。</translation>
     </message>
 </context>
 <context>
@@ -502,8 +502,8 @@
         <translation>文件</translation>
     </message>
     <message>
-        <source>Names, sizes, archives, the recycle bin and the file browser.</source>
-        <translation>名称、大小、压缩文件、回收站和文件管理器。</translation>
+        <source>Names, sizes, archives and the file browser.</source>
+        <translation>名称、大小、压缩文件和文件管理器。</translation>
     </message>
     <message>
         <source>Asynchronous</source>
@@ -526,8 +526,8 @@
         <translation>外观</translation>
     </message>
     <message>
-        <source>Every standard widget under the product&apos;s style and style sheets.</source>
-        <translation>使用产品样式和样式表的所有标准控件。</translation>
+        <source>Standard widgets under the product&apos;s style and style sheets, in the states that they can be in.</source>
+        <translation>标准控件在产品样式和样式表下的外观，以及它们的各种状态。</translation>
     </message>
     <message>
         <source>Message boxes</source>
@@ -585,42 +585,6 @@
         <translation>样式表</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>状态</translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation>缩放</translation>
-    </message>
-    <message>
-        <source>Ground</source>
-        <translation>背景</translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation>复制路径</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n icon(s)</source>
-        <translation>
-            <numerusform>%n 个图标</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No icon is chosen.</source>
-        <translation>未选择图标。</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>已复制：%1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n rule(s) lead on from</source>
-        <translation>
-            <numerusform>%n 条规则的起点：</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Normal</source>
         <translation>正常</translation>
     </message>
@@ -656,16 +620,52 @@
         <source>Light</source>
         <translation>浅色</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message>
+        <source>The six preferred countries stand above the line, which cannot be chosen.</source>
+        <translation>六个首选国家位于分隔线上方，分隔线不可选择。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rule(s) lead on from</source>
+        <translation>
+            <numerusform>%n 条规则的起点：</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icon(s)</source>
+        <translation>
+            <numerusform>%n 个图标</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No icon is chosen.</source>
+        <translation>未选择图标。</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>已复制：%1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
-        <source>Settings are kept in %1.</source>
-        <translation>设置保存在 %1。</translation>
-    </message>
-    <message>
-        <source>Settings are kept in the system&apos;s own store again.</source>
-        <translation>设置重新保存在系统设置存储中。</translation>
+        <source>Keep all settings in a temporary file, which is removed afterwards</source>
+        <translation>将所有设置保存在临时文件中，之后删除</translation>
     </message>
     <message>
         <source>Logged from the next start on: %1</source>
@@ -732,16 +732,24 @@
         <translation>写入文件</translation>
     </message>
     <message>
-        <source>Written and read back: %1 = %2</source>
-        <translation>已写入并读回：%1 = %2</translation>
-    </message>
-    <message>
         <source>Written into the file of the product family.</source>
         <translation>已写入产品系列的文件。</translation>
     </message>
     <message>
         <source>The file of the product family cannot be written.</source>
         <translation>无法写入产品系列的文件。</translation>
+    </message>
+    <message>
+        <source>Settings are kept in %1.</source>
+        <translation>设置保存在 %1。</translation>
+    </message>
+    <message>
+        <source>Settings are kept in the system&apos;s own store again.</source>
+        <translation>设置重新保存在系统设置存储中。</translation>
+    </message>
+    <message>
+        <source>Written and read back: %1 = %2</source>
+        <translation>已写入并读回：%1 = %2</translation>
     </message>
 </context>
 <context>
@@ -769,14 +777,6 @@
 </context>
 <context>
     <name>StatePage</name>
-    <message>
-        <source>yes</source>
-        <translation>有</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>无</translation>
-    </message>
     <message>
         <source>First launch on this profile</source>
         <translation>此配置的首次启动</translation>
@@ -857,6 +857,14 @@
         <source>Reset: the work ended well.</source>
         <translation>已清零：工作正常结束。</translation>
     </message>
+    <message>
+        <source>yes</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>StoragePage</name>
@@ -917,18 +925,6 @@
         <translation>已于 %1 重新读取。</translation>
     </message>
     <message>
-        <source>not on this system</source>
-        <translation>此系统上没有</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>有</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>无</translation>
-    </message>
-    <message>
         <source>Purpose</source>
         <translation>用途</translation>
     </message>
@@ -939,6 +935,18 @@
     <message>
         <source>Exists</source>
         <translation>存在</translation>
+    </message>
+    <message>
+        <source>not on this system</source>
+        <translation>此系统上没有</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>无</translation>
     </message>
 </context>
 <context>
@@ -984,26 +992,6 @@
         <translation>扁平</translation>
     </message>
     <message>
-        <source>Other buttons</source>
-        <translation>其他按钮</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
-        <source>A tool tip explains in one sentence.</source>
-        <translation>工具提示用一句话说明。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>Correct automatically</source>
-        <translation>自动校正</translation>
-    </message>
-    <message>
         <source>Check boxes and radio buttons</source>
         <translation>复选框和单选按钮</translation>
     </message>
@@ -1012,24 +1000,24 @@
         <translation>关</translation>
     </message>
     <message>
-        <source>On</source>
-        <translation>开</translation>
-    </message>
-    <message>
         <source>Partly</source>
         <translation>部分</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
     </message>
     <message>
         <source>Text</source>
         <translation>文本</translation>
     </message>
     <message>
-        <source>Old harbour at dusk</source>
-        <translation>暮色中的老港口</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>标题</translation>
+    </message>
+    <message>
+        <source>Old harbour at dusk</source>
+        <translation>暮色中的老港口</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1044,44 +1032,16 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>Can be read only</source>
-        <translation>只读</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>相机</translation>
-    </message>
-    <message>
         <source>Cannot be changed</source>
         <translation>无法更改</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>快捷键</translation>
     </message>
     <message>
         <source>Choices and numbers</source>
         <translation>选择与数值</translation>
     </message>
     <message>
-        <source>Perspective</source>
-        <translation>透视</translation>
-    </message>
-    <message>
         <source>Ranges and progress</source>
         <translation>范围与进度</translation>
-    </message>
-    <message>
-        <source>Lenses</source>
-        <translation>镜头</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>历史记录</translation>
-    </message>
-    <message>
-        <source>Metadata</source>
-        <translation>元数据</translation>
     </message>
     <message>
         <source>Lens</source>
@@ -1096,54 +1056,6 @@
         <translation>光圈</translation>
     </message>
     <message>
-        <source>Shape</source>
-        <translation>形状</translation>
-    </message>
-    <message>
-        <source>Keystoning</source>
-        <translation>梯形校正</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>水平</translation>
-    </message>
-    <message>
-        <source>Crop</source>
-        <translation>裁剪</translation>
-    </message>
-    <message>
-        <source>Distortion</source>
-        <translation>畸变</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>网格</translation>
-    </message>
-    <message>
-        <source>Guides</source>
-        <translation>参考线</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
-    </message>
-    <message>
-        <source>Loupe</source>
-        <translation>放大镜</translation>
-    </message>
-    <message>
-        <source>Straight lines stay straight, and the tower stops leaning backwards.</source>
-        <translation>直线保持笔直，塔楼不再向后倾斜。</translation>
-    </message>
-    <message>
-        <source>Tilt-shift</source>
-        <translation>移轴</translation>
-    </message>
-    <message>
-        <source>Blurred at both ends</source>
-        <translation>两端模糊</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>撤销</translation>
     </message>
@@ -1152,12 +1064,8 @@
         <translation>重做</translation>
     </message>
     <message>
-        <source>Fit to window</source>
-        <translation>适合窗口</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>实际大小</translation>
+        <source>Grid</source>
+        <translation>网格</translation>
     </message>
     <message>
         <source>Rotate</source>
@@ -1167,41 +1075,9 @@
         <source>Rotate left</source>
         <translation>向左旋转</translation>
     </message>
-    <message>
-        <source>File</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>编辑</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>视图</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>就绪</translation>
-    </message>
 </context>
 <context>
     <name>ToolPanel</name>
-    <message>
-        <source>Accept</source>
-        <translation>接受</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>No tool</source>
-        <translation>没有工具</translation>
-    </message>
-    <message>
-        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
-        <translation>请在左侧选择工具。点击还会打开、关闭或应用什么，由产品的规则决定。</translation>
-    </message>
     <message>
         <source>Horizon</source>
         <translation>水平</translation>
@@ -1209,10 +1085,6 @@
     <message>
         <source>Drag a line along what should be level. With Shift it turns in steps of 15°.</source>
         <translation>沿着应当水平的物体拖出一条线。按住 Shift 时以 15° 为步长转动。</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>旋转</translation>
     </message>
     <message>
         <source>Keystoning</source>
@@ -1227,20 +1099,8 @@
         <translation>畸变</translation>
     </message>
     <message>
-        <source>Camera and lens</source>
-        <translation>相机和镜头</translation>
-    </message>
-    <message>
-        <source>Every word has to occur, in any order.</source>
-        <translation>所有词都必须出现，顺序不限。</translation>
-    </message>
-    <message>
         <source>Crop</source>
         <translation>裁剪</translation>
-    </message>
-    <message>
-        <source>Aspect ratio</source>
-        <translation>宽高比</translation>
     </message>
     <message>
         <source>Tilt-shift</source>
@@ -1249,6 +1109,54 @@
     <message>
         <source>What lies between the outer lines stays sharp.</source>
         <translation>外侧线条之间的部分保持清晰。</translation>
+    </message>
+    <message>
+        <source>No tool</source>
+        <translation>没有工具</translation>
+    </message>
+    <message>
+        <source>Choose a tool at the left. The rules of the product decide what else a click switches on, switches off or applies.</source>
+        <translation>请在左侧选择工具。点击还会打开、关闭或应用什么，由产品的规则决定。</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>接受</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Reset this tool</source>
+        <translation>重置此工具</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>From pincushion to barrel</source>
+        <translation>从枕形到桶形</translation>
+    </message>
+    <message>
+        <source>Search, for example: canon 24-70</source>
+        <translation>搜索，例如：canon 24-70</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>相机和镜头</translation>
+    </message>
+    <message>
+        <source>Lenses found</source>
+        <translation>找到的镜头</translation>
+    </message>
+    <message>
+        <source>Every word has to occur, in any order.</source>
+        <translation>所有词都必须出现，顺序不限。</translation>
+    </message>
+    <message>
+        <source>Aspect ratio</source>
+        <translation>宽高比</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -1278,6 +1186,18 @@
 <context>
     <name>WebServicePage</name>
     <message>
+        <source>Request</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>应答</translation>
+    </message>
+    <message>
+        <source>The service has not been asked yet.</source>
+        <translation>尚未向服务发出请求。</translation>
+    </message>
+    <message>
         <source>Amount</source>
         <translation>数量</translation>
     </message>
@@ -1288,14 +1208,6 @@
     <message>
         <source>Ask the service</source>
         <translation>调用服务</translation>
-    </message>
-    <message>
-        <source>Request</source>
-        <translation>请求</translation>
-    </message>
-    <message>
-        <source>Answer</source>
-        <translation>应答</translation>
     </message>
     <message>
         <source>Fault: %1</source>
@@ -1363,6 +1275,10 @@
         <translation>比较校正前后</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
         <source>Save the corrections as a preset</source>
         <translation>将校正保存为预设</translation>
     </message>
@@ -1399,18 +1315,6 @@
         <translation>还没有校正</translation>
     </message>
     <message>
-        <source>Before and after are alike.</source>
-        <translation>校正前后相同。</translation>
-    </message>
-    <message>
-        <source>Before and after differ.</source>
-        <translation>校正前后不同。</translation>
-    </message>
-    <message>
-        <source>Measure: %1</source>
-        <translation>差异值：%1</translation>
-    </message>
-    <message>
         <source>Open a photo</source>
         <translation>打开照片</translation>
     </message>
@@ -1431,8 +1335,16 @@
         <translation>已停止。图片未更改。</translation>
     </message>
     <message>
+        <source>%1 cannot be read any more.</source>
+        <translation>%1 已无法读取。</translation>
+    </message>
+    <message>
         <source>Applied in %1 s</source>
         <translation>应用用时 %1 秒</translation>
+    </message>
+    <message>
+        <source>Measure: %1</source>
+        <translation>差异值：%1</translation>
     </message>
     <message>
         <source>Save the picture</source>
@@ -1483,10 +1395,6 @@
         <translation>预设已保存：%1</translation>
     </message>
     <message>
-        <source>Presets</source>
-        <translation>预设</translation>
-    </message>
-    <message>
         <source>Brought back: %1</source>
         <translation>已还原：%1</translation>
     </message>
@@ -1501,6 +1409,14 @@
     <message>
         <source>Cannot be moved to the recycle bin: %1</source>
         <translation>无法移到回收站：%1</translation>
+    </message>
+    <message>
+        <source>Before and after are alike.</source>
+        <translation>校正前后相同。</translation>
+    </message>
+    <message>
+        <source>Before and after differ.</source>
+        <translation>校正前后不同。</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,18 @@ QPixmap linePattern(const QColor& color, bool gap, qreal ratio)
     return pattern;
 }
 
+/// Lines that divide \a area into \a parts each way.
+void paintGrid(QPainter& painter, const QRectF& area, int parts)
+{
+    painter.setPen(QColor(255, 255, 255, 110));
+    for (int i = 1; i < parts; ++i) {
+        const double x = std::round(area.x() + area.width() * i / parts) + 0.5;
+        const double y = std::round(area.y() + area.height() * i / parts) + 0.5;
+        painter.drawLine(QPointF(x, area.y()), QPointF(x, area.bottom()));
+        painter.drawLine(QPointF(area.x(), y), QPointF(area.right(), y));
+    }
+}
+
 /// The line to be drawn so that the pattern runs through the middle of both grips. drawToolLine() lays the
 /// pattern below a line that runs to the right and lifts an oblique one by half its height.
 QLineF throughGrips(QLineF line, bool stretched)
@@ -80,17 +92,21 @@ QSize Canvas::pictureSize(const QSize& original) const
     return (original.scaled(size(), Qt::KeepAspectRatio) * devicePixelRatioF()).expandedTo({16, 16});
 }
 
+QPixmap Canvas::pixmapOf(QImage image) const
+{
+    image.setDevicePixelRatio(devicePixelRatioF());
+    return QPixmap::fromImage(image);
+}
+
 void Canvas::setPicture(const QImage& picture)
 {
-    m_picture = QPixmap::fromImage(picture);
-    m_picture.setDevicePixelRatio(devicePixelRatioF());
+    m_picture = pixmapOf(picture);
     update();
 }
 
 void Canvas::setBefore(const QImage& before)
 {
-    m_before = QPixmap::fromImage(before);
-    m_before.setDevicePixelRatio(devicePixelRatioF());
+    m_before = pixmapOf(before);
     update();
 }
 
@@ -155,7 +171,7 @@ void Canvas::paintEvent(QPaintEvent*)
         painter.fillRect(QRectF(divider - 1, area.y(), 2, area.height()), Qt::white);
     }
     if (m_grid) {
-        paintGrid(painter);
+        paintGrid(painter, area, 12);
     }
     if (m_step && m_before.isNull()) {
         paintGuides(painter);
@@ -165,18 +181,6 @@ void Canvas::paintEvent(QPaintEvent*)
         painter.setPen(QPen(accent, 2.0));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(area.adjusted(1, 1, -1, -1));
-    }
-}
-
-void Canvas::paintGrid(QPainter& painter) const
-{
-    const QRectF area = frame();
-    painter.setPen(QColor(255, 255, 255, 110));
-    for (int i = 1; i < 12; ++i) {
-        const double x = std::round(area.x() + area.width() * i / 12) + 0.5;
-        const double y = std::round(area.y() + area.height() * i / 12) + 0.5;
-        painter.drawLine(QPointF(x, area.y()), QPointF(x, area.bottom()));
-        painter.drawLine(QPointF(area.x(), y), QPointF(area.right(), y));
     }
 }
 
@@ -190,13 +194,7 @@ void Canvas::paintCrop(QPainter& painter) const
     painter.setPen(QColor(255, 255, 255, 200));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(kept);
-    painter.setPen(QColor(255, 255, 255, 90));
-    for (const double part : {1.0 / 3, 2.0 / 3}) {
-        painter.drawLine(QPointF(kept.x() + kept.width() * part, kept.top()),
-                         QPointF(kept.x() + kept.width() * part, kept.bottom()));
-        painter.drawLine(QPointF(kept.left(), kept.y() + kept.height() * part),
-                         QPointF(kept.right(), kept.y() + kept.height() * part));
-    }
+    paintGrid(painter, kept, 3);
 }
 
 //! [code]
@@ -342,39 +340,28 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
 void Canvas::keyPressEvent(QKeyEvent* event)
 {
     const auto grips = m_step ? Guides::grips(*m_step) : QVector<QPointF>();
-    const double pixels = event->modifiers().testFlag(Qt::ShiftModifier) ? 10.0 : 1.0;
-    QPointF way;
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    const int key = event->key();
+    const bool next = key == Qt::Key_PageDown;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         Q_EMIT applyRequested();
         return;
-    case Qt::Key_Escape:
+    }
+    if (key == Qt::Key_Escape) {
         Q_EMIT cancelRequested();
         return;
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        if (!grips.isEmpty()) {
-            m_chosen = (m_chosen + (event->key() == Qt::Key_PageDown ? 1 : grips.size() - 1)) % grips.size();
-            update();
-        }
-        return;
-    case Qt::Key_Left:
-        way.setX(-pixels);
-        break;
-    case Qt::Key_Right:
-        way.setX(pixels);
-        break;
-    case Qt::Key_Up:
-        way.setY(-pixels);
-        break;
-    case Qt::Key_Down:
-        way.setY(pixels);
-        break;
-    default:
+    }
+    if (grips.isEmpty() || (!next && key != Qt::Key_PageUp && (key < Qt::Key_Left || key > Qt::Key_Down))) {
         QWidget::keyPressEvent(event);
         return;
     }
+    if (next || key == Qt::Key_PageUp) {
+        m_chosen = (m_chosen + (next ? 1 : grips.size() - 1)) % grips.size();
+        update();
+        return;
+    }
+    const QPointF ways[] = {{-1, 0}, {0, -1}, {1, 0}, {0, 1}}; // in the order of the arrow keys
+    const QPointF way =
+        ways[key - Qt::Key_Left] * (event->modifiers().testFlag(Qt::ShiftModifier) ? 10.0 : 1.0);
     if (m_chosen < grips.size()) {
         Guides::moveGrip(*m_step, m_chosen, toPart(toCanvas(grips.at(m_chosen)) + way));
         update();

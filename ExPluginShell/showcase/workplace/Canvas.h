@@ -46,6 +46,7 @@ protected:
     QSize minimumSizeHint() const override { return {320, 220}; }
 
 private:
+    QPixmap pixmapOf(QImage image) const;
     QRectF frame() const;
     QPointF toPart(const QPointF& position) const;
     QPointF toCanvas(const QPointF& part) const;
@@ -54,7 +55,6 @@ private:
     void showCursor(const QPointF& position);
     void paintGuides(QPainter& painter) const;
     void paintCrop(QPainter& painter) const;
-    void paintGrid(QPainter& painter) const;
 
     QPixmap m_picture;
     QPixmap m_before;

@@ -7,18 +7,6 @@
 #include <utilsDll/DelayedCall.h>
 #include <utilsDll/FileManagement.h>
 
-#include <QApplication>
-#include <QButtonGroup>
-#include <QComboBox>
-#include <QCoreApplication>
-#include <QEvent>
-#include <QFile>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QToolButton>
-#include <QVBoxLayout>
-
 using namespace TOLVAN_NAMESPACE;
 
 namespace
@@ -81,13 +69,10 @@ Workplace::Workplace(QWidget* parent)
     , m_panel(new ToolPanel(this))
     , m_tools(new QButtonGroup(this))
     , m_rule(new QLabel(this))
-    , m_answer(new QLabel(this))
 {
     const QString error = m_rules.load(QStringLiteral(":/other/CorrectionsStateMachine.xml"));
-    for (QLabel* const line : {m_rule, m_answer}) {
-        line->setWordWrap(true);
-        line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    }
+    m_rule->setWordWrap(true);
+    m_rule->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_rule->setObjectName(QStringLiteral("pageSummary"));
     auto* const middle = new QVBoxLayout;
     middle->setSpacing(8);
@@ -114,11 +99,7 @@ QToolButton* Workplace::makeTool(const QString& icon, const char* text, int size
     auto* const button = new QToolButton(this);
     button->setIcon(toolIcon(icon));
     button->setIconSize(QSize(size, size));
-    translate(text, [button](const QString& name) {
-        button->setToolTip(name);
-        button->setAccessibleName(name);
-    });
-    return button;
+    return withText(withText(button, text, "toolTip"), text, "accessibleName");
 }
 
 QWidget* Workplace::makeToolBar()
@@ -146,29 +127,26 @@ QHBoxLayout* Workplace::makeCommands()
     row->setSpacing(4);
     row->addWidget(makeButton(QT_TR_NOOP("Open…"), [this] { open(); }));
     row->addSpacing(8);
-    const auto add = [&](const char* icon, const char* text, bool checkable) {
+    const auto add = [&](const char* icon, const char* text, void (Workplace::*clicked)()) {
         QToolButton* const button = makeTool(QStringLiteral(":/icons/") + QLatin1String(icon), text, 24);
-        button->setCheckable(checkable);
+        connect(button, &QToolButton::clicked, this, clicked);
         row->addWidget(button);
         return button;
     };
-    m_undo = add("toolbar/undo", QT_TR_NOOP("Undo"), false);
-    connect(m_undo, &QToolButton::clicked, this, &Workplace::undo);
-    connect(add("reset/reset", QT_TR_NOOP("Reset all corrections"), false), &QToolButton::clicked, this,
-            &Workplace::resetAll);
-    connect(add("toolbar/grid", QT_TR_NOOP("Grid"), true), &QToolButton::toggled, m_canvas, &Canvas::setGrid);
-    m_preview = add("toolbar/preview", QT_TR_NOOP("Preview of the current tool"), true);
-    connect(m_preview, &QToolButton::toggled, this, &Workplace::showPicture);
-    m_compare = add("toolbar/compare", QT_TR_NOOP("Compare before and after"), true);
-    connect(m_compare, &QToolButton::toggled, this, &Workplace::setComparing);
+    m_undo = add("toolbar/undo", QT_TR_NOOP("Undo"), &Workplace::undo);
+    add("reset/reset", QT_TR_NOOP("Reset all corrections"), &Workplace::resetAll);
+    m_grid = add("toolbar/grid", QT_TR_NOOP("Grid"), &Workplace::showPicture);
+    m_preview = add("toolbar/preview", QT_TR_NOOP("Preview of the current tool"), &Workplace::showPicture);
+    m_compare = add("toolbar/compare", QT_TR_NOOP("Compare before and after"), &Workplace::compare);
+    for (QToolButton* const view : {m_grid, m_preview, m_compare}) {
+        view->setCheckable(true);
+    }
     row->addStretch();
-    m_presets = new QComboBox(this);
+    m_presets = withText(new QComboBox(this), QT_TR_NOOP("Presets"), "accessibleName");
     m_presets->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    translate(QT_TR_NOOP("Presets"), [this](const QString& text) { m_presets->setAccessibleName(text); });
     connect(m_presets, qOverload<int>(&QComboBox::activated), this, &Workplace::usePreset);
     row->addWidget(m_presets);
-    connect(add("toolbar/save_preset", QT_TR_NOOP("Save the corrections as a preset"), false),
-            &QToolButton::clicked, this, &Workplace::savePreset);
+    add("toolbar/save_preset", QT_TR_NOOP("Save the corrections as a preset"), &Workplace::savePreset);
     return row;
 }
 
@@ -183,8 +161,7 @@ QWidget* Workplace::makeSide()
     m_history = new QLabel(side);
     m_history->setWordWrap(true);
     layout->addWidget(m_history);
-    m_answer->setObjectName(QStringLiteral("answer"));
-    layout->addWidget(m_answer);
+    layout->addWidget(makeAnswer());
     m_apply = makeButton(QT_TR_NOOP("Apply to the full picture"), [this] { apply(); });
     m_apply->setDefault(true);
     m_save = makeButton(QT_TR_NOOP("Save…"), [this] { save(); });
@@ -218,17 +195,22 @@ void Workplace::connectParts()
         }
         showPicture();
     });
-    const auto current = [this](const char* activity) {
-        const Step* const step = shownStep();
-        if (step) {
-            perform(moduleOf(step->tool), QString::fromLatin1(activity));
-        }
+    const auto performs = [this](const char* activity) {
+        return [this, activity] { performOnCurrent(QString::fromLatin1(activity)); };
     };
-    connect(m_panel, &ToolPanel::accepted, this, [current] { current("CorrectionApplyed"); });
-    connect(m_panel, &ToolPanel::cancelled, this, [current] { current("CorrectionCancel"); });
-    connect(m_panel, &ToolPanel::resetRequested, this, [current] { current("CorrectionReset"); });
-    connect(m_canvas, &Canvas::applyRequested, this, [current] { current("CorrectionApplyed"); });
-    connect(m_canvas, &Canvas::cancelRequested, this, [current] { current("CorrectionCancel"); });
+    connect(m_panel, &ToolPanel::resetRequested, this, performs("CorrectionReset"));
+    connect(m_panel, &ToolPanel::accepted, this, performs("CorrectionApplyed"));
+    connect(m_panel, &ToolPanel::cancelled, this, performs("CorrectionCancel"));
+    connect(m_canvas, &Canvas::applyRequested, this, performs("CorrectionApplyed"));
+    connect(m_canvas, &Canvas::cancelRequested, this, performs("CorrectionCancel"));
+}
+
+void Workplace::performOnCurrent(const QString& activity)
+{
+    const Step* const step = shownStep();
+    if (step) {
+        perform(moduleOf(step->tool), activity);
+    }
 }
 
 void Workplace::toolClicked(int tool)
@@ -244,6 +226,7 @@ void Workplace::touch()
     const Step* const step = shownStep();
     if (step) {
         m_rules.perform(moduleOf(step->tool), QStringLiteral("AdditionalControlTouched"));
+        forgetResult();
     }
 }
 
@@ -259,6 +242,7 @@ void Workplace::perform(const QString& module, const QString& activity)
     if (free && activity == QLatin1String("CorrectionApplyed")) {
         m_applied = steps(); // with that of the lens
     }
+    forgetResult();
     const RulesMachine::Rule* const rule = m_rules.perform(module, asked);
     if (!rule) {
         say(m_rule, [=] { return tr("No rule of %1 holds for %2.").arg(module, asked); });
@@ -332,15 +316,23 @@ void Workplace::showTools()
 void Workplace::setPhoto(const Photo& photo)
 {
     m_photo = photo;
-    m_result = {};
     resetAll();
-    say(m_answer, [photo] { return photo.name + QStringLiteral("\n") + sizeToString(photo.size); });
+    answer([photo] { return photo.name + QStringLiteral("\n") + sizeToString(photo.size); });
+}
+
+/// The full picture and the name of a preset belong to other corrections now.
+void Workplace::forgetResult()
+{
+    m_result = {};
+    m_presets->setCurrentIndex(0);
+    m_save->setEnabled(false);
 }
 
 void Workplace::undo()
 {
     if (!m_applied.isEmpty()) {
         m_applied.removeLast();
+        forgetResult();
         showTools();
         replay();
     }
@@ -367,13 +359,10 @@ QVector<Step> Workplace::steps() const
     return all;
 }
 
-void Workplace::changeEvent(QEvent* event)
+void Workplace::languageChanged()
 {
-    PageWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        listPresets();
-        showTools();
-    }
+    listPresets();
+    showTools();
 }
 
 void Workplace::prepareForPicture()

@@ -6,24 +6,18 @@
 #include "RulesMachine.h"
 
 #include <utilsDll/FileManagement.h>
+#include <utilsDll/ProgressBox.h>
 
 #include <array>
 
 class Canvas;
-class CQRunnableItem;
-class QButtonGroup;
-class QComboBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QToolButton;
 class ToolPanel;
 
 /// The page the showcase opens on: a photo, the correction tools and what becomes of the result.
 ///
 /// The tools obey the rules of the product, see RulesMachine. Corrections are carried out on a small picture
-/// while one works, and on the full one when "Apply" is pressed. Saving, packing and presets stand in
-/// WorkplaceFiles.cpp, the pictures of the canvas in WorkplacePicture.cpp.
+/// while one works, and on the full one when "Apply" is pressed. The pictures of the canvas, saving, packing and
+/// presets stand in WorkplaceFiles.cpp.
 class Workplace : public PageWidget
 {
     Q_OBJECT
@@ -36,7 +30,7 @@ public:
     void perform(const QString& module, const QString& activity);
 
 protected:
-    void changeEvent(QEvent* event) override;
+    void languageChanged() override;
 
 private Q_SLOTS:
     void replay(); // also a delayed call
@@ -51,6 +45,7 @@ private:
 
     // The tools
     void toolClicked(int tool);
+    void performOnCurrent(const QString& activity);
     void touch();
     void carryOut(const RulesMachine::Rule& rule);
     void showTools();
@@ -59,12 +54,13 @@ private:
 
     // The picture
     void setPhoto(const Photo& photo);
+    void forgetResult();
     void undo();
     void resetAll();
     QVector<Step> steps() const;
     void renewBase();
     void showPicture();
-    void setComparing(bool on);
+    void compare();
 
     // WorkplaceFiles.cpp
     void open();
@@ -76,7 +72,7 @@ private:
     void savePreset();
     void usePreset(int index);
     void listPresets();
-    bool run(CQRunnableItem& item, const QString& title);
+    CProgressBox::Result run(CQRunnableItem& item, const QString& title);
 
     RulesMachine m_rules;
     Photo m_photo;
@@ -92,6 +88,7 @@ private:
     ToolPanel* m_panel;
     QButtonGroup* m_tools;
     QToolButton* m_undo = nullptr;
+    QToolButton* m_grid = nullptr;
     QToolButton* m_compare = nullptr;
     QToolButton* m_preview = nullptr;
     QComboBox* m_presets = nullptr;
@@ -100,6 +97,5 @@ private:
     QPushButton* m_pack = nullptr;
     QPushButton* m_trash = nullptr;
     QLabel* m_rule;
-    QLabel* m_answer;
     QLabel* m_history = nullptr;
 };

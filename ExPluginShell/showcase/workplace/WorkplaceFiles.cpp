@@ -1,4 +1,6 @@
+#include "Canvas.h"
 #include "RenderItem.h"
+#include "ToolPanel.h"
 #include "Workplace.h"
 
 #include <utilsDll/ArchiveJob.h>
@@ -6,18 +8,7 @@
 #include <utilsDll/GuiUtils.h>
 #include <utilsDll/MessageBox.h>
 #include <utilsDll/NativeDialogs.h>
-#include <utilsDll/ProgressBox.h>
 #include <utilsDll/Settings.h>
-
-#include <QComboBox>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFileInfo>
-#include <QImageWriter>
-#include <QInputDialog>
-#include <QLocale>
-#include <QPushButton>
-#include <QToolButton>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -77,13 +68,13 @@ void Workplace::open()
 }
 
 //! [code]
-bool Workplace::run(CQRunnableItem& item, const QString& title)
+CProgressBox::Result Workplace::run(CQRunnableItem& item, const QString& title)
 {
     CProgressBox box(title, window());
     if (auto* const render = qobject_cast<RenderItem*>(&item)) {
         connect(render, &RenderItem::progress, &box, [&box](int percent) { box.setProgress(percent, 100); });
     }
-    return box.run(item) == CProgressBox::Succeeded;
+    return box.run(item);
 }
 //! [code]
 
@@ -96,8 +87,12 @@ void Workplace::apply()
     RenderItem item(m_photo.full, steps());
     QElapsedTimer timer;
     timer.start();
-    if (!run(item, tr("Applying the corrections"))) {
-        say(m_answer, [] { return tr("Stopped. The picture is unchanged."); });
+    const CProgressBox::Result outcome = run(item, tr("Applying the corrections"));
+    if (outcome != CProgressBox::Succeeded) {
+        answer([stopped = outcome == CProgressBox::Stopped, name = m_photo.name] {
+            return stopped ? tr("Stopped. The picture is unchanged.")
+                           : tr("%1 cannot be read any more.").arg(name);
+        });
         return;
     }
     showResult(item.result(), timer.elapsed());
@@ -109,7 +104,7 @@ void Workplace::showResult(const QImage& result, qint64 milliseconds)
     double difference = 0.0;
     const QImage after = result.scaled(m_original.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     compareImages(m_original, after, difference, differenceThreshold);
-    say(m_answer, [=] {
+    answer([=] {
         return tr("Applied in %1 s").arg(QLocale().toString(milliseconds / 1000.0, 'f', 1)) +
                QStringLiteral("\n") + sizeToString(result.size()) + QStringLiteral("\n") +
                tr("Measure: %1").arg(QLocale().toString(difference, 'g', 3));
@@ -126,14 +121,14 @@ void Workplace::save()
         return;
     }
     SaveItem item(m_result, path);
-    if (!run(item, tr("Saving %1").arg(QFileInfo(path).fileName()))) {
+    if (run(item, tr("Saving %1").arg(QFileInfo(path).fileName())) != CProgressBox::Succeeded) {
         CMessageBox::critical(this, tr("%1 cannot be saved: %2").arg(QFileInfo(path).fileName(), item.error),
                               boxHeight);
         return;
     }
     m_saved.removeAll(path);
     m_saved += path;
-    say(m_answer, [path] {
+    answer([path] {
         return tr("Saved: %1").arg(QFileInfo(path).fileName()) + QStringLiteral("\n") +
                fileSizeToString(QFileInfo(path).size());
     });
@@ -157,7 +152,7 @@ void Workplace::pack()
     if (!packed && !report.stopped) {
         CMessageBox::critical(this, report.summary(), boxHeight);
     }
-    say(m_answer, [report] { return report.summary(); });
+    answer([report] { return report.summary(); });
 }
 
 void Workplace::savePreset()
@@ -170,7 +165,7 @@ void Workplace::savePreset()
     }
     QVariantList stored;
     for (const Step& step : steps()) {
-        stored += step.toMap();
+        stored += QVariant(step.toList());
     }
     CSettings settings;
     QVariantMap presets = settings.value(presetsKey).toMap();
@@ -178,7 +173,7 @@ void Workplace::savePreset()
     settings.setValue(presetsKey, presets);
     settings.sync();
     listPresets();
-    say(m_answer, [name] { return tr("Preset saved: %1").arg(name.trimmed()); });
+    answer([name] { return tr("Preset saved: %1").arg(name.trimmed()); });
 }
 
 void Workplace::listPresets()
@@ -198,10 +193,11 @@ void Workplace::usePreset(int index)
     if (index <= 0) {
         return;
     }
+    const QVariantList preset =
+        CSettings().value(presetsKey).toMap().value(m_presets->itemText(index)).toList();
     resetAll();
-    for (const QVariant& stored :
-         CSettings().value(presetsKey).toMap().value(m_presets->itemText(index)).toList()) {
-        const Step step = Step::fromMap(stored.toMap());
+    for (const QVariant& stored : preset) {
+        const Step step = Step::fromList(stored.toList());
         if (step.tool == Tool::Distortion) {
             perform(moduleOf(step.tool), QStringLiteral("ModuleActivate"));
             m_steps[int(step.tool)] = step;
@@ -209,6 +205,7 @@ void Workplace::usePreset(int index)
             m_applied += step;
         }
     }
+    m_presets->setCurrentIndex(index);
     showTools();
     replay();
 }
@@ -222,7 +219,7 @@ void Workplace::trashOrRestore()
         if (restored) {
             m_saved += path;
         }
-        say(m_answer, [=] {
+        answer([=] {
             return (restored ? tr("Brought back: %1") : tr("Cannot be brought back: %1"))
                 .arg(QFileInfo(path).fileName());
         });
@@ -230,10 +227,65 @@ void Workplace::trashOrRestore()
         const QString path = m_saved.takeLast();
         m_trashed = trash(QDir::toNativeSeparators(path));
         const bool moved = m_trashed.isTrashed;
-        say(m_answer, [=] {
+        answer([=] {
             return (moved ? tr("In the recycle bin: %1") : tr("Cannot be moved to the recycle bin: %1"))
                 .arg(QFileInfo(path).fileName());
         });
     }
     showTools();
+}
+
+void Workplace::replay()
+{
+    m_original = m_photo.small.scaled(m_canvas->pictureSize(m_photo.size), Qt::IgnoreAspectRatio,
+                                      Qt::SmoothTransformation);
+    renewBase();
+    showPicture();
+}
+
+void Workplace::renewBase()
+{
+    m_base = m_original;
+    const auto all = steps();
+    for (const Step& step : all) {
+        m_base = corrected(m_base, step, goOn);
+    }
+    m_base =
+        m_base.scaled(m_canvas->pictureSize(m_base.size()), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void Workplace::showPicture()
+{
+    Step* const step = shownStep();
+    const bool guided = step && step->tool != Tool::Distortion;
+    if (step) {
+        step->aspect = double(m_base.width()) / m_base.height();
+    }
+    const bool live = guided && step->tool == Tool::TiltShift; // shows its effect below its guides
+    const bool previewed = guided && !live && m_preview->isChecked();
+    QImage shown = live || previewed ? corrected(m_base, *step, goOn) : m_base;
+    if (shown.size() != m_base.size()) { // cropped
+        shown = shown.scaled(m_canvas->pictureSize(shown.size()), Qt::IgnoreAspectRatio,
+                             Qt::SmoothTransformation);
+    }
+    m_canvas->setPicture(shown);
+    m_canvas->setGrid(m_grid->isChecked());
+    m_canvas->setStep(guided && !previewed ? step : nullptr);
+    m_canvas->setBefore(m_compare->isChecked() ? m_original : QImage());
+    m_panel->showStep(step, m_photo.size);
+}
+
+void Workplace::compare()
+{
+    if (m_compare->isChecked()) {
+        double difference = 0.0;
+        const QImage after = m_base.scaled(m_original.size());
+        const bool similar =
+            compareImages(m_original, after, difference, differenceThreshold) == imgCmpSimilar;
+        answer([=] {
+            return (similar ? tr("Before and after are alike.") : tr("Before and after differ.")) +
+                   QStringLiteral("\n") + tr("Measure: %1").arg(QLocale().toString(difference, 'g', 3));
+        });
+    }
+    showPicture();
 }
