@@ -3,7 +3,6 @@
 
 #include <utilsDll/Waiting.h>
 
-#include <QLineEdit>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -29,18 +28,6 @@ struct Condition : ICustomWaitPredicate {
     mutable int tests = 0;
 };
 
-void sendAllKindsOfInput(QWidget& widget)
-{
-    QTest::keyClick(&widget, Qt::Key_A);
-    QTest::mouseClick(&widget, Qt::LeftButton);
-    QTest::mouseDClick(&widget, Qt::LeftButton);
-    QMouseEvent move(QEvent::MouseMove, QPointF(1, 1), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &move);
-    QWheelEvent wheel(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &wheel);
-}
-
 } // namespace
 
 class WaitingTest : public QObject
@@ -48,101 +35,96 @@ class WaitingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void conditionThatHoldsIsTestedOnce();
-    void blockingWaitForAnotherThread();
-    void eventsOfANonBlockingWait();
-    void filterGoesWhenThePredicateThrows();
-    void waitInAWorkerBlocksNoInput();
-};
-
-void WaitingTest::conditionThatHoldsIsTestedOnce()
-{
-    const Condition holds([] { return true; });
-    bool processed = false;
-    QMetaObject::invokeMethod(
-        this, [&] { processed = true; }, Qt::QueuedConnection);
-    waitBlocking(holds);
-    waitNonBlocking(holds, true);
-    const QAtomicInt zero(0);
-    waitBlockingAtomicIntValue(zero, 0);
-    waitNonBlockingAtomicIntValue(zero, 0, false);
-    QCOMPARE(holds.tests, 2);
-    QVERIFY(!processed);
-    QCoreApplication::processEvents();
-}
-
-void WaitingTest::blockingWaitForAnotherThread()
-{
-    QAtomicInt value(0);
-    int written = 0; // guarded by the order of the atomic
-    std::thread other([&] {
-        written = 1;
-        value.storeRelease(1);
-        waitBlockingAtomicIntValue(value, -1);
-    });
-    waitBlockingAtomicIntValue(value, 1);
-    QCOMPARE(written, 1);
-    value.storeRelease(-1);
-    other.join();
-}
-
-void WaitingTest::eventsOfANonBlockingWait()
-{
-    for (const bool excludeUserInput : {false, true}) {
-        EventSink sink;
-        QLineEdit edit;
-        edit.show();
-        bool queued = false;
+    void conditionThatHoldsIsTestedOnce()
+    {
+        const Condition holds([] { return true; });
+        bool processed = false;
         QMetaObject::invokeMethod(
-            this, [&] { queued = true; }, Qt::QueuedConnection);
-        QAtomicInt over(0);
-        QTimer::singleShot(5, this, [&] {
-            sink.got.clear();
-            sendAllKindsOfInput(sink);
-            QTest::keyClicks(&edit, QStringLiteral("text"));
-            edit.close();
-            QTimer::singleShot(5, this, [&] { over.storeRelease(1); });
-        });
-        waitNonBlockingAtomicIntValue(over, 1, excludeUserInput);
-        QVERIFY(queued);
-        QVERIFY(sink.got.contains(QEvent::MouseMove) && sink.got.contains(QEvent::Wheel));
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::MouseButtonPress,
-                                QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
-            QVERIFY2(sink.got.contains(type) != excludeUserInput, qPrintable(QString::number(type)));
-        }
-        QCOMPARE(edit.isVisible(), excludeUserInput);
-        QCoreApplication::processEvents(); // what was swallowed is lost
-        QCOMPARE(edit.text(), excludeUserInput ? QString() : QStringLiteral("text"));
+            this, [&] { processed = true; }, Qt::QueuedConnection);
+        waitBlocking(holds);
+        waitNonBlocking(holds, true);
+        const QAtomicInt zero(0);
+        waitBlockingAtomicIntValue(zero, 0);
+        waitNonBlockingAtomicIntValue(zero, 0, false);
+        QCOMPARE(holds.tests, 2);
+        QVERIFY(!processed);
+        QCoreApplication::processEvents();
     }
-}
 
-void WaitingTest::filterGoesWhenThePredicateThrows()
-{
-    EventSink sink;
-    QVERIFY_EXCEPTION_THROWN(
-        waitNonBlocking(Condition([]() -> bool { throw std::runtime_error("x"); }), true),
-        std::runtime_error);
-    QTest::mouseClick(&sink, Qt::LeftButton);
-    QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
-}
-
-void WaitingTest::waitInAWorkerBlocksNoInput()
-{
-    EventSink sink;
-    QAtomicInt state(0);
-    std::thread worker([&] {
-        const Condition over([&] {
-            state.testAndSetOrdered(0, 1);
-            return state.loadAcquire() == 2;
+    void blockingWaitForAnotherThread()
+    {
+        QAtomicInt value(0);
+        int written = 0; // guarded by the order of the atomic
+        std::thread other([&] {
+            written = 1;
+            value.storeRelease(1);
+            waitBlockingAtomicIntValue(value, -1);
         });
-        waitNonBlocking(over, true);
-    });
-    waitBlockingAtomicIntValue(state, 1);
-    QTest::mouseClick(&sink, Qt::LeftButton);
-    state.storeRelease(2);
-    worker.join();
-    QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
-}
+        waitBlockingAtomicIntValue(value, 1);
+        QCOMPARE(written, 1);
+        value.storeRelease(-1);
+        other.join();
+    }
+
+    void eventsOfANonBlockingWait()
+    {
+        for (const bool excludeUserInput : {false, true}) {
+            EventSink sink;
+            QWidget window;
+            window.show();
+            QAtomicInt over(0);
+            QTimer::singleShot(5, this, [&] {
+                QTest::keyClick(&sink, Qt::Key_A);
+                QTest::mouseClick(&sink, Qt::LeftButton);
+                QTest::mouseDClick(&sink, Qt::LeftButton);
+                QMouseEvent move(QEvent::MouseMove, QPointF(1, 1), Qt::NoButton, Qt::NoButton,
+                                 Qt::NoModifier);
+                QCoreApplication::sendEvent(&sink, &move);
+                QWheelEvent wheel(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, 120), Qt::NoButton,
+                                  Qt::NoModifier, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(&sink, &wheel);
+                window.close();
+                QTimer::singleShot(5, this, [&] { over.storeRelease(1); });
+            });
+            waitNonBlockingAtomicIntValue(over, 1, excludeUserInput);
+            QCoreApplication::processEvents(); // what was swallowed is lost
+            QVERIFY(sink.got.contains(QEvent::MouseMove) && sink.got.contains(QEvent::Wheel));
+            for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::MouseButtonPress,
+                                    QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
+                QVERIFY2(sink.got.contains(type) != excludeUserInput, qPrintable(QString::number(type)));
+            }
+            QCOMPARE(window.isVisible(), excludeUserInput);
+        }
+    }
+
+    void filterGoesWhenThePredicateThrows()
+    {
+        EventSink sink;
+        QVERIFY_EXCEPTION_THROWN(
+            waitNonBlocking(Condition([]() -> bool { throw std::runtime_error("x"); }), true),
+            std::runtime_error);
+        QTest::mouseClick(&sink, Qt::LeftButton);
+        QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
+    }
+
+    void waitInAWorkerBlocksNoInput()
+    {
+        EventSink sink;
+        QAtomicInt state(0);
+        std::thread worker([&] {
+            const auto over = [&] {
+                state.testAndSetOrdered(0, 1);
+                return state.loadAcquire() == 2;
+            };
+            waitNonBlocking(Condition(over), true);
+        });
+        waitBlockingAtomicIntValue(state, 1);
+        QTest::mouseClick(&sink, Qt::LeftButton);
+        state.storeRelease(2);
+        worker.join();
+        QCOMPARE(sink.take(QEvent::MouseButtonPress), 1);
+    }
+};
 
 TOLVAN_GUI_TEST_MAIN(WaitingTest)
 #include "tst_waiting.moc"
