@@ -80,7 +80,7 @@ settle() {
 pack_tar() {
     settle "$work/$1"
     tar -C "$work" --sort=name --owner=0 --group=0 --numeric-owner --format=gnu -c "$1" |
-        xz -T2 >"$output/$1.tar.xz" # always two threads: one alone gives another file
+        xz -3 -T2 >"$output/$1.tar.xz" # a third of the time for 9 percent more; one thread alone gives another file
 }
 
 pack_zip() {
