@@ -98,9 +98,18 @@ release_linux() {
     rm -f build/package/*.deb build/package/*.ddeb
     (cd build/package && cpack -G DEB) >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2; die "cpack failed"; }
     mv build/package/*.deb "$output/"
-    for symbols in build/package/*.ddeb; do # CPack's own ending of packages with debug symbols
-        mv "$symbols" "$output/$(basename "$symbols" .ddeb).deb"
+    for symbols in build/package/*.ddeb; do
+        add_debian_symbols "$symbols"
     done
+}
+
+# CPack has an ending of its own for packages with debug symbols, and lists their files with the folder of the build.
+add_debian_symbols() {
+    dpkg-deb --raw-extract "$1" "$work/symbols"
+    sed -i 's|  .*-dbgsym/|  |' "$work/symbols/DEBIAN/md5sums"
+    settle "$work/symbols"
+    dpkg-deb --root-owner-group -Zgzip --build "$work/symbols" "$output/$(basename "$1" .ddeb).deb" >/dev/null
+    rm -r "$work/symbols"
 }
 
 # What a host needs at run time is found by following the import tables, from the libraries and the plug-ins on.
