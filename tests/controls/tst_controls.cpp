@@ -1,3 +1,4 @@
+#include "HighDpi.h"
 #include "ScreenProbe.h"
 #include "TestMain.h"
 
@@ -167,7 +168,7 @@ void ControlsTest::iconIsSharp()
     icon.addPixmap(filled(finePattern.size() * 2, Qt::red));
     viewer.setIcon(icon);
     for (const bool enlarging : {true, false}) {
-        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, enlarging);
+        useHighDpiPixmaps(enlarging);
         QImage image = render(viewer);
         image.setDevicePixelRatio(1.0);
         QCOMPARE(image, finePattern.toImage().convertToFormat(image.format()));

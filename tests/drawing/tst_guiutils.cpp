@@ -161,8 +161,8 @@ private Q_SLOTS:
             return log.take();
         };
         const QString leave = QStringLiteral("leave");
-        QCOMPARE(flickedAt({20, 20}), QStringList({leave, at("enter", child.mapToGlobal({20, 20}))}));
-        QCOMPARE(QCursor::pos(), child.mapToGlobal({20, 20}));
+        QCOMPARE(flickedAt({20, 20}), QStringList({leave, at("enter", child.mapToGlobal(QPoint(20, 20)))}));
+        QCOMPARE(QCursor::pos(), child.mapToGlobal(QPoint(20, 20)));
         QCOMPARE(flickedAt({50, 20}), QStringList(leave)); // the first pixel beside it
         flickHoverEvent(nullptr);
         QApplication::setActiveWindow(nullptr);
@@ -179,7 +179,7 @@ private Q_SLOTS:
             QMenu menu(&window);
             QAction* const first = menu.addAction(QStringLiteral("First entry"));
             QAction* const active = menu.addAction(QStringLiteral("Last entry"));
-            menu.popup(window.mapToGlobal({20, 20}));
+            menu.popup(window.mapToGlobal(QPoint(20, 20)));
             [&] { QVERIFY(QTest::qWaitForWindowExposed(&menu)); }();
             const QPoint pos = menu.mapToGlobal(menu.actionGeometry(first).center());
             moveCursor(pos);

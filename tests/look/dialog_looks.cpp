@@ -2,6 +2,7 @@
 // QT_SCALE_FACTOR. Each picture is checked by rules; with a folder as argument the pictures are kept there.
 
 #include "BoxKinds.h"
+#include "HighDpi.h"
 #include "ModalDialog.h"
 #include "Pixels.h"
 #include "TestMain.h"
@@ -302,7 +303,7 @@ int main(int argc, char* argv[])
 {
     const IsolatedProfile profile;
     TestMain::prepare();
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    useHighDpiPixmaps(true);
     QApplication application(argc, argv);
     loadFonts();
     QApplication::setStyle(new CustomTolvanAppStyle);

@@ -163,7 +163,7 @@ void BaseDialogTest::drag()
     dialog.setHeaderHeight(header);
     const QPoint before(200, 150);
     showAt(dialog, before);
-    const QPoint grip = dialog.mapToGlobal({50, y});
+    const QPoint grip = dialog.mapToGlobal(QPoint(50, y));
     QPoint last = before;
     sendMouse(dialog, QEvent::MouseButtonPress, grip, static_cast<Qt::MouseButton>(button));
     for (const QPoint way : {QPoint(11, -7), QPoint(-90, 40), QPoint(-30, -20)}) {

@@ -1,4 +1,5 @@
 #include "Contrast.h"
+#include "HighDpi.h"
 #include "TestMain.h"
 
 #include <utilsDll/customtolvanappstyle.h>
@@ -196,7 +197,7 @@ private Q_SLOTS:
 int main(int argc, char* argv[])
 {
     qputenv("QT_SCALE_FACTOR", "2");
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    useHighDpiPixmaps(true);
     return TestMain::run<QApplication, SheetsTest>(argc, argv);
 }
 
