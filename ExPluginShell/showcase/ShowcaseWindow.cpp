@@ -42,9 +42,9 @@ QString translated(const char* text)
 QString codeSample(const QString& name)
 {
     QFile file(QStringLiteral(":/showcase/code/") + name);
-    file.open(QIODevice::ReadOnly);
+    const QByteArray source = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     static const QRegularExpression mark(QStringLiteral(" *//! \\[code\\]\n"));
-    const QString code = QString::fromUtf8(file.readAll()).split(mark).value(1);
+    const QString code = QString::fromUtf8(source).split(mark).value(1);
     const QString indent(code.indexOf(QRegularExpression(QStringLiteral("[^ ]"))), QLatin1Char(' '));
     return QString(code).replace(QLatin1Char('\n') + indent, QStringLiteral("\n")).trimmed();
 }

@@ -123,8 +123,8 @@ const QString logName = QStringLiteral("showcase");
 QStringList startUpLines()
 {
     QFile file(QDir(CStorageLocation::loggerFilesPath()).filePath(logName + QStringLiteral(".log")));
-    file.open(QIODevice::ReadOnly);
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')).filter(QStringLiteral("initLogger"));
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(); // none yet
+    return QString::fromUtf8(text).split(QLatin1Char('\n')).filter(QStringLiteral("initLogger"));
 }
 
 } // namespace

@@ -20,8 +20,7 @@ QString stateOf(const QString& baseName)
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The lines of the country list; an empty text stands for the line that cannot be chosen.
