@@ -14,12 +14,6 @@ class Service
         return $value;
     }
 
-    // The same text as a value of another type: the service writes what it is asked for.
-    public function typed($text, $type)
-    {
-        return new SoapVar($text, $type);
-    }
-
     public function shared()
     {
         $person = (object)['name' => 'once'];

@@ -16,7 +16,7 @@ struct Call : QObject {
 public:
     Call()
     {
-        transport.setHost(QStringLiteral("127.0.0.1"), server.serverPort());
+        transport.setHost(text("127.0.0.1"), server.serverPort());
         transport.setTimeout(10000);
         connect(&transport, SIGNAL(responseReady()), this, SLOT(onReady()));
         qRegisterMetaType<QtSoapMessage>("QtSoapMessage");
@@ -24,19 +24,19 @@ public:
                 Qt::QueuedConnection);
     }
 
-    void submit(const QString& path = QStringLiteral("/service"))
+    void submit(const QString& path = text("/service"))
     {
         QtSoapMessage request; // need not outlive the call
-        request.setMethod(QStringLiteral("ping"), QStringLiteral("urn:ping"));
+        request.setMethod(text("ping"), QStringLiteral("urn:ping"));
         transport.submitRequest(request, path);
     }
 
-    /// Submits and waits; false when there is not exactly one pair of signals.
-    bool ask(const QString& path = QStringLiteral("/service"))
+    /// Submits and waits; false when there was not exactly one pair of signals for every call.
+    bool ask(const QString& path = text("/service"))
     {
-        order.clear();
         submit(path);
-        return QTest::qWaitFor([this] { return order.size() >= 2; }, 40000) && order == QStringLiteral("ab");
+        const QString expected = text("ab").repeated(++calls);
+        return QTest::qWaitFor([&] { return order.size() >= expected.size(); }, 40000) && order == expected;
     }
 
     /// "value" and the text of the first child, or the class of the fault and its text.
@@ -44,7 +44,7 @@ public:
     {
         const QtSoapMessage& answer = transport.getResponse();
         if (!answer.isFault()) {
-            return QStringLiteral("value ") + answer.returnValue().toString();
+            return text("value ") + answer.returnValue().toString();
         }
         const char* const codes[] = {"VersionMismatch", "MustUnderstand", "Client", "Server", "Other"};
         return QLatin1String(codes[answer.faultCode()]) + QLatin1Char(' ') + answer.faultString().toString();
@@ -53,6 +53,7 @@ public:
     HttpLoopback server;
     QtSoapHttpTransport transport;
     QString order;
+    int calls = 0;
     QtSoapMessage received;
 
 public Q_SLOTS:

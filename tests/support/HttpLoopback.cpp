@@ -1,19 +1,15 @@
 #include "HttpLoopback.h"
 
-#include <QPointer>
+#include <QRegularExpression>
 #include <QSslSocket>
 #include <QTimer>
 
 QByteArray HttpLoopback::Request::header(const QByteArray& name) const
 {
-    const QList<QByteArray> lines = headers.split('\n');
-    for (const QByteArray& one : lines) {
-        const int colon = one.indexOf(':');
-        if (one.left(colon).trimmed().toLower() == name.toLower()) {
-            return one.mid(colon + 1).trimmed();
-        }
-    }
-    return QByteArray();
+    const QRegularExpression pattern(QStringLiteral("^%1:\\s*(.*?)\\s*$").arg(QString::fromLatin1(name)),
+                                     QRegularExpression::CaseInsensitiveOption |
+                                         QRegularExpression::MultilineOption);
+    return pattern.match(QString::fromUtf8(headers)).captured(1).toUtf8();
 }
 
 HttpLoopback::HttpLoopback()
@@ -23,20 +19,13 @@ HttpLoopback::HttpLoopback()
     }
 }
 
-void HttpLoopback::secure(const QSslCertificate& certificate, const QSslKey& key)
-{
-    m_certificate = certificate;
-    m_key = key;
-}
-
 void HttpLoopback::incomingConnection(qintptr handle)
 {
-    ++connections;
     auto* const socket = new QSslSocket(this);
     socket->setSocketDescriptor(handle);
-    if (!m_key.isNull()) {
-        socket->setLocalCertificate(m_certificate);
-        socket->setPrivateKey(m_key);
+    if (!key.isNull()) {
+        socket->setLocalCertificate(certificate);
+        socket->setPrivateKey(key);
         socket->startServerEncryption();
     }
     connect(socket, &QSslSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
@@ -77,10 +66,9 @@ void HttpLoopback::send(QTcpSocket* socket)
         socket->write(text.left(body));
         text.remove(0, body);
         auto* const timer = new QTimer(socket);
-        connect(timer, &QTimer::timeout, socket, [socket, text, at = 0]() mutable {
-            if (at < text.size()) {
-                socket->write(text.constData() + at++, 1);
-            }
+        connect(timer, &QTimer::timeout, socket, [socket, text]() mutable {
+            socket->write(text.left(16));
+            text.remove(0, 16);
         });
         timer->start(answer.dripMs);
         return;

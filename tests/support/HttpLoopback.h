@@ -31,19 +31,17 @@ public:
         QByteArray body;
         qint64 claimed = -1;  ///< Content-Length to send instead of the body's
         int sent = -1;        ///< close after so many bytes of the answer
-        int dripMs = 0;       ///< send one byte of the body each so many milliseconds
+        int dripMs = 0;       ///< send 16 bytes of the body each so many milliseconds
         bool silent = false;  ///< never answer
         bool rawBody = false; ///< the body is the whole answer
     };
 
     HttpLoopback();
 
-    /// Uses TLS for all later connections.
-    void secure(const QSslCertificate& certificate, const QSslKey& key);
-
     Answer answer;
     QList<Request> requests;
-    int connections = 0;
+    QSslCertificate certificate;
+    QSslKey key; ///< when it is set, later connections use TLS
 
 protected:
     void incomingConnection(qintptr handle) override;
@@ -51,9 +49,6 @@ protected:
 private:
     void onReadyRead(QTcpSocket* socket);
     void send(QTcpSocket* socket);
-
-    QSslCertificate m_certificate;
-    QSslKey m_key;
 };
 
 /// A server in its own thread that answers one request with blanks until the client closes the connection.

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "TestMain.h"
+#include "Texts.h"
+
 #include <QtSoapStruct> // brings all classes, as clients expect
 
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <initializer_list>
@@ -24,44 +26,19 @@ inline QByteArray envelope(const QByteArray& body, const QByteArray& attributes 
 
 inline QtSoapQName named(const char* name)
 {
-    return QtSoapQName(QString::fromUtf8(name));
+    return QtSoapQName(text(name));
 }
 
-inline QtSoapSimpleType* value(const char* name)
+/// Any simple value, made by the constructor that takes this content: `value("yes", true, 0)`.
+template <class... Content>
+QtSoapSimpleType* value(const char* name, const Content&... content)
 {
-    return new QtSoapSimpleType(named(name));
+    return new QtSoapSimpleType(named(name), content...);
 }
 
-inline QtSoapSimpleType* value(const char* name, int number)
+inline QtSoapSimpleType* value(const char* name, const char* content)
 {
-    return new QtSoapSimpleType(named(name), number);
-}
-
-inline QtSoapSimpleType* value(const char* name, bool truth)
-{
-    return new QtSoapSimpleType(named(name), truth, 0);
-}
-
-inline QtSoapSimpleType* value(const char* name, const QString& text)
-{
-    return new QtSoapSimpleType(named(name), text);
-}
-
-inline QtSoapSimpleType* value(const char* name, const char* text)
-{
-    return value(name, QString::fromUtf8(text));
-}
-
-/// A value of any simple type, made the way messages make it.
-inline QtSoapSimpleType* typed(const char* name, const char* type, const char* text)
-{
-    QDomDocument document;
-    QDomElement element = document.createElement(QString::fromUtf8(name));
-    element.setAttributeNS(QStringLiteral(XML_SCHEMA_INSTANCE), QStringLiteral("i:type"),
-                           QString::fromUtf8(type));
-    element.appendChild(document.createTextNode(QString::fromUtf8(text)));
-    auto made = std::make_unique<QtSoapSimpleType>();
-    return made->parse(element) ? made.release() : nullptr;
+    return value(name, text(content));
 }
 
 inline QtSoapStruct* structure(const char* name, std::initializer_list<QtSoapType*> children)
@@ -85,7 +62,7 @@ inline QtSoapArray* list(const char* name, std::initializer_list<QtSoapType*> it
 inline QtSoapMessage request(const char* method, std::initializer_list<QtSoapType*> arguments)
 {
     QtSoapMessage message;
-    message.setMethod(QString::fromUtf8(method), QStringLiteral("urn:example:peer"));
+    message.setMethod(text(method), text("urn:example:peer"));
     for (QtSoapType* const argument : arguments) {
         message.addMethodArgument(argument);
     }
@@ -97,42 +74,25 @@ inline QtSoapMessage request(const char* method, std::initializer_list<QtSoapTyp
 inline QString described(const QtSoapType& value)
 {
     if (!value.isValid()) {
-        return QStringLiteral("-");
+        return text("-");
     }
-    QString text = value.name().name();
+    QString all = value.name().name();
     QStringList parts;
     if (const auto* const array = dynamic_cast<const QtSoapArray*>(&value)) {
         QtSoapArray items(*array);
         for (QtSoapArrayIterator it(items); !it.atEnd(); ++it) {
-            parts += QStringLiteral("%1:%2").arg(it.pos()).arg(described(*it.current()));
+            parts += text("%1:%2").arg(it.pos()).arg(described(*it.current()));
         }
-        return text + QLatin1Char('[') + parts.join(QLatin1Char(' ')) + QLatin1Char(']');
+        return all + QLatin1Char('[') + parts.join(QLatin1Char(' ')) + QLatin1Char(']');
     }
     if (value.type() == QtSoapType::Struct) {
         for (int k = 0; k < value.count(); ++k) {
             parts += described(value[k]);
         }
-        return text + QLatin1Char('{') + parts.join(QLatin1Char(' ')) + QLatin1Char('}');
+        return all + QLatin1Char('{') + parts.join(QLatin1Char(' ')) + QLatin1Char('}');
     }
-    text += QLatin1Char(':') + value.typeName();
-    return value.value().isValid() ? text + QLatin1Char('=') + value.toString()
-                                   : text + QStringLiteral(" nil");
-}
-
-/// Sends a request and waits for the answer.
-inline QtSoapMessage ask(quint16 port, const QString& path, QtSoapMessage request,
-                         const QString& action = QString())
-{
-    QtSoapHttpTransport transport;
-    transport.setHost(QStringLiteral("127.0.0.1"), port);
-    transport.setTimeout(20000);
-    transport.setAction(action);
-    QSignalSpy answered(&transport, SIGNAL(responseReady()));
-    transport.submitRequest(request, path);
-    if (answered.isEmpty()) {
-        answered.wait(30000);
-    }
-    return transport.getResponse();
+    all += QLatin1Char(':') + value.typeName();
+    return value.value().isValid() ? all + QLatin1Char('=') + value.toString() : all + text(" nil");
 }
 
 } // namespace SoapCall
