@@ -1,6 +1,4 @@
-#include "FileTree.h"
 #include "FolderTest.h"
-#include "TestMain.h"
 
 #include <utilsDll/FileManagement.h>
 
@@ -29,59 +27,46 @@ class RecycleBinTest : public FolderTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void binHoldsTheFile_data();
-    void binHoldsTheFile();
-    void openFile();
-    void receipt();
+    void binHoldsTheFile()
+    {
+        for (const char* name : {"plain.txt", "100% a%20b", "#&;'", "ä日", "folder/file"}) {
+            const QString top = path(text(name).section(QLatin1Char('/'), 0, 0));
+            const qint64 before = filesInBin();
+            for (int count = 1; count <= 2; ++count) { // the second one has the same name
+                FileTree::write(path(name));
+                QCOMPARE(moveFileToTrash(QDir::toNativeSeparators(top)), FileOperationSucceeded);
+                QVERIFY(!QFile::exists(top));
+                QCOMPARE(filesInBin(), before + count);
+            }
+        }
+    }
+
+    /// The system refuses a file that is open without sharing.
+    void openFile()
+    {
+        const QString file = QDir::toNativeSeparators(FileTree::write(path("held")));
+        const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(file.utf16()), GENERIC_READ, 0,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        QVERIFY(held != INVALID_HANDLE_VALUE);
+        const qint64 before = filesInBin();
+        const ErrorCodes result = moveFileToTrash(file);
+        CloseHandle(held);
+        QCOMPARE(result, FileOperationFailed);
+        QVERIFY(QFile::exists(file));
+        QCOMPARE(filesInBin(), before);
+    }
+
+    /// Wine does not report where the file went; such a receipt can't be restored.
+    void receipt()
+    {
+        const QString file = FileTree::write(path("file"), "content");
+        const TrashReceipt receipt = trash(file);
+        QVERIFY(receipt.isTrashed && !QFile::exists(file));
+        QCOMPARE(restore(receipt), !receipt.trashPath.isEmpty());
+        QCOMPARE(QFile::exists(file), !receipt.trashPath.isEmpty());
+        QVERIFY(!trash(path("missing")).isTrashed);
+    }
 };
-
-void RecycleBinTest::binHoldsTheFile_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name :
-         {"plain.txt", "with blank", "100%", "a%20b", "#&;'", "\xC3\xA4\xE6\x97\xA5", "folder/file"}) {
-        QTest::newRow(name) << QString::fromUtf8(name);
-    }
-}
-
-void RecycleBinTest::binHoldsTheFile()
-{
-    QFETCH(QString, name);
-    const QString top = path(name.section(QLatin1Char('/'), 0, 0));
-    const qint64 before = filesInBin();
-    for (int count = 1; count <= 2; ++count) { // the second one has the same name
-        FileTree::write(path(name));
-        QCOMPARE(moveFileToTrash(QDir::toNativeSeparators(top)), FileOperationSucceeded);
-        QVERIFY(!QFile::exists(top));
-        QCOMPARE(filesInBin(), before + count);
-    }
-}
-
-/// The system refuses a file that is open without sharing.
-void RecycleBinTest::openFile()
-{
-    const QString file = QDir::toNativeSeparators(FileTree::write(path("held")));
-    const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(file.utf16()), GENERIC_READ, 0, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    QVERIFY(held != INVALID_HANDLE_VALUE);
-    const qint64 before = filesInBin();
-    const ErrorCodes result = moveFileToTrash(file);
-    CloseHandle(held);
-    QCOMPARE(result, FileOperationFailed);
-    QVERIFY(QFile::exists(file));
-    QCOMPARE(filesInBin(), before);
-}
-
-/// Wine does not report where the file went; such a receipt can't be restored.
-void RecycleBinTest::receipt()
-{
-    const QString file = FileTree::write(path("file"), "content");
-    const TrashReceipt receipt = trash(file);
-    QVERIFY(receipt.isTrashed && !QFile::exists(file));
-    QCOMPARE(restore(receipt), !receipt.trashPath.isEmpty());
-    QCOMPARE(QFile::exists(file), !receipt.trashPath.isEmpty());
-    QVERIFY(!trash(path("missing")).isTrashed);
-}
 
 TOLVAN_CORE_TEST_MAIN(RecycleBinTest)
 #include "tst_recyclebin_win.moc"

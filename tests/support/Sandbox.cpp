@@ -5,6 +5,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+
+#ifdef Q_OS_LINUX
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#endif
 #ifdef Q_OS_WIN
 #include <windows.h>
 #endif
@@ -18,21 +27,10 @@ bool underWine()
 #endif
 }
 
-#ifdef Q_OS_LINUX
-#include <sched.h>
-#include <sys/mount.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstring>
-
-namespace
-{
-constexpr unsigned unprivileged = 65534;
-} // namespace
-
 OrdinaryUser::OrdinaryUser()
 {
+#ifdef Q_OS_LINUX
+    constexpr unsigned unprivileged = 65534;
     if (getuid() == 0) {
         const auto all = QFile::Permissions(0x7777);
         QFile::setPermissions(QFileInfo(QDir::tempPath()).path(), all); // the profile
@@ -40,18 +38,22 @@ OrdinaryUser::OrdinaryUser()
         m_changed =
             setresgid(unprivileged, unprivileged, 0) == 0 && setresuid(unprivileged, unprivileged, 0) == 0;
     }
+#endif
 }
 
 OrdinaryUser::~OrdinaryUser()
 {
+#ifdef Q_OS_LINUX
     if (m_changed && (setresuid(0, 0, 0) != 0 || setresgid(0, 0, 0) != 0)) {
         qFatal("the process could not become root again");
     }
+#endif
 }
 
 SecondVolume::SecondVolume(const char* options)
     : m_path(QDir::temp().filePath(QStringLiteral("volume")))
 {
+#ifdef Q_OS_LINUX
     QDir().mkpath(m_path);
     // Qt caches the path. After the mounts are separated the system reports another one for a process in a
     // chroot.
@@ -61,28 +63,20 @@ SecondVolume::SecondVolume(const char* options)
         m_problem = QStringLiteral("a second file system can't be mounted (only root may): ") +
                     QString::fromLocal8Bit(std::strerror(errno));
     }
+#else
+    Q_UNUSED(options)
+    m_problem = QStringLiteral("there is one volume only on this system");
+#endif
 }
 
 SecondVolume::~SecondVolume()
 {
+#ifdef Q_OS_LINUX
     if (m_problem.isEmpty()) {
         umount2(QFile::encodeName(m_path).constData(), MNT_DETACH);
     }
-}
-
-#else
-
-OrdinaryUser::OrdinaryUser() = default;
-OrdinaryUser::~OrdinaryUser() = default;
-
-SecondVolume::SecondVolume(const char*)
-    : m_problem(QStringLiteral("there is one volume only on this system"))
-{
-}
-
-SecondVolume::~SecondVolume() = default;
-
 #endif
+}
 
 Outcome runProgram(const QString& program, const QStringList& arguments, const QString& folder,
                    const QByteArray& input)
