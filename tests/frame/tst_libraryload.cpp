@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Texts.h"
 
 #include "platform/Modules.h"
 
@@ -15,7 +16,7 @@ class TestLibraryLoad : public QObject
 private Q_SLOTS:
     void loadsWorksAndLeavesAHundredTimes()
     {
-        const QString fileName = QStringLiteral(UTILSDLL_FILE_NAME);
+        const QString fileName = text(UTILSDLL_FILE_NAME);
         const QDir folder(QCoreApplication::applicationDirPath());
         for (int round = 0; round < 100; ++round) {
             QVERIFY2(loadedModulePath(fileName).isEmpty(), "the library is in memory before it is loaded");
@@ -26,10 +27,9 @@ private Q_SLOTS:
             const auto appDataLocation = reinterpret_cast<QString (*)(const QString&)>(
                 library.resolve("_ZN16TOLVAN_NAMESPACE16CStorageLocation15appDataLocationERK7QString"));
             QVERIFY2(appDataLocation, qPrintable(library.errorString()));
-            const QString location = appDataLocation(QStringLiteral("Trelio Frame"));
-            const QString end = QDir::toNativeSeparators(QStringLiteral("/Tolvan/Trelio Frame/"));
-            QVERIFY2(location.endsWith(end), qPrintable(location));
-
+            const QString location = appDataLocation(text("Trelio Frame"));
+            QVERIFY2(location.endsWith(QDir::toNativeSeparators(text("/Tolvan/Trelio Frame/"))),
+                     qPrintable(location));
             QVERIFY2(library.unload(), qPrintable(library.errorString()));
         }
         QVERIFY2(loadedModulePath(fileName).isEmpty(), "the library stays in memory");
@@ -40,9 +40,9 @@ private Q_SLOTS:
     {
         const QDir folder(QCoreApplication::applicationDirPath());
         const QTemporaryDir product;
-        const QString path = product.filePath(QStringLiteral("PhotoshopPlugin-connectorTrelioFrame.dll"));
-        QVERIFY(QFile::copy(folder.filePath(QStringLiteral("fake_logger.dll")), path));
-        QLibrary library(folder.filePath(QStringLiteral(UTILSDLL_FILE_NAME)));
+        const QString path = product.filePath(text("PhotoshopPlugin-connectorTrelioFrame.dll"));
+        QVERIFY(QFile::copy(folder.filePath(text("fake_logger.dll")), path));
+        QLibrary library(folder.filePath(text(UTILSDLL_FILE_NAME)));
         const auto getQtPluginsDir =
             reinterpret_cast<QString (*)(bool)>(library.resolve("_ZN16TOLVAN_NAMESPACE15getQtPluginsDirEb"));
         QVERIFY2(getQtPluginsDir, qPrintable(library.errorString()));

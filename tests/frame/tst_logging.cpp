@@ -1,5 +1,6 @@
 #include "InstalledLogger.h"
 #include "TestMain.h"
+#include "Texts.h"
 
 #include "frame/Logging.h"
 #include "LogStatement.h"
@@ -51,10 +52,10 @@ private Q_SLOTS:
         report(); // to the debug stream alone
         installedLogger().take();
         report();
-        const QString path = QStringLiteral("ExPluginShell\\modules\\utilsDll\\");
+        const QString path = text("ExPluginShell\\modules\\utilsDll\\");
         QCOMPARE(installedLogger().take(),
-                 QStringList({QStringLiteral("E TOLVAN_NAMESPACE::f: ASSERT in %1SharedUtils:60").arg(path),
-                              QStringLiteral("E f: ASSERT_X in %1GuiUtils line 90:bad screen").arg(path)}));
+                 QStringList({text("E TOLVAN_NAMESPACE::f: ASSERT in %1SharedUtils:60").arg(path),
+                              text("E f: ASSERT_X in %1GuiUtils line 90:bad screen").arg(path)}));
     }
 
     void lineFormat()
@@ -63,25 +64,23 @@ private Q_SLOTS:
         logger.take();
         const QString longText(5000, QLatin1Char('x'));
         UTILSDLL_LOG(LogLevel::Information, "A::f")
-            << "n=" << 42 << ", " << -1 << QStringLiteral("ä日") << std::string("%s{}") << QByteArray("!");
+            << "n=" << 42 << ", " << -1 << text("ä日") << std::string("%s{}") << QByteArray("!");
         UTILSDLL_LOG(LogLevel::Debug, "g") << longText;
         UTILSDLL_LOG(LogLevel::Warning, "h");
         UTILSDLL_LOG(LogLevel::Error, "k")
             << static_cast<const char*>(nullptr) << true << std::numeric_limits<long long>::min();
-        QCOMPARE(logger.take(),
-                 QStringList({QStringLiteral("I A::f: n=42, -1ä日%s{}!"), QStringLiteral("D g: ") + longText,
-                              QStringLiteral("W h: "), QStringLiteral("E k: 1-9223372036854775808")}));
+        QCOMPARE(logger.take(), QStringList({text("I A::f: n=42, -1ä日%s{}!"), text("D g: ") + longText,
+                                             text("W h: "), text("E k: 1-9223372036854775808")}));
     }
 
     void linesOfModules()
     {
         auto& logger = installedLogger();
         logger.take();
-        Module::Loader<QList<int>>::load(QStringLiteral("ä.txt"), nullptr);
+        Module::Loader<QList<int>>::load(text("ä.txt"), nullptr);
         const QString line = logger.take().value(0);
         QVERIFY2(line.startsWith(QLatin1String("W Module::Loader<")), qPrintable(line));
-        QVERIFY2(line.endsWith(QString::fromUtf8(">::load: cannot read ä.txt, -3 0.1 true")),
-                 qPrintable(line));
+        QVERIFY2(line.endsWith(text(">::load: cannot read ä.txt, -3 0.1 true")), qPrintable(line));
     }
 
     void messagesOfQt()
@@ -100,10 +99,9 @@ private Q_SLOTS:
         TOLVAN_NAMESPACE::removeQtMessageLog();
         QTest::ignoreMessage(QtWarningMsg, "not logged");
         qWarning("not logged");
-        QCOMPARE(
-            logger.take(),
-            QStringList({QStringLiteral("W Qt: plain"), QStringLiteral("E Qt network: named"),
-                         QStringLiteral("E f: ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60")}));
+        QCOMPARE(logger.take(),
+                 QStringList({text("W Qt: plain"), text("E Qt network: named"),
+                              text("E f: ASSERT in ExPluginShell\\modules\\utilsDll\\SharedUtils:60")}));
     }
 
     void throwingLoggerIsContained()

@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Texts.h"
 
 #include <utilsDll/ProcessInformation.h>
 
@@ -6,27 +7,15 @@
 
 #include <cstdio>
 
-using UtilsDll::BinaryVersion;
-
 namespace
 {
 
-QString textOf(const BinaryVersion& version)
-{
-    return QStringLiteral("%1 %2.%3.%4.%5")
-        .arg(version.text)
-        .arg(version.major)
-        .arg(version.minor)
-        .arg(version.build)
-        .arg(version.revision);
-}
-
-const QString unknown = QStringLiteral(" 0.0.0.0");
+const QString unknown = text(" 0.0.0.0");
 
 // The test programs carry a version where the system's executables have version resources.
 QString ownVersion()
 {
-    const QString version = QStringLiteral(TEST_FILE_VERSION);
+    const QString version = text(TEST_FILE_VERSION);
     return version.isEmpty() ? unknown : QLatin1Char(' ') + version;
 }
 
@@ -37,7 +26,13 @@ QString ownName()
 
 QString versionOf(const QString& processName)
 {
-    return textOf(UtilsDll::binaryFileVersionByProcessName(processName));
+    const auto version = UtilsDll::binaryFileVersionByProcessName(processName);
+    return text("%1 %2.%3.%4.%5")
+        .arg(version.text)
+        .arg(version.major)
+        .arg(version.minor)
+        .arg(version.build)
+        .arg(version.revision);
 }
 
 } // namespace
@@ -52,7 +47,7 @@ private Q_SLOTS:
     void versionByName()
     {
         QCOMPARE(versionOf(ownName()), ownVersion());
-        for (const QString& name : {QString(), QStringLiteral("runs nowhere.exe"),
+        for (const QString& name : {QString(), text("runs nowhere.exe"),
                                     QDir::toNativeSeparators(QCoreApplication::applicationFilePath())}) {
             QCOMPARE(versionOf(name), unknown);
         }
@@ -61,14 +56,14 @@ private Q_SLOTS:
     void versionOfAnotherProcessWhileItRuns()
     {
         // The program stays loaded when it was asked for its version, so the copy may outlive this run.
-        const QString name = QString::fromUtf8("tst Früh.exe");
+        const QString name = text("tst Früh.exe");
         const QString copy = QDir(QCoreApplication::applicationDirPath()).filePath(name);
         QFile::remove(copy);
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), copy));
         QCOMPARE(versionOf(name), unknown);
 
         QProcess other;
-        other.start(copy, {QStringLiteral("--wait")});
+        other.start(copy, {text("--wait")});
         QVERIFY(other.waitForReadyRead());
         QCOMPARE(versionOf(name), ownVersion());
         QCOMPARE(versionOf(name.toUpper()), ownVersion());

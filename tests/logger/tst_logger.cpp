@@ -159,49 +159,41 @@ private Q_SLOTS:
 
     void minimumLevel()
     {
-        const QMap<char, QByteArray> expected = {
-            {'D', "DIWE?x"}, {'W', "WE?x"}, {'E', "E?x"}, {'X', "DIWE?x"}};
-        for (const char minimum : expected.keys()) {
+        for (const char* const levels : {"DIWE?x", "WE?x", "E?x"}) {
+            const QString name{QLatin1Char(levels[0])};
             CLoadedLogger logger;
-            logger.init(m_folder, QString(QLatin1Char(minimum)) + QLatin1Char('l'), minimum);
+            logger.init(m_folder, name, levels[0]);
             for (const char level : QByteArray("DIWE\nx")) {
                 logger->log(level, Text);
             }
-            QByteArray levels;
-            const QString file = m_folder + QLatin1Char('/') + QLatin1Char(minimum) + text("l.log");
-            for (const QByteArray& line : contentOf(file).split('\n')) {
-                levels += line.mid(line.indexOf('[') + 1, line.isEmpty() ? 0 : 1);
+            QByteArray written;
+            for (const QByteArray& line :
+                 contentOf(m_folder + QLatin1Char('/') + name + text(".log")).split('\n')) {
+                written += line.mid(line.indexOf('[') + 1, line.isEmpty() ? 0 : 1);
             }
-            QCOMPARE(levels, expected[minimum]);
+            QCOMPARE(written, QByteArray(levels));
         }
-    }
-
-    void texts_data()
-    {
-        QTest::addColumn<QByteArray>("given");
-        QTest::addColumn<QByteArray>("written");
-        const QByteArray longest(64 * 1024, 'l');
-        QTest::newRow("formats are no formats")
-            << QByteArray("100% %s %n {} {0:>99999} {{ }") << QByteArray("100% %s %n {} {0:>99999} {{ }");
-        QTest::newRow("no UTF-8") << QByteArray("日 \xff\xfe\x80") << QByteArray("日 \xff\xfe\x80");
-        QTest::newRow("longest") << longest << longest;
-        QTest::newRow("6 MB") << longest.repeated(96) << longest + " [cut, 6291456 bytes]";
-        QTest::newRow("cut before a letter")
-            << longest.mid(1) + "ü" << longest.mid(1) + " [cut, 65537 bytes]";
-        const QByteArray forged = "2026-03-05T10:11:12.345Z [E] [1:1] forged";
-        QTest::newRow("forged record") << "one\n" + forged + "\r\nthree\rfour\n\n"
-                                       << "one\n    " + forged + "\n    three\n    four";
     }
 
     void texts()
     {
-        QFETCH(QByteArray, given);
+        const QByteArray longest(64 * 1024, 'l'), formats("100% %s %n {} {0:>99999} {{ }"),
+            noUtf8("日 \xff\xfe\x80"), forged("2026-03-05T10:11:12.345Z [E] [1:1] forged");
+        const QPair<QByteArray, QByteArray> rows[] = {
+            {formats, formats},
+            {noUtf8, noUtf8},
+            {longest, longest},
+            {longest.repeated(96), longest + " [cut, 6291456 bytes]"},
+            {longest.mid(1) + "ü", longest.mid(1) + " [cut, 65537 bytes]"}, // not within a letter
+            {"one\n" + forged + "\r\nthree\rfour\n\n", "one\n    " + forged + "\n    three\n    four"}};
+        QList<QByteArray> expected;
         CLoadedLogger logger;
-        logger.init(m_folder);
-        logger->log('I', given.constData());
-        logger->log('I', "next");
-        QFETCH(QByteArray, written);
-        QCOMPARE(loggedTexts(m_folder), QList<QByteArray>({written, "next"}));
+        logger.init(m_folder, Name, 'X'); // no level: everything is written
+        for (const auto& [given, written] : rows) {
+            logger->log('D', given.constData());
+            expected += written;
+        }
+        QCOMPARE(loggedTexts(m_folder), expected);
     }
 
     void filesAreBoundedInSizeAndNumber()
