@@ -317,9 +317,9 @@ int main(int argc, char* argv[])
         checkAbout<CAboutOstraDlg>(sheet, name);
         checkButtons(sheet, name);
     };
-    setPredefinedAppStyleSheet(QString(), &application, Contrast::High);
+    setAppStyleSheetWithContrast(QString(), &application, Contrast::High);
     checkAll(QStringLiteral("contrast"));
-    setPredefinedAppStyleSheet(QString(), &application, Contrast::Normal);
+    setAppStyleSheetWithContrast(QString(), &application, Contrast::Normal);
     const QHash<unsigned, QFontDatabase::WritingSystem> scripts{{12U, QFontDatabase::Japanese},
                                                                 {13U, QFontDatabase::SimplifiedChinese}};
     for (const unsigned number : {2U, 0U, 5U, 12U, 13U}) { // in the product family

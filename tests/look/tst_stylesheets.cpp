@@ -105,7 +105,7 @@ void StyleSheetsTest::predefinedSheets()
 void StyleSheetsTest::highContrast()
 {
     const QString normal = qApp->styleSheet();
-    setPredefinedAppStyleSheet(QString(), qApp, Contrast::High);
+    setAppStyleSheetWithContrast(QString(), qApp, Contrast::High);
     const QString high = qApp->styleSheet();
     QCOMPARE(high.count(QLatin1Char('\n')), normal.count(QLatin1Char('\n'))); // nothing but colours differs
     QVERIFY(!high.contains(QStringLiteral("#242528")) && !high.contains(QStringLiteral("(69, 184, 204")));
@@ -114,7 +114,7 @@ void StyleSheetsTest::highContrast()
     label.ensurePolished();
     QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::white));
     QVERIFY(field.grab().toImage().pixelColor(field.rect().center()).lightness() < 10);
-    setPredefinedAppStyleSheet(QString(), qApp, Contrast::Normal);
+    setAppStyleSheetWithContrast(QString(), qApp, Contrast::Normal);
     QCOMPARE(qApp->styleSheet(), normal);
 }
 

@@ -26,7 +26,7 @@ using Show = std::function<int(QWidget* parent, const QString& text)>;
 struct Kind {
     const char* name;
     Show show;
-    Show showFitting; // the overload without a height, if there is one
+    Show showFitting; // the variant that fits its text, if there is one
     const char* icon;
     const char* accessibleName;
     QVector<Button> buttons; // from left to right
@@ -76,29 +76,24 @@ inline const QVector<Kind>& kinds()
     const QVector<Button> quit{{"dontQuitButton", "Don't quit", 0x400000},
                                {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
     using Box = CMessageBox;
-    using Notice = void (*)(QWidget*, const QString&, int);
-    using FittingNotice = void (*)(QWidget*, const QString&);
-    using Answer = QMessageBox::StandardButton;
-    using Question = Answer (*)(QWidget*, const QString&, int);
-    using FittingQuestion = Answer (*)(QWidget*, const QString&);
-    const auto notice = [](const char* name, Notice show, FittingNotice fitting, const char* icon,
+    // "auto": a program that takes the address of a function names no type, so no name has two overloads.
+    const auto notice = [](const char* name, auto show, auto fitting, const char* icon,
                            const char* accessible, const QVector<Button>& buttons) {
         return Kind{name, calling(show), callingFitting(fitting), icon, accessible, buttons, 0, nothing};
     };
-    const auto asking = [=](const char* name, Question show, FittingQuestion fitting,
-                            const QVector<Button>& buttons, int defaultButton, int otherwise) {
+    const auto asking = [=](const char* name, auto show, auto fitting, const QVector<Button>& buttons,
+                            int defaultButton, int otherwise) {
         return Kind{name,       calling(show), callingFitting(fitting), question,
                     "Question", buttons,       defaultButton,           otherwise};
     };
     static const QVector<Kind> all{
-        notice("information", &Box::information, &Box::information, info, "Information", ok),
-        notice("warning", &Box::warning, &Box::warning, alert, "Warning", close),
-        notice("critical", &Box::critical, &Box::critical, alert, "Error", close),
-        asking("yes or no", &Box::yesNoMessage, &Box::yesNoMessage, yesNo, 0, 0x10000),
-        asking("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::saveDiscardCancelMessage, save,
-               1, 0x400000),
-        {"rotate", calling<bool>(&Box::rotateQuestion), callingFitting<bool>(&Box::rotateQuestion), question,
-         "Question", rotate, 0, 0},
+        notice("information", &Box::information, &Box::fittingInformation, info, "Information", ok),
+        notice("warning", &Box::warning, &Box::fittingWarning, alert, "Warning", close),
+        notice("critical", &Box::critical, &Box::fittingCritical, alert, "Error", close),
+        asking("yes or no", &Box::yesNoMessage, &Box::fittingYesNoMessage, yesNo, 0, 0x10000),
+        asking("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::fittingSaveDiscardCancelMessage,
+               save, 1, 0x400000),
+        asking("rotate", &Box::rotateQuestion, &Box::fittingRotateQuestion, rotate, 0, 0),
         {"quit",
          callingFitting(&Box::backgroundProcessingCancelMessage),
          {},

@@ -35,7 +35,7 @@ class QWidget;
 /// Layouts of the library's dialogs adapt to it.
 ///
 /// \par Contrast
-/// Each of the sheets' 28 colours has a counterpart for high contrast, see setPredefinedAppStyleSheet().
+/// Each of the sheets' 28 colours has a counterpart for high contrast, see setAppStyleSheetWithContrast().
 ///
 /// Main thread only. Nothing is thrown. Files that can't be read are skipped without a message.
 
@@ -67,11 +67,11 @@ enum class Contrast {
     High    ///< always the counterparts for high contrast
 };
 
-/// The same with a choice of colours. The overload above uses Contrast::System. With high contrast every colour
-/// of the product's palette is replaced in the joined text of the sheets; a host that has sheets of its own in
-/// \a mainSheet gets the replacement for the colours that it has in common with the palette.
-UTILSDLL_EXPORT void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app,
-                                                Contrast contrast);
+/// The same as setPredefinedAppStyleSheet(), which uses Contrast::System, with a choice of colours. With high
+/// contrast every colour of the product's palette is replaced in the joined text of the sheets; a host that has
+/// sheets of its own in \a mainSheet gets the replacement for the colours that it has in common with the palette.
+UTILSDLL_EXPORT void setAppStyleSheetWithContrast(const QString& mainSheet, QApplication* app,
+                                                  Contrast contrast);
 
 /// Returns whether the user asked the system for high contrast. On Windows this is the setting "High contrast",
 /// on Linux that of the desktop portal; false without a portal. May block for half a second on Linux.

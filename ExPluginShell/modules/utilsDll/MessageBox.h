@@ -39,7 +39,7 @@ class QPushButton;
 ///
 /// \par Height
 /// \a height is the height of the box in pixels. If the text needs more, it scrolls, beginning at its top. The
-/// functions without \a height fit the box to its text, up to four fifths of the screen.
+/// functions named "fitting" fit the box to its text, up to four fifths of the screen.
 ///
 /// \par Assistive technology
 /// A box announces itself as an alert when it is shown. Its accessible name is its kind (for example "Warning"),
@@ -60,31 +60,31 @@ public:
     /// Shows a message with the button "OK".
     static void information(QWidget* parent, const QString& text, int height);
     /// The same in a box that fits its text.
-    static void information(QWidget* parent, const QString& text);
+    static void fittingInformation(QWidget* parent, const QString& text);
     /// Shows a warning with the button "Close".
     static void warning(QWidget* parent, const QString& text, int height);
     /// The same in a box that fits its text.
-    static void warning(QWidget* parent, const QString& text);
+    static void fittingWarning(QWidget* parent, const QString& text);
     /// Reports an error, with the button "Close".
     static void critical(QWidget* parent, const QString& text, int height);
     /// The same in a box that fits its text.
-    static void critical(QWidget* parent, const QString& text);
+    static void fittingCritical(QWidget* parent, const QString& text);
     /// Asks a question: "Yes" (default) and "No".
     /// \return QMessageBox::Yes or QMessageBox::No; No without a choice
     static QMessageBox::StandardButton yesNoMessage(QWidget* parent, const QString& text, int height);
     /// The same in a box that fits its text.
-    static QMessageBox::StandardButton yesNoMessage(QWidget* parent, const QString& text);
+    static QMessageBox::StandardButton fittingYesNoMessage(QWidget* parent, const QString& text);
     /// Asks what to do with changes: "Don't save", "Save" (default) and "Cancel".
     /// \return QMessageBox::Save, Discard or Cancel; Cancel without a choice
     static QMessageBox::StandardButton saveDiscardCancelMessage(QWidget* parent, const QString& text,
                                                                 int height);
     /// The same in a box that fits its text.
-    static QMessageBox::StandardButton saveDiscardCancelMessage(QWidget* parent, const QString& text);
+    static QMessageBox::StandardButton fittingSaveDiscardCancelMessage(QWidget* parent, const QString& text);
     /// Asks whether to rotate: "Rotate" (default) and "Cancel".
     /// \return whether "Rotate" was chosen
     static bool rotateQuestion(QWidget* parent, const QString& text, int height);
     /// The same in a box that fits its text.
-    static bool rotateQuestion(QWidget* parent, const QString& text);
+    static bool fittingRotateQuestion(QWidget* parent, const QString& text);
     /// Asks whether to quit while work is running: "Don't quit" and "Quit without saving" (default). The box is
     /// always 165 pixels high.
     /// \return QMessageBox::Discard to quit, otherwise QMessageBox::Cancel; Cancel without a choice

@@ -94,10 +94,10 @@ QStringList setAppStyleSheet(const QStringList& files, QApplication* app)
 
 void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app)
 {
-    setPredefinedAppStyleSheet(mainSheet, app, Contrast::System);
+    setAppStyleSheetWithContrast(mainSheet, app, Contrast::System);
 }
 
-void setPredefinedAppStyleSheet(const QString& mainSheet, QApplication* app, Contrast contrast)
+void setAppStyleSheetWithContrast(const QString& mainSheet, QApplication* app, Contrast contrast)
 {
     setAppStyleSheet({mainSheet.isEmpty() ? QStringLiteral(":/qss/custom.qss") : mainSheet,
                       QStringLiteral(":/qss/slider.qss"), QStringLiteral(":/qss/settings.qss"),

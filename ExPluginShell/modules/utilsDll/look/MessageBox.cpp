@@ -240,7 +240,7 @@ void CMessageBox::information(QWidget* parent, const QString& text, int height)
     showSimpleMessageBox(parent, text, messageIcon(MessageKind::Information), tr("OK"), height);
 }
 
-void CMessageBox::information(QWidget* parent, const QString& text)
+void CMessageBox::fittingInformation(QWidget* parent, const QString& text)
 {
     information(parent, text, fittingHeight);
 }
@@ -250,7 +250,7 @@ void CMessageBox::warning(QWidget* parent, const QString& text, int height)
     showSimpleMessageBox(parent, text, messageIcon(MessageKind::Warning), tr("Close"), height);
 }
 
-void CMessageBox::warning(QWidget* parent, const QString& text)
+void CMessageBox::fittingWarning(QWidget* parent, const QString& text)
 {
     warning(parent, text, fittingHeight);
 }
@@ -260,7 +260,7 @@ void CMessageBox::critical(QWidget* parent, const QString& text, int height)
     showSimpleMessageBox(parent, text, messageIcon(MessageKind::Error), tr("Close"), height);
 }
 
-void CMessageBox::critical(QWidget* parent, const QString& text)
+void CMessageBox::fittingCritical(QWidget* parent, const QString& text)
 {
     critical(parent, text, fittingHeight);
 }
@@ -276,7 +276,7 @@ QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QSt
     return session.run(height) == yes ? QMessageBox::Yes : QMessageBox::No;
 }
 
-QMessageBox::StandardButton CMessageBox::yesNoMessage(QWidget* parent, const QString& text)
+QMessageBox::StandardButton CMessageBox::fittingYesNoMessage(QWidget* parent, const QString& text)
 {
     return yesNoMessage(parent, text, fittingHeight);
 }
@@ -298,7 +298,7 @@ QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* paren
     return clicked == discard ? QMessageBox::Discard : QMessageBox::Cancel;
 }
 
-QMessageBox::StandardButton CMessageBox::saveDiscardCancelMessage(QWidget* parent, const QString& text)
+QMessageBox::StandardButton CMessageBox::fittingSaveDiscardCancelMessage(QWidget* parent, const QString& text)
 {
     return saveDiscardCancelMessage(parent, text, fittingHeight);
 }
@@ -314,7 +314,7 @@ bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text, int heigh
     return session.run(height) == rotate;
 }
 
-bool CMessageBox::rotateQuestion(QWidget* parent, const QString& text)
+bool CMessageBox::fittingRotateQuestion(QWidget* parent, const QString& text)
 {
     return rotateQuestion(parent, text, fittingHeight);
 }
