@@ -39,7 +39,8 @@ class QPushButton;
 ///
 /// \par Height
 /// \a height is the height of the box in pixels. If the text needs more, it scrolls, beginning at its top. The
-/// functions named "fitting" fit the box to its text, up to four fifths of the screen.
+/// functions named "fitting" fit the box to its text, up to four fifths of the screen. With a large system font,
+/// buttons that are too wide for one row have two.
 ///
 /// \par Assistive technology
 /// A box announces itself as an alert when it is shown. Its accessible name is its kind (for example "Warning"),

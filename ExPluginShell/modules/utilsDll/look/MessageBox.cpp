@@ -3,6 +3,7 @@
 #include "controls/IconViewer.h"
 #include "frame/Logging.h"
 #include "look/AccessibleRoles.h"
+#include "look/ButtonRow.h"
 #include "look/MessageKinds.h"
 #include "look/WrappingLabel.h"
 
@@ -181,6 +182,8 @@ void CMessageBox::fit(int height)
     for (QWidget* const widget : findChildren<QWidget*>()) {
         widget->ensurePolished(); // the style sheet decides on the fonts
     }
+    const auto buttons = findChildren<QPushButton*>();
+    TOLVAN_NAMESPACE::fitButtonRow(*m_ui->gridLayout, *buttons.constFirst()->parentWidget(), boxWidth);
     const int available = int(screen()->availableGeometry().height() * largestShare);
     const bool fits = height == fittingHeight;
     const int wanted = fits ? qMin(layout()->totalHeightForWidth(boxWidth), available) : height;
@@ -188,7 +191,6 @@ void CMessageBox::fit(int height)
     if (m_ui->gridLayout->minimumHeightForWidth(boxWidth) > wanted) {
         m_ui->text->makeScrollable(*m_ui->contentLayout);
     }
-    const auto buttons = findChildren<QPushButton*>();
     const auto chosen = std::find_if(buttons.begin(), buttons.end(), std::mem_fn(&QPushButton::isDefault));
     (*chosen)->setFocus(); // every box has a default button
 }
