@@ -5,12 +5,14 @@
 #include <QComboBox>
 #include <QDial>
 #include <QEvent>
+#include <QFile>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyledItemDelegate>
 #include <QTextEdit>
 #include <QtMath>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cmath>
@@ -144,6 +146,23 @@ void paintDial(const QDial& dial, QPainter& painter)
     painter.drawLine(onCircle(centre, knob * 0.35, angle), onCircle(centre, knob * 0.75, angle));
 }
 
+/// Gives a tool button in the column of the settings its drawing for the checked state. A sheet can
+/// give it a picture of one size only, which is lost at every scale but 100 %.
+void addCheckedDrawing(QToolButton& button)
+{
+    const QWidget* above = button.parentWidget();
+    while (above && above->objectName() != QLatin1String("settingsCategories")) {
+        above = above->parentWidget();
+    }
+    const QString name = button.objectName().section(QStringLiteral("Button"), 0, 0);
+    const QString file = QStringLiteral(":/icons/settingsPanel/settings_%1_checked.svg").arg(name);
+    if (above && QFile::exists(file)) {
+        QIcon icon = button.icon();
+        icon.addFile(file, {}, QIcon::Normal, QIcon::On);
+        button.setIcon(icon);
+    }
+}
+
 void improve(QWidget* widget)
 {
     if (auto* const box = qobject_cast<QComboBox*>(widget)) {
@@ -151,6 +170,8 @@ void improve(QWidget* widget)
     } else if (qobject_cast<QLineEdit*>(widget) || qobject_cast<QTextEdit*>(widget) ||
                qobject_cast<QPlainTextEdit*>(widget)) {
         softenPlaceholder(*widget);
+    } else if (auto* const button = qobject_cast<QToolButton*>(widget)) {
+        addCheckedDrawing(*button);
     }
 }
 
