@@ -3,6 +3,7 @@
 #include "BuildIdentification.h"
 #include "controls/IconViewer.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
@@ -64,7 +65,7 @@ QString licenceLinks()
         link("https://zlib.net/zlib_license.html", QStringLiteral("zlib")),
         link("https://www.qt.io/", QStringLiteral("Qt")),
     };
-    return links.join(QStringLiteral(" &nbsp;· "));
+    return links.join(QStringLiteral("&nbsp;· "));
 }
 
 /// Links that the keyboard reaches one by one. Beside them the mouse drags the dialog.
@@ -82,6 +83,22 @@ protected:
         if (forwards || event->reason() == Qt::BacktabFocusReason) {
             focusNextPrevChild(forwards);
         }
+    }
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QLabel::focusOutEvent(event);
+        setAccessibleName(QString()); // the whole text again
+    }
+    /// Gives the marked link to assistive technology, which does not see the mark.
+    bool focusNextPrevChild(bool next) override
+    {
+        const bool stays = QLabel::focusNextPrevChild(next);
+        if (stays && hasSelectedText()) {
+            setAccessibleName(selectedText());
+            QAccessibleEvent event(this, QAccessible::Focus);
+            QAccessible::updateAccessibility(&event);
+        }
+        return stays;
     }
     void mousePressEvent(QMouseEvent* event) override
     {

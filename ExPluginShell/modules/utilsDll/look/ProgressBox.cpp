@@ -32,6 +32,14 @@ constexpr int refreshInterval = 100; // ms
 constexpr int timeInterval = 1000;   // ms between two texts of the remaining time
 constexpr int barSteps = 1000;
 
+/// Describes a widget to assistive technology, which hears of every call, also with the same text.
+void describe(QWidget& widget, const QString& text)
+{
+    if (widget.accessibleDescription() != text) {
+        widget.setAccessibleDescription(text);
+    }
+}
+
 } // namespace
 
 /// The widgets of the box, in their places.
@@ -124,7 +132,9 @@ void CProgressBox::Form::showLine(QLabel& label, const QString& text)
     const QString shown = label.fontMetrics().elidedText(line, Qt::ElideMiddle, width);
     label.setText(shown.isEmpty() ? QString(QChar(QChar::Nbsp)) : shown); // an empty line keeps its height
     label.setToolTip(shown == line ? QString() : text);
-    label.setAccessibleName(text);
+    if (label.accessibleName() != text) {
+        label.setAccessibleName(text);
+    }
 }
 
 CProgressBox::CProgressBox(const QString& title, QWidget* parent)
@@ -330,7 +340,7 @@ void CProgressBox::refresh()
     m_ui->bar->setRange(0, state.total > 0 ? barSteps : 0);
     m_ui->bar->setValue(state.total > 0 ? int(double(state.done) / double(state.total) * barSteps) : 0);
     m_ui->showLine(*m_ui->step, state.step);
-    setAccessibleDescription(state.step);
+    describe(*this, state.step);
     if (state.stopAsked) {
         m_ui->showLine(*m_ui->time, tr("Stopping…"));
     } else if (now - state.timeShownAt >= timeInterval) {
@@ -359,10 +369,13 @@ void CProgressBox::showError()
     m_ui->button->setText(tr("Close"));
     m_ui->button->setEnabled(true);
     m_ui->button->setDefault(true);
-    m_ui->button->setFocus();
-    setAccessibleDescription(m_ui->error->plainText());
+    describe(*this, m_ui->error->plainText());
+    const bool wasOpen = isVisible();
     fitHeight();
     show();
+    // A screen reader reads a box as it opens. Later it reads what gets the focus.
+    QWidget* const next = wasOpen ? static_cast<QWidget*>(m_ui->error) : m_ui->button;
+    next->setFocus();
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

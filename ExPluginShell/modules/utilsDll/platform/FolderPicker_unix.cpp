@@ -1,6 +1,7 @@
 #include "platform/FolderPicker.h"
 
 #include <QCache>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -8,6 +9,7 @@
 #include <QIdentityProxyModel>
 #include <QImageReader>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QTimer>
@@ -106,6 +108,8 @@ public:
             view->setIconSize(isList ? QSize(thumbnailEdge, thumbnailEdge) : view->iconSize());
         }
         replaceAcceptButton();
+        nameCombo("lookIn");
+        nameCombo("fileType");
     }
 
     /// Returns the folder that was open when the button was clicked.
@@ -141,6 +145,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// Assistive technology would read the current entry only.
+    void nameCombo(const char* purpose)
+    {
+        const auto* const label = findChild<QLabel*>(QLatin1String(purpose) + QStringLiteral("Label"));
+        auto* const combo = findChild<QComboBox*>(QLatin1String(purpose) + QStringLiteral("Combo"));
+        if (label && combo) {
+            combo->setAccessibleName(label->text());
+        }
+    }
+
     void replaceAcceptButton()
     {
         auto* const box = findChild<QDialogButtonBox*>();
