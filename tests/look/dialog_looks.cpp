@@ -24,9 +24,8 @@ using namespace TOLVAN_NAMESPACE;
 namespace
 {
 
-constexpr qreal textContrast = 4.5;
-constexpr qreal shapeContrast = 3.0;
-
+constexpr double textContrast = 4.5;
+constexpr double shapeContrast = 3.0;
 struct Text {
     const char* name;
     QString text;
@@ -51,8 +50,11 @@ public:
     }
 
     void begin(const QString& name) { m_name = name; }
-    int faults() const { return m_faults; }
-    int pictures() const { return m_pictures; }
+    int finish() const
+    {
+        std::printf("%d pictures, %d faults\n", m_pictures, m_faults);
+        return m_faults == 0 && m_pictures > 0 ? 0 : 1;
+    }
 
     void verify(bool ok, const QWidget& widget, const char* rule)
     {
@@ -78,6 +80,7 @@ public:
                 checkSharpness(*widget);
             }
         }
+        checkHover();
         checkFocus();
     }
 
@@ -113,7 +116,7 @@ private:
             label && !label->text().isEmpty()) {
             const bool wraps = label->hasHeightForWidth();
             verify(wraps ? label->height() >= label->heightForWidth(label->width())
-                         : label->fontMetrics().horizontalAdvance(label->text()) <= label->width(),
+                         : label->sizeHint().width() <= label->width(),
                    widget, "is cut");
         }
         if (qobject_cast<const QAbstractButton*>(&widget)) {
@@ -135,10 +138,12 @@ private:
         }
     }
 
+    QPoint placeInPicture(const QPoint& place) const { return place * m_image.devicePixelRatio(); }
+
     QImage part(const QRect& place) const
     {
-        const qreal ratio = m_image.devicePixelRatio();
-        return m_image.copy(QRect(place.topLeft() * ratio, place.size() * ratio));
+        return m_image.copy(
+            QRect(placeInPicture(place.topLeft()), place.size() * m_image.devicePixelRatio()));
     }
 
     void checkColours(const QWidget& widget)
@@ -150,23 +155,36 @@ private:
             return;
         }
         const QRect inner = button ? place.adjusted(4, 4, -4, -4) : place;
-        const QColor ground = Pixels::mostFrequent(part(inner));
+        const QRgb ground = Pixels::mostFrequent(part(inner));
         const bool enabled = widget.isEnabled();
         verify(Pixels::largestContrast(part(inner), ground) >= (enabled ? textContrast : shapeContrast),
                widget, "text is too faint");
-        if (button && enabled) {
-            const QColor border =
-                part({place.left() + place.width() / 2, place.top(), 1, 1}).pixelColor(0, 0);
-            const QColor around = part({place.left() + 3, place.top() - 3, 1, 1}).pixelColor(0, 0);
-            verify(Pixels::contrast(border, around) >= shapeContrast, widget, "border is too faint");
+        if (button && enabled && widget.parentWidget()->objectName() != QLatin1String("settingsCategories")) {
+            const QRgb border =
+                m_image.pixel(placeInPicture({place.left() + place.width() / 2, place.top()}));
+            const QRgb around = m_image.pixel(placeInPicture(place.topLeft() + QPoint(3, -3)));
+            verify(contrast(border, around) >= shapeContrast, widget, "border is too faint");
         }
+    }
+
+    /// Returns where the widget shows a picture.
+    QRect pictureOf(const QWidget& widget) const
+    {
+        const QRect place = placeOf(widget) & m_dialog->rect();
+        const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+        if (button && !button->icon().isNull()) {
+            constexpr int besideText = 44;
+            return button->text().isEmpty() ? place
+                                            : QRect(place.topLeft(), QSize(besideText, place.height()));
+        }
+        return qobject_cast<const CIconViewer*>(&widget) ? place : QRect();
     }
 
     /// A picture that was enlarged loses nothing when it is made small and large again.
     void checkSharpness(const QWidget& widget)
     {
-        const QRect place = placeOf(widget) & m_dialog->rect();
-        if (m_image.devicePixelRatio() < 2 || !qobject_cast<const CIconViewer*>(&widget) || place.isEmpty()) {
+        const QRect place = pictureOf(widget);
+        if (m_image.devicePixelRatio() < 2 || place.isEmpty()) {
             return;
         }
         const QImage drawn = part(place).convertToFormat(QImage::Format_RGB32);
@@ -178,8 +196,26 @@ private:
                 most = qMax(most, qAbs(qGreen(drawn.pixel(x, y)) - qGreen(blurred.pixel(x, y))));
             }
         }
-        constexpr int sharp = 20;
-        verify(most >= sharp, widget, "is blurred");
+        verify(most >= 20, widget, "is blurred");
+    }
+
+    void checkHover()
+    {
+        for (auto* const button : m_dialog->findChildren<QAbstractButton*>()) {
+            if (!button->isVisible() || !button->isEnabled() || button->isDown()) {
+                continue;
+            }
+            const QImage before = m_dialog->grab().toImage();
+            for (const bool over : {true, false}) {
+                const QPoint at = button->rect().center();
+                QMouseEvent move(QEvent::MouseMove, at, button->mapToGlobal(at), Qt::NoButton, {}, {});
+                button->setAttribute(Qt::WA_UnderMouse, over);
+                QApplication::sendEvent(button, &move);
+                m_image = m_dialog->grab().toImage();
+                verify((m_image != before) == over, *button, "does not follow the mouse");
+                checkColours(*button);
+            }
+        }
     }
 
     void checkFocus()
@@ -263,24 +299,39 @@ void checkAbout(Sheet& sheet, const QString& language)
     sheet.check(dialog);
 }
 
-/// Buttons of every kind in every state: each state looks different.
+/// Buttons of every kind and of the settings column: each state looks different.
 void checkButtons(Sheet& sheet, const QString& language)
 {
     sheet.begin(language + QStringLiteral(" buttons"));
     QDialog dialog;
-    auto* const column = new QVBoxLayout(&dialog);
-    QList<QAbstractButton*> buttons{new QPushButton, new QPushButton, new QToolButton,
-                                    new QCheckBox,   new QCheckBox,   new QRadioButton};
-    for (int i = 0; i < buttons.size(); ++i) {
-        buttons[i]->setText(QStringLiteral("Text"));
-        buttons[i]->setObjectName(QStringLiteral("button %1").arg(i));
-        buttons[i]->setCheckable(i != 0);
-        buttons[i]->setChecked(i % 2);
-        column->addWidget(buttons[i]);
-    }
+    auto* const columns = new QHBoxLayout(&dialog);
+    QList<QAbstractButton*> buttons;
+    const auto addColumn = [&](const char* columnName, const QList<QAbstractButton*>& added) {
+        auto* const column = new QWidget;
+        column->setObjectName(QLatin1String(columnName));
+        columns->addWidget(column);
+        auto* const layout = new QVBoxLayout(column);
+        const char* const names[] = {"performance", "general", "display", "language", "privacy"};
+        for (int i = 0; i < added.size(); ++i) {
+            added[i]->setText(QLatin1String(names[i]));
+            added[i]->setObjectName(added[i]->text() + QStringLiteral("Button"));
+            added[i]->setCheckable(i != 0);
+            added[i]->setChecked(i % 2);
+            layout->addWidget(added[i]);
+        }
+        buttons += added;
+    };
+    addColumn("", {new QPushButton, new QPushButton, new QToolButton, new QCheckBox, new QRadioButton});
+    addColumn("settingsCategories", {new QPushButton, new QPushButton, new QPushButton});
+    addColumn("settingsCategories", {new QToolButton, new QToolButton, new QToolButton});
     dialog.show();
     sheet.check(dialog);
     for (QAbstractButton* const button : buttons) {
+        const auto drawing = [&](QIcon::State state) {
+            return button->icon().pixmap(dialog.windowHandle(), {24, 24}, QIcon::Normal, state).toImage();
+        };
+        const bool bothStates = button->inherits("QToolButton") && !button->icon().isNull();
+        sheet.verify(!bothStates || drawing(QIcon::On) != drawing(QIcon::Off), *button, "loses its drawing");
         QList<QImage> seen;
         const auto look = [&] {
             const QImage image = button->grab().toImage();
@@ -295,6 +346,19 @@ void checkButtons(Sheet& sheet, const QString& language)
         button->setEnabled(false);
         look();
     }
+}
+
+void checkFolderPicker(Sheet& sheet, const QString& language)
+{
+    if (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows) {
+        return; // the system's own dialog
+    }
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir(QStringLiteral("Hochzeit"));
+    sheet.begin(language + QStringLiteral(" folder picker"));
+    auto& dialogs = Singleton<CNativeDialogs>::instance();
+    const auto pick = [&] { dialogs.getFileBrowserDirectory(nullptr, {}, folder.path(), {}, {}); };
+    whileOpen<QFileDialog>(pick, [&](QFileDialog& dialog) { sheet.check(dialog); });
 }
 
 } // namespace
@@ -316,6 +380,7 @@ int main(int argc, char* argv[])
         checkAbout<CAboutDlg>(sheet, name);
         checkAbout<CAboutOstraDlg>(sheet, name);
         checkButtons(sheet, name);
+        checkFolderPicker(sheet, name);
     };
     setAppStyleSheetWithContrast(QString(), &application, Contrast::High);
     checkAll(QStringLiteral("contrast"));
@@ -323,14 +388,14 @@ int main(int argc, char* argv[])
     const QHash<unsigned, QFontDatabase::WritingSystem> scripts{{12U, QFontDatabase::Japanese},
                                                                 {13U, QFontDatabase::SimplifiedChinese}};
     for (const unsigned number : {2U, 0U, 5U, 12U, 13U}) { // in the product family
-        const auto script = scripts.value(number, QFontDatabase::Latin);
-        if (QFontDatabase().families(script).isEmpty()) { // under Wine only empty boxes would be seen
+        if (QFontDatabase()
+                .families(scripts.value(number))
+                .isEmpty()) { // under Wine only empty boxes would be seen
             std::printf("no font for the language %u\n", number);
             continue;
         }
         languages->changeLanguage(languages->getLanguageIndexFromID(number));
         checkAll(languages->currentLanguageAbbrv());
     }
-    std::printf("%d pictures, %d faults\n", sheet.pictures(), sheet.faults());
-    return sheet.faults() == 0 && sheet.pictures() > 0 ? 0 : 1;
+    return sheet.finish();
 }
