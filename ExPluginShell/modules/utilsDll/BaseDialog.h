@@ -18,6 +18,8 @@ namespace TOLVAN_NAMESPACE
 /// `#exportDialog`, addresses a single dialog. The dialog paints the background and border of these rules
 /// itself, also where Qt would leave out the background of a translucent window. Without any rule it is
 /// transparent. A border takes part of the dialog's area: leave it free with the margins of the layout.
+/// The dialog draws no shadow, because a shadow inside the window would change its size. A desktop that gives
+/// shadows to windows without a frame does so here.
 ///
 /// \code
 /// class ExportDialog : public TOLVAN_NAMESPACE::CBaseDialog
