@@ -57,6 +57,8 @@ void AboutDialogsTest::linksAndDragging()
     QApplication::setActiveWindow(dialog.get());
     links->setFocus(Qt::TabFocusReason);
     QCOMPARE(links->selectedText(), QString::fromUtf8("GNU\u00a0LGPL\u00a03"));
+    QTest::keyClick(links, Qt::Key_Tab);
+    QCOMPARE(links->accessibleName(), QString::fromUtf8("GNU\u00a0LGPL\u00a02.1")); // heard, as it is seen
     for (int number = 1; number <= 5; ++number) {
         auto* const label = dialog->findChild<QLabel*>(QStringLiteral("label_%1").arg(number));
         const QPoint before = dialog->pos();

@@ -20,7 +20,6 @@ class ApplicationStyleTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanupTestCase();
-    void styleSheetOfFiles_data();
     void styleSheetOfFiles();
     void wrongCalls();
     void withoutResourcesFontsAndIconAreLeftAlone();
@@ -51,47 +50,18 @@ QString ApplicationStyleTest::write(const QString& name, const QByteArray& conte
     return ok ? file.fileName() : QString();
 }
 
-void ApplicationStyleTest::styleSheetOfFiles_data()
-{
-    write(QStringLiteral("red.qss"), "QLabel { color: red }");
-    write(QStringLiteral("bold.qss"), "QLabel { font-weight: bold }");
-    write(QStringLiteral("mark"), "\xEF\xBB\xBFQLabel { color: green }");
-    write(QStringLiteral("utf8"), "QLabel#\xC3\xA4\xE6\x97\xA5 { margin: 2px }");
-    write(QStringLiteral("empty"), "");
-    QDir(m_folder.path()).mkdir(QStringLiteral("folder"));
-
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QString>("read");
-    QTest::addColumn<QString>("sheet");
-    const auto row = [](const char* title, const char* names, const char* read, const QString& sheet) {
-        QTest::newRow(title) << QString::fromUtf8(names) << QString::fromUtf8(read) << sheet;
-    };
-    row("only the second is there", "none.qss|red.qss", "red.qss", QStringLiteral("QLabel { color: red }"));
-    row("in order", "bold.qss|red.qss", "bold.qss|red.qss",
-        QStringLiteral("QLabel { font-weight: bold }QLabel { color: red }"));
-    row("byte order mark in the middle", "red.qss|mark", "red.qss|mark",
-        QStringLiteral("QLabel { color: red }QLabel { color: green }"));
-    row("UTF-8", "utf8", "utf8", QStringLiteral("QLabel#ä日 { margin: 2px }"));
-    row("empty path and empty file", "|empty", "empty", QString());
-    row("nothing to read", "none.qss|nor this", "", QString());
-    row("folders", "folder|:/qt-project.org|:/", "", QString());
-}
-
 void ApplicationStyleTest::styleSheetOfFiles()
 {
-    QFETCH(QString, names);
-    QFETCH(QString, read);
-    QFETCH(QString, sheet);
-    const auto paths = [this](const QString& list) {
-        QStringList result;
-        for (const QString& name : list.split(QLatin1Char('|'))) {
-            const bool given = name.isEmpty() || name.startsWith(QLatin1Char(':'));
-            result += given ? name : m_folder.filePath(name);
-        }
-        return result;
-    };
-    QCOMPARE(setAppStyleSheet(paths(names), qApp), read.isEmpty() ? QStringList() : paths(read));
-    QCOMPARE(qApp->styleSheet(), sheet);
+    const QString red = write(QStringLiteral("red"), "QLabel { color: red }");
+    const QString marked = write(QStringLiteral("mark"), "\xEF\xBB\xBFQLabel#\xC3\xA4 { margin: 2px }");
+    const QString empty = write(QStringLiteral("empty"), "");
+    const QString none = m_folder.filePath(QStringLiteral("none"));
+    const QString folder = m_folder.path();
+    QCOMPARE(setAppStyleSheet({none, red, QString(), marked, empty, folder, QStringLiteral(":/")}, qApp),
+             QStringList({red, marked, empty}));
+    QCOMPARE(qApp->styleSheet(), QStringLiteral("QLabel { color: red }QLabel#ä { margin: 2px }"));
+    QCOMPARE(setAppStyleSheet({none}, qApp), QStringList());
+    QCOMPARE(qApp->styleSheet(), QString());
     QCOMPARE(installedLogger().take(), QStringList());
 }
 
@@ -110,8 +80,7 @@ void ApplicationStyleTest::wrongCalls()
 
 void ApplicationStyleTest::withoutResourcesFontsAndIconAreLeftAlone()
 {
-    const QFontDatabase database;
-    const QStringList families = database.families();
+    const QStringList families = QFontDatabase().families();
     loadFonts();
     QCOMPARE(QFontDatabase().families(), families);
 

@@ -4,9 +4,14 @@
 #include <utilsDll/look/RemainingTime.h>
 #include <utilsDll/ProgressBox.h>
 
+#include <QAccessible>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+
+#include <functional>
+
+#include <functional>
 
 namespace
 {
@@ -44,6 +49,7 @@ T* find(const QDialog& box, const char* name)
 }
 
 const QString title = QStringLiteral("Exporting");
+int descriptions = 0; // given to assistive technology
 
 } // namespace
 
@@ -85,28 +91,27 @@ void ProgressBoxTest::shortWorkShowsNoBox()
 
 void ProgressBoxTest::cancelling()
 {
-    for (const char* const way : {"button", "Escape", "window"}) {
+    const QVector<std::function<void(CProgressBox&)>> ways = {
+        [](CProgressBox& box) { find<QPushButton>(box, "cancelButton")->click(); },
+        [](CProgressBox& box) { QTest::keyClick(&box, Qt::Key_Escape); },
+        [](CProgressBox& box) { box.close(); },
+    };
+    for (const auto& cancel : ways) {
         CProgressBox box(title);
         box.setAppearanceDelay(0);
         QSignalSpy requests(&box, SIGNAL(cancelRequested()));
         Work work(true);
         CProgressBox::Result result = CProgressBox::Failed;
-        const auto cancel = [&](CProgressBox& open) {
+        const auto act = [&](CProgressBox& open) {
             QVERIFY(open.isModal());
-            auto* const button = find<QPushButton>(open, "cancelButton");
             QTest::keyClick(&open, Qt::Key_Return); // typed as the box appeared
             QCOMPARE(requests.count(), 0);
-            if (*way == 'b') {
-                button->click();
-            } else if (*way == 'E') {
-                QTest::keyClick(&open, Qt::Key_Escape);
-            } else {
-                open.close();
-            }
-            QVERIFY(open.isVisible() && !button->isEnabled()); // until the work has ended
+            cancel(open);
+            QVERIFY(open.isVisible()); // until the work has ended
+            QVERIFY(!find<QPushButton>(open, "cancelButton")->isEnabled());
             QCOMPARE(find<QLabel>(open, "timeLabel")->text(), QStringLiteral("Stopping…"));
         };
-        QVERIFY(whileOpen<CProgressBox>([&] { result = box.run(work); }, cancel));
+        QVERIFY(whileOpen<CProgressBox>([&] { result = box.run(work); }, act));
         QCOMPARE(result, CProgressBox::Stopped);
         QCOMPARE(requests.count(), 1);
         QVERIFY(work.stopRequired() && !box.isVisible());
@@ -119,7 +124,6 @@ void ProgressBoxTest::failure()
         CProgressBox box(title);
         box.setError(QStringLiteral("of an earlier run"));
         Work work(false, false);
-        CProgressBox::Result result = CProgressBox::Succeeded;
         QString shown;
         connect(&work, &CQRunnableItem::started, &box, [&] { text.isNull() ? void() : box.setError(text); });
         QTimer close;
@@ -130,8 +134,7 @@ void ProgressBoxTest::failure()
             }
         });
         close.start(10);
-        result = box.run(work);
-        QCOMPARE(result, CProgressBox::Failed);
+        QCOMPARE(box.run(work), CProgressBox::Failed);
         QCOMPARE(shown, text.isNull() ? QStringLiteral("The work could not be completed.") : text);
     }
 }
@@ -157,18 +160,22 @@ void ProgressBoxTest::whatIsShown()
     QTRY_VERIFY(box.isVisible());
     auto* const bar = find<QProgressBar>(box, "progressBar");
     QCOMPARE(bar->maximum(), 0); // the total is not known
-    const QSize size = box.size();
     box.setProgress(qint64(1) << 40, qint64(1) << 42, path);
+    QAccessible::setActive(true);
+    QAccessible::installUpdateHandler(
+        [](QAccessibleEvent* event) { descriptions += event->type() == QAccessible::DescriptionChanged; });
     QTRY_COMPARE(bar->maximum(), 1000);
+    QTest::qWait(250); // two refreshes without news
+    QCOMPARE(descriptions, QAccessible::isActive() ? 1 : 0);
+    QAccessible::installUpdateHandler(nullptr);
     QCOMPARE(bar->value(), 250);
     const auto* const step = find<QLabel>(box, "stepLabel");
     QVERIFY(step->text().size() < path.size() && step->text().endsWith(QStringLiteral("x.CR3")));
-    QVERIFY(step->fontMetrics().horizontalAdvance(step->text()) <= step->width());
     QCOMPARE(step->toolTip(), path);
     QCOMPARE(box.accessibleDescription(), path);
-    QCOMPARE(box.size(), size);
+    box.setError(path);
     box.end();
-    QVERIFY(!box.isVisible());
+    QCOMPARE(box.focusWidget(), find<QLabel>(box, "errorLabel")); // is read aloud
 }
 
 void ProgressBoxTest::accompanies()
@@ -190,8 +197,7 @@ void ProgressBoxTest::remainingTime()
     const std::pair<QVector<int>, int> rows[] = {
         // done once a second, of 100 | seconds left
         {{}, -1},
-        {{0, 10}, -1}, // too early
-        {{0, 10, 20, 30}, 7},
+        {{0, 10}, -1},            // too early
         {{0, 10, 20, 29}, 8},     // rounded up
         {{20, 20, 20, 20}, -1},   // does not move
         {{50, 90, 0, 10, 20}, 8}, // starts anew

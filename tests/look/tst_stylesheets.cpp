@@ -1,14 +1,12 @@
 #include "TestMain.h"
 #include "WidgetClasses.h"
 
-#include <utilsDll/AboutDlg.h>
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/SharedUtils.h>
 
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
-#include <QLabel>
 
 using namespace TOLVAN_NAMESPACE;
 
@@ -54,7 +52,6 @@ private Q_SLOTS:
     void parsesAndAppliesWithoutWarning();
     void predefinedSheets();
     void highContrast();
-    void fontFamilies();
     void fontsAndIcon();
 };
 
@@ -109,26 +106,8 @@ void StyleSheetsTest::highContrast()
     const QString high = qApp->styleSheet();
     QCOMPARE(high.count(QLatin1Char('\n')), normal.count(QLatin1Char('\n'))); // nothing but colours differs
     QVERIFY(!high.contains(QStringLiteral("#242528")) && !high.contains(QStringLiteral("(69, 184, 204")));
-    QLabel label(QStringLiteral("Text"));
-    QLineEdit field;
-    label.ensurePolished();
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::white));
-    QVERIFY(field.grab().toImage().pixelColor(field.rect().center()).lightness() < 10);
     setAppStyleSheetWithContrast(QString(), qApp, Contrast::Normal);
     QCOMPARE(qApp->styleSheet(), normal);
-}
-
-void StyleSheetsTest::fontFamilies()
-{
-    CAboutDlg about;
-    const auto first = [](QWidget* label) {
-        label->ensurePolished();
-        return label->font().families().constFirst();
-    };
-    QCOMPARE(first(&about), QStringLiteral("Lucida Sans Unicode"));
-    QCOMPARE(first(about.findChild<QLabel*>(QStringLiteral("label_1"))), QStringLiteral("OpenSansLight"));
-    QCOMPARE(first(about.findChild<QLabel*>(QStringLiteral("label_2"))),
-             QStringLiteral("Lucida Sans Unicode"));
 }
 
 void StyleSheetsTest::fontsAndIcon()
