@@ -354,7 +354,6 @@ void checkFolderPicker(Sheet& sheet, const QString& language)
         return; // the system's own dialog
     }
     const QTemporaryDir folder;
-    QDir(folder.path()).mkdir(QStringLiteral("Hochzeit"));
     sheet.begin(language + QStringLiteral(" folder picker"));
     auto& dialogs = Singleton<CNativeDialogs>::instance();
     const auto pick = [&] { dialogs.getFileBrowserDirectory(nullptr, {}, folder.path(), {}, {}); };
