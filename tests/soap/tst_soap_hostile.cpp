@@ -56,7 +56,7 @@ private Q_SLOTS:
         row("header behind the body", envelope("</e:Body><e:Header/><e:Body>"), "behind the body");
         row("something behind the envelope", envelope("") + "<a/>", "Line 1");
         row("mismatched tags", envelope("<a></b>"), "Line 1");
-        row("undeclared entity", envelope("<a>&uml;</a>"), "The entity \"uml\" is not defined");
+        row("undeclared entity", envelope("<a>&uml;</a>"), "Line 1");
         row("control character", envelope("<a>\x01</a>"), "Line 1");
         row("document type", "<!DOCTYPE e:Envelope>" + envelope(""), "document type");
         row("document type in UTF-16", wide("<!DOCTYPE a>" + envelope("")), "document type");
