@@ -143,10 +143,14 @@ private Q_SLOTS:
         const QString file = FileTree::write(
             path("noise"), QByteArray(reinterpret_cast<const char*>(noise.constData()), 4 * noise.size()));
         QVERIFY(run(ArchiveTask::pack({file}, path("a.zip"))).isComplete());
-        const ArchiveReport report = run(ArchiveTask::unpack(path("a.zip"), m_volume.path()));
-        QCOMPARE(report.failures.size(), 1);
-        QCOMPARE(report.failures.constFirst().problem, ArchiveProblem::DiskFull);
-        QVERIFY(!run(ArchiveTask::pack({file}, m_volume.path() + text("/a.zip"))).isComplete());
+        const QString archive = m_volume.path() + text("/a.zip");
+        for (const ArchiveTask& task : {ArchiveTask::unpack(path("a.zip"), m_volume.path()),
+                                        ArchiveTask::pack({file, file}, archive)}) {
+            const ArchiveReport report = run(task);
+            QCOMPARE(report.failures.size(), 1);
+            QCOMPARE(report.failures.constFirst().name, task.packing ? archive : text("noise"));
+            QCOMPARE(report.failures.constFirst().problem, ArchiveProblem::DiskFull);
+        }
         QVERIFY(FileTree::of(m_volume.path()).isEmpty());
     }
 

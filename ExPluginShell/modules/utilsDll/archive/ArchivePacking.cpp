@@ -82,6 +82,7 @@ public:
 
     /// \return whether the archive is complete, but for the files that were left out
     bool pack(std::vector<PackedFile>& files);
+    bool hasTargetFailed() const { return m_targetFailed; }
 
 private:
     void packFiles(std::vector<PackedFile>& files);
@@ -92,19 +93,21 @@ private:
     QuaZip m_zip;
     ArchiveWork& m_work;
     Deflaters m_deflaters;
-    bool m_failed = false; ///< the archive can't become complete
+    bool m_failed = false;       ///< the archive can't become complete
+    bool m_targetFailed = false; ///< it can't be written: a problem of the archive and of no entry
 };
 
 bool Packer::pack(std::vector<PackedFile>& files)
 {
     m_zip.setUtf8Enabled(!std::all_of(files.begin(), files.end(),
                                       [](const PackedFile& file) { return isPlainAscii(file.name); }));
-    if (!m_zip.open(QuaZip::mdCreate)) {
-        return false;
+    m_targetFailed = !m_zip.open(QuaZip::mdCreate);
+    if (!m_targetFailed) {
+        packFiles(files);
+        m_zip.close();
+        m_targetFailed = m_targetFailed || (!m_failed && m_zip.getZipError() != ZIP_OK);
     }
-    packFiles(files);
-    m_zip.close();
-    return !m_failed && m_zip.getZipError() == ZIP_OK;
+    return !m_failed && !m_targetFailed;
 }
 
 void Packer::packFiles(std::vector<PackedFile>& files)
@@ -143,8 +146,9 @@ void Packer::packPiece(PackedPiece& piece)
         } else if (!problem && !m_failed) {
             problem = packContent(content);
             m_failed = problem.has_value(); // a part of the entry may be in the archive
+            m_targetFailed = problem == ArchiveProblem::WriteFailed;
         }
-        if (problem) {
+        if (problem && !m_targetFailed) {
             m_work.fail(content.file.path, *problem);
             m_failed = m_failed || !m_work.task().skipFailedFiles;
         } else if (!m_failed) {
@@ -260,16 +264,17 @@ void packArchive(ArchiveWork& work)
     }
     QDir().mkpath(QFileInfo(task.archive).absolutePath());
     ArchiveTarget target(task.archive);
-    bool complete = target.begin();
-    if (complete) {
+    bool hasTargetFailed = !target.begin();
+    if (!hasTargetFailed) {
         Packer packer(target, work);
-        complete = packer.pack(files) && !work.stopRequired();
-    }
-    if (complete && target.commit()) {
-        return;
+        const bool complete = packer.pack(files) && !work.stopRequired();
+        hasTargetFailed = complete ? !target.commit() : packer.hasTargetFailed();
+        if (complete && !hasTargetFailed) {
+            return;
+        }
     }
     work.withdraw();
-    if (work.failed() == missing && !work.stopRequired()) {
+    if (hasTargetFailed && !work.stopRequired()) {
         work.fail(task.archive, targetProblem(task.archive));
     }
 }
