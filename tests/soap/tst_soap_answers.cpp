@@ -41,7 +41,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("timeout");
         QTest::addColumn<QString>("outcome"); // what outcome() says of the answer, as a pattern
         const auto row = [](const char* name, const char* outcome, const Answer& answer,
-                            int timeout = 10000) {
+                            int timeout = 30000) {
             QTest::newRow(name) << answer << timeout << text(outcome);
         };
         const QByteArray ok = "200 OK", oops = "500 Oops", xml = "text/xml", html = "text/html";
@@ -72,10 +72,10 @@ private Q_SLOTS:
         rawRow("packed, 65 MiB", "^Other The answer is larger than 64 MiB$",
                raw("Content-Encoding: deflate\r\n", qCompress(QByteArray(65 << 20, ' ')).mid(4)));
         rawRow("packed otherwise", "^Other .*packed as \"br\"$", raw("Content-Encoding: br\r\n", good));
-        rawRow("10,000 cookies", "^Other The head of the answer has more than 500 lines or 64 KiB$",
-               raw(QByteArray("Set-Cookie: a=b\r\n").repeated(10000), good));
+        rawRow("1,000 cookies", "^Other The head of the answer has more than 500 lines or 64 KiB$",
+               raw(QByteArray("Set-Cookie: a=b\r\n").repeated(1000), good));
         rawRow("a long line", "^Other The head of the answer",
-               raw("X: " + QByteArray(200000, 'x') + "\r\n", good));
+               raw("X: " + QByteArray(70000, 'x') + "\r\n", good));
         row("100 MB announced", "^Other The answer is larger than 64 MiB$", {ok, xml, good, 100000000});
         row("silence", "^Other The server did not answer within 0.1 s$", {ok, xml, good, -1, -1, 0, true},
             100);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(call.received.toXmlString(), call.transport.getResponse().toXmlString());
         call.server.answer = HttpLoopback::Answer();
         call.server.answer.body = good; // and the transport is as good as new
-        call.transport.setTimeout(10000);
+        call.transport.setTimeout(30000);
         QVERIFY(call.ask());
         QCOMPARE(call.outcome(), text("value pong"));
         QVERIFY(call.transport.networkAccessManager()->findChildren<QNetworkReply*>().size() <= 2);
