@@ -109,20 +109,6 @@ private Q_SLOTS:
         QVERIFY(settings.group().isEmpty());
     }
 
-    void groupSurvivesSwitchOfMode()
-    {
-        CSettings::setTemporarySettings(*m_temporary);
-        CSettings settings;
-        settings.beginGroup(text("A"));
-        CSettings::resetTemporarySettings();
-        QVERIFY(settings.group().isEmpty()); // the native store's own group
-        settings.setValue(text("A/k"), 3);
-        QCOMPARE(settings.value(text("k")).toInt(), 3); // the prefix is applied to reading alone
-        QVERIFY(!settings.contains(text("k")));
-        settings.endGroup(); // of the native store: the prefix stays
-        QCOMPARE(settings.localKey(text("k")), text("A/k"));
-    }
-
     void modeFollowsTheObject()
     {
         const auto line = [](const char* function, const char* message) {
@@ -150,13 +136,10 @@ private Q_SLOTS:
 
     void modeEndsWithNull()
     {
-        for (const auto end : {&CSettings::resetTemporarySettings, &setTemporarySettingsToNull}) {
-            CSettings::setTemporarySettings(*m_temporary);
-            QVERIFY(CSettings().usingTemporarySettings());
-            end();
-            QVERIFY(!CSettings().usingTemporarySettings());
-            QVERIFY(installedLogger().take().last().endsWith(text("settings are now stored in system")));
-        }
+        CSettings::setTemporarySettings(*m_temporary);
+        setTemporarySettingsToNull();
+        QVERIFY(!CSettings().usingTemporarySettings());
+        QVERIFY(installedLogger().take().last().endsWith(text("settings are now stored in system")));
     }
 
     void familyLanguage()

@@ -24,7 +24,6 @@ namespace
 class AnyFile : public CSettings
 {
 public:
-    using CSettings::createOstraCollectionGroup;
     using CSettings::getSettingFromConfigFile;
     using CSettings::writeSettingToConfigFile;
 };
@@ -78,8 +77,6 @@ private Q_SLOTS:
         const auto row = [](const char* name, const char* body, const char* value) {
             QTest::newRow(name) << QByteArray("<configuration>") + body + "</configuration>" << text(value);
         };
-        row("first match wins", "<group name='G'><key name='K' value='1'/><key name='K' value='2'/></group>",
-            "1");
         row("search goes on in groups of the same name",
             "<group name='G'><key name='X' value='1'/></group><group name='G'><key name='K' "
             "value='2'/></group>",
@@ -87,7 +84,6 @@ private Q_SLOTS:
         row("tag of the key plays no part", "<group name='G'><anything name='K' value='1'/></group>", "1");
         row("tag of the group does", "<groups name='G'><key name='K' value='1'/></groups>", "default");
         row("only direct children", "<x><group name='G'><key name='K' value='1'/></group></x>", "default");
-        row("names are case-sensitive", "<group name='g'><key name='K' value='1'/></group>", "default");
         row("no value means English", "<group name='G'><key name='K'/></group>", "en");
         QTest::newRow("byte order mark and declaration")
             << QByteArray("\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?><configuration><group name='G'>"
@@ -154,13 +150,6 @@ private Q_SLOTS:
             QCOMPARE(installedLogger().take(), QStringList({m_reading + line, m_writing + line}));
             QCOMPARE(contentOf(m_path), xml);
         }
-    }
-
-    void elementOutlivesItsCreation()
-    {
-        QDomElement group = AnyFile::createOstraCollectionGroup(text("G"), text("K"), text("V"), text("T"));
-        group.appendChild(group.ownerDocument().createTextNode(text("note")));
-        QCOMPARE(group.text(), text("note"));
     }
 
     void textThatXmlCannotHold()

@@ -54,27 +54,6 @@ private Q_SLOTS:
         QVERIFY(!contentOf(path).contains("b=2"));
     }
 
-    void lastObjectGivesTheReportedPath()
-    {
-        CTemporarySettings first(nullptr);
-        const QString firstPath = first.tempSettingsPath();
-        QString secondPath;
-        {
-            CTemporarySettings second(nullptr);
-            secondPath = second.tempSettingsPath();
-            QVERIFY(secondPath != firstPath);
-            QCOMPARE(first.tempSettingsPath(), secondPath);
-            first.setValue(text("k"), 1); // still works on its own file
-            QVERIFY(onDisk(firstPath, "k").isValid() && !onDisk(secondPath, "k").isValid());
-            first.setSharedSettingsPath(text("shared.ini"));
-            QCOMPARE(first.tempSettingsPath(), text("shared.ini"));
-            QCOMPARE(second.tempSettingsPath(), secondPath);
-        }
-        first.setSharedSettingsPath(QString());
-        QCOMPARE(first.tempSettingsPath(), secondPath); // of an object that is gone
-        QVERIFY(!QFile::exists(secondPath) && QFile::exists(firstPath));
-    }
-
     void nothingIsLeft()
     {
         auto settings = std::make_unique<CTemporarySettings>(nullptr);
