@@ -2,7 +2,6 @@
 #include "HappensBefore.h"
 #include "TestMain.h"
 
-#include <utilsDll/ExcludeUserInpuEventLoop.h>
 #include <utilsDll/OperationCompletionWaiter.h>
 
 #include <QLineEdit>
@@ -42,19 +41,6 @@ WaitResult outcome(Operation* operation, std::chrono::milliseconds limit, Action
     QTimer::singleShot(0, &waiter, action);
     return waiter.startWaitingFor(limit);
 }
-
-/// What loops and waits return in a process that has no application object yet.
-bool returnsWithoutApplication()
-{
-    Operation operation;
-    COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
-    const bool refused =
-        CExcludeUserInpuEventLoop().exec(50) == -1 && waiter.startWaitingFor(30s) == WaitResult::NoEventLoop;
-    waiter.startWaiting(); // would hang
-    return refused;
-}
-
-bool hasReturned = false;
 
 } // namespace
 
@@ -107,23 +93,16 @@ private Q_SLOTS:
                      [] { COperationCompletionWaiter(nullptr, SIGNAL(done())); });
     }
 
-    void userInputIsProcessed()
-    {
-        Operation operation;
-        QLineEdit edit;
-        COperationCompletionWaiter waiter(&operation, SIGNAL(done()));
-        QTimer::singleShot(0, this, [&] {
-            QTest::keyClicks(&edit, QStringLiteral("typed"));
-            operation.finish(true);
-        });
-        waiter.startWaiting();
-        QCOMPARE(edit.text(), QStringLiteral("typed"));
-    }
-
     void deadlines()
     {
         Operation operation;
-        QCOMPARE(outcome(&operation, 30s, [&] { operation.finish(true); }), WaitResult::Done);
+        QLineEdit edit;
+        const auto typeAndFinish = [&] {
+            QTest::keyClicks(&edit, QStringLiteral("typed")); // input is processed
+            operation.finish(true);
+        };
+        QCOMPARE(outcome(&operation, 30s, typeAndFinish), WaitResult::Done);
+        QCOMPARE(edit.text(), QStringLiteral("typed"));
         QCOMPARE(outcome(&operation, 5ms, [] {}), WaitResult::TimedOut);
         auto* const dies = new Operation;
         QCOMPARE(outcome(dies, 30s, [dies] { delete dies; }), WaitResult::SenderGone);
@@ -155,17 +134,7 @@ private Q_SLOTS:
         QCOMPARE(completed.startWaitingFor(30s), WaitResult::Done);
         QCOMPARE(missed.startWaitingFor(30s), WaitResult::SenderGone);
     }
-
-    void withoutApplicationObject()
-    {
-        QVERIFY(hasReturned);
-    }
 };
 
-int main(int argc, char* argv[])
-{
-    hasReturned = returnsWithoutApplication();
-    return TestMain::run<QApplication, CompletionWaiterTest>(argc, argv);
-}
-
+TOLVAN_GUI_TEST_MAIN(CompletionWaiterTest)
 #include "tst_completionwaiter.moc"

@@ -9,9 +9,7 @@
 
 #include <cstdlib>
 #include <functional>
-#include <memory>
 #include <new>
-#include <utility>
 
 /// A target that notes its calls and, on request, does something from inside them.
 class Target : public QObject
@@ -38,25 +36,7 @@ public Q_SLOTS:
     {
         received = {a, b, c, d, e, f, g, h, i};
     }
-    void takeMixed(const QString& text, double number) { received = {text, number}; }
 };
-
-/// A target that discards its calls when it is destroyed.
-struct Discarding : Target {
-    ~Discarding() override { CDelayedCall::discard(this, nullptr); }
-};
-Q_DECLARE_METATYPE(std::shared_ptr<Discarding>)
-
-template <class... Args>
-static auto compiles(int)
-    -> decltype(CDelayedCall::invokeWithArgs(1, std::declval<Target*>(), "take", std::declval<Args>()...),
-                std::true_type());
-template <class... Args>
-static std::false_type compiles(...);
-static_assert(decltype(compiles<QVariant, bool>(0))::value && decltype(compiles<int, QString>(0))::value);
-// The last argument of each would be taken for the flag.
-static_assert(!decltype(compiles<int, int>(0))::value);
-static_assert(!decltype(compiles<int, const char (&)[4]>(0))::value);
 
 /// Run in a process of its own, because it happens at its end.
 static int outliveTheSingleton(int argc, char* argv[])
@@ -102,18 +82,13 @@ private Q_SLOTS:
     void periodicUntilDiscarded()
     {
         Target target;
-        QElapsedTimer clock;
-        clock.start();
-        qint64 fourth = -1;
-        target.inside = [&] { fourth = target.calls == 4 ? clock.elapsed() : fourth; };
-        CDelayedCall::invoke(25, &target, "m", false);
-        QTRY_VERIFY(target.calls >= 4); // a busy machine may look only after the fifth
-        QVERIFY2(fourth >= 90, qPrintable(QString::number(fourth)));
+        CDelayedCall::invoke(5, &target, "m", false);
+        QTRY_VERIFY(target.calls >= 4);
         QVERIFY(CDelayedCall::isActive(&target, "m"));
         CDelayedCall::discard(&target, "m");
         QVERIFY(!CDelayedCall::isActive(&target, "m"));
         const int calls = target.calls;
-        QTest::qWait(60);
+        QTest::qWait(20);
         QCOMPARE(target.calls, calls);
     }
 
@@ -149,8 +124,6 @@ private Q_SLOTS:
         CDelayedCall::invoke(0, nullptr, "m");
         CDelayedCall::invoke(0, &target, nullptr);
         CDelayedCall::discard(nullptr, nullptr);
-        QVERIFY(!CDelayedCall::isActive(nullptr, "m"));
-        QVERIFY(!CDelayedCall::isActive(&target, nullptr));
         CDelayedCall::invoke(10, &target, "m");
         QTest::ignoreMessage(QtWarningMsg, "QObject::startTimer: Timers cannot have negative intervals");
         CDelayedCall::invoke(-1, &target, "m"); // no timer, but the earlier request is cancelled
@@ -171,8 +144,6 @@ private Q_SLOTS:
         QTRY_COMPARE(target.received, QVariantList({a, b, c, d, e, f, g, h, i}));
         CDelayedCall::invokeWithArgs(0, &target, "take", a, b, c, d);
         QTRY_COMPARE(target.received, QVariantList({a, b, c, d, 0, 0, 0, 0, 0}));
-        CDelayedCall::invokeWithArgs(0, &target, "takeMixed", QStringLiteral("ä"), QVariant(0.5));
-        QTRY_COMPARE(target.received, QVariantList({QStringLiteral("ä"), 0.5}));
     }
 
     void newObjectAtTheSameAddress()
@@ -187,19 +158,6 @@ private Q_SLOTS:
         QTRY_COMPARE(target->others, 1);
         QCOMPARE(target->calls, 0); // the old object's call has fallen due before
         target->~Target();
-    }
-
-    void argumentHoldsTheTarget()
-    {
-        for (const char* const method : {"m", static_cast<const char*>(nullptr)}) {
-            auto owner = std::make_shared<Discarding>();
-            const QPointer<Discarding> target(owner.get());
-            CDelayedCall::invokeWithArgs(20, target, "m", QVariant::fromValue(owner)); // the only call of all
-            owner.reset();
-            QVERIFY(target);
-            CDelayedCall::discard(target, method);
-            QVERIFY(!target);
-        }
     }
 
     void staticObjectOutlivesTheSingleton()

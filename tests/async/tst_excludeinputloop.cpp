@@ -7,7 +7,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <thread>
 
 namespace
 {
@@ -37,17 +36,6 @@ private Q_SLOTS:
         target.reset();
         QVERIFY(!dies);
         QVERIFY(!CExcludeUserInpuEventsFilter(nullptr).parent());
-    }
-
-    void filterNeedsTheTargetsThread()
-    {
-        EventSink widget;
-        QTest::ignoreMessage(QtWarningMsg, "Logic error: can't install event filter in different thread");
-        std::thread([&] {
-            const CExcludeUserInpuEventsFilter warned(&widget);
-            const CExcludeUserInpuEventsFilter silent(qApp);
-        }).join();
-        QVERIFY(isPressDelivered(widget));
     }
 
     void endsWith()

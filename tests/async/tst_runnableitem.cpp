@@ -14,7 +14,6 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -156,16 +155,6 @@ private Q_SLOTS:
         }
     }
 
-    void workThatThrows()
-    {
-        Item item([](const Item&) -> bool { throw std::runtime_error("x"); });
-        const Spies spies(item);
-        QVERIFY_EXCEPTION_THROWN(item.run(), std::runtime_error);
-        QCOMPARE(item.entriesCounter(), 0);
-        QCOMPARE(spies.started.count(), 1);
-        QCOMPARE(spies.finished.count(), 0);
-    }
-
     void interruptedThread()
     {
         Item item(untilStopped);
@@ -232,7 +221,10 @@ private Q_SLOTS:
         item.waitFinishBlocking(); // not started yet: returns at once
         item.waitFinishNonBlocking(true);
         QCOMPARE(item.waitStartBlockingFor(0ms), WaitResult::TimedOut);
+        EventSink sink;
+        QTimer::singleShot(0, &sink, [&] { QTest::mouseClick(&sink, Qt::LeftButton); });
         QCOMPARE(item.waitExecuteNonBlockingFor(true, 5ms), WaitResult::TimedOut);
+        QVERIFY(!sink.got.contains(QEvent::MouseButtonPress));
         startOn(pool, item);
         QCOMPARE(item.waitStartNonBlockingFor(false, 30s), WaitResult::Done);
         QCOMPARE(item.waitFinishBlockingFor(5ms), WaitResult::TimedOut);
@@ -248,30 +240,6 @@ private Q_SLOTS:
         never.stop();
         QCOMPARE(never.waitExecuteNonBlockingFor(true, 30s), WaitResult::Stopped);
         QCOMPARE(never.waitFinishNonBlockingFor(true, 30s), WaitResult::Done);
-    }
-
-    void waitKeepsTimersAndSwallowsInput()
-    {
-        QThreadPool pool;
-        std::atomic<bool> go{false};
-        Item item([&](const Item&) { return until([&] { return go.load(); }); });
-        EventSink widget;
-        int ticks = 0;
-        QTimer timer; // the wait can't end without it
-        connect(&timer, &QTimer::timeout, this, [&] {
-            QTest::mouseClick(&widget, Qt::LeftButton);
-            if (++ticks == 1) {
-                startOn(pool, item);
-            }
-            go = ticks > 3 && item.isStarted(); // the wait has seen the start in between
-        });
-        timer.start(5);
-        item.waitExecuteNonBlocking(true);
-        timer.stop();
-        QVERIFY(!widget.got.contains(QEvent::MouseButtonPress));
-        QTest::mouseClick(&widget, Qt::LeftButton);
-        QCOMPARE(widget.take(QEvent::MouseButtonPress), 1);
-        QVERIFY(finishOn(pool));
     }
 
     void thousandItemsStoppedByManyThreads()
