@@ -37,27 +37,13 @@ private Q_SLOTS:
         using Points = QList<QPointF>;
         QCOMPARE(points(2, 0, 0, 0, 1, 0, 1), Points({{2, 0}, {0, 0}})); // in the order of the direction
         QCOMPARE(points(3, 0, 3, -1, 3, 4, 2), Points({{3, 6}, {3, 2}}));
+        QCOMPARE(points(0, 0, 3, 4, 3, 4, 5), Points({{0, 0}, {6, 8}}));
         QCOMPARE(points(0, 0, 2, 0, 1, 1, below(1)), Points({{1, 0}}));
         QCOMPARE(points(0, 0, 2, 0, 1, 1, above(1)).size(), 2);
         QCOMPARE(points(0, 0, 2, 0, 1, 1, 1 - 2e-12), Points());
         QCOMPARE(points(0, 0, 1e-12, 0, 0, 0, 5), Points()); // no direction
         QCOMPARE(points(0, 0, above(1e-12), 0, 0, 0, 5), Points({{-5, 0}, {5, 0}}));
         QCOMPARE(points(0, 0, notANumber, 1, 0, 0, 1), Points());
-    }
-
-    void pointsLieOnBoth()
-    {
-        for (int degrees = 0; degrees < 360; degrees += 7) {
-            const double angle = degrees * M_PI / 180.0;
-            const double dx = 1e5 * std::cos(angle);
-            const double dy = 1e5 * std::sin(angle);
-            const auto points = lineAndCircleIntersectionPoints(-7, 3, -7 + dx, 3 + dy, 11, 13, 500);
-            QCOMPARE(points.size(), 2);
-            for (const QPointF& point : points) {
-                QVERIFY(std::abs(std::hypot(point.x() - 11, point.y() - 13) - 500) < 1e-9);
-                QVERIFY(std::abs((point.x() + 7) * dy - (point.y() - 3) * dx) / 1e5 < 1e-9);
-            }
-        }
     }
 
     void rounding()

@@ -1,4 +1,4 @@
-#include "AssertionReport.h"
+#include "InstalledLogger.h"
 #include "TestMain.h"
 
 #include <utilsDll/GuiUtils.h>
@@ -123,18 +123,6 @@ private Q_SLOTS:
         }
     }
 
-    void notCentred()
-    {
-        QWidget window;
-        QWidget child(&window);
-        child.move(3, 4);
-        for (QWidget* const wrong : {static_cast<QWidget*>(nullptr), &child}) {
-            verifyReport("TOLVAN_NAMESPACE::moveWindowToScreenCenter", "GuiUtils", 116, "Bug!!!",
-                         [&] { moveWindowToScreenCenter(wrong, &window); });
-        }
-        QCOMPARE(child.pos(), QPoint(3, 4));
-    }
-
     void mouseMoveIsSent()
     {
         QWidget widget;
@@ -228,24 +216,8 @@ private Q_SLOTS:
 
 int main(int argc, char* argv[])
 {
-    const IsolatedProfile profile;
-    TestMain::prepare();
     qputenv("QT_FONT_DPI", "120");
-    QTEST_SET_MAIN_SOURCE_PATH
-    std::unique_ptr<QWidget> survivor; // of the application
-    int failed = 0;
-    {
-        QApplication application(argc, argv);
-        survivor = std::make_unique<QWidget>();
-        GuiUtilsTest test;
-        failed = QTest::qExec(&test, argc, argv);
-    }
-    installedLogger().take();
-    flickHoverEvent(survivor.get());
-    moveWindowToScreenCenter(survivor.get(), nullptr);
-    const bool reported =
-        installedLogger().take().value(0).endsWith(QStringLiteral("line 111:desktop is unavailable"));
-    return reported ? failed : failed + 1;
+    return TestMain::run<QApplication, GuiUtilsTest>(argc, argv);
 }
 
 #include "tst_guiutils.moc"

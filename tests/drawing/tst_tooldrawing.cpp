@@ -97,21 +97,6 @@ private Q_SLOTS:
         check("cut at the bottom", {20, 20}, {20, 45}, true, clip, {{20, 30}, -90, {}, {0, 0, 10, 4}});
     }
 
-    void everyLineIsDrawnTheSameFromBothEnds()
-    {
-        const QPointF centre(32, 24);
-        for (int degrees = 0; degrees < 360; ++degrees) {
-            if (degrees == 135 || degrees == 315) {
-                continue; // the two directions in which neither end counts as the left one
-            }
-            const QPointF end = QLineF::fromPolar(20, degrees).p2();
-            for (const bool stretch : {false, true}) {
-                QVERIFY2(drawn(centre, centre + end, stretch, {}) == drawn(centre + end, centre, stretch, {}),
-                         qPrintable(QString::number(degrees)));
-            }
-        }
-    }
-
     void painterIsRestored()
     {
         QImage image = blank();
