@@ -63,19 +63,6 @@ private Q_SLOTS:
         }
     }
 
-    void fieldsAreAsHighAsButtons()
-    {
-        const auto height = [](QWidget&& widget) {
-            widget.setFont(QFont(QStringLiteral("Roboto"), 9));
-            widget.ensurePolished();
-            return widget.sizeHint().height();
-        };
-        QCOMPARE(height(QPushButton(QStringLiteral("Text"))), 28);
-        QCOMPARE(height(QLineEdit()), 28);
-        QCOMPARE(height(QComboBox()), 28);
-        QCOMPARE(height(QDateEdit()), 28);
-    }
-
     void placeholdersAreSofterThanText()
     {
         QPlainTextEdit field;
@@ -124,45 +111,6 @@ private Q_SLOTS:
         const QPointer<QAbstractItemDelegate> ours = box.view()->itemDelegate();
         QApplication::setStyle(new CustomTolvanAppStyle); // the old style goes, and nothing of it may stay
         QVERIFY(!ours && box.view()->itemDelegate());
-    }
-
-    void headersStandAboveTheirCells()
-    {
-        QTableWidget table(1, 1);
-        table.setFocusPolicy(Qt::NoFocus);
-        table.setHorizontalHeaderLabels({QStringLiteral("HH")});
-        table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("HH")));
-        const QRect header(QPoint(), QSize(80, table.horizontalHeader()->height() - 4));
-        shown(table);
-        const auto offset = [](QWidget* view, const QRect& area) { // of the text, in device pixels
-            const QImage image = view->grab(area).toImage();
-            int first = image.width();
-            eachPixel(image, image.rect(), [&](QPoint at, QRgb pixel) {
-                first = contrast(pixel, ground.rgb()) > 7 ? qMin(first, at.x()) : first;
-            });
-            return first;
-        };
-        QCOMPARE(
-            offset(table.horizontalHeader()->viewport(), header),
-            offset(table.viewport(), table.visualRect(table.model()->index(0, 0)).adjusted(0, 2, -2, -2)));
-    }
-
-    void dialsShowTheirValue()
-    {
-        const auto lit = [](int value) {
-            QDial dial;
-            dial.setFocusPolicy(Qt::NoFocus);
-            dial.setValue(value);
-            dial.resize(64, 64);
-            const QImage image = shown(dial);
-            int pixels = 0;
-            eachPixel(image, image.rect(),
-                      [&](QPoint, QRgb pixel) { pixels += qBlue(pixel) - qRed(pixel) > 100; });
-            return pixels;
-        };
-        QVERIFY(lit(50) > 2 * lit(10));
-        QVERIFY(lit(99) > 3 * lit(50) / 2);
     }
 
     void checkedPicturesAreSharp()
