@@ -86,15 +86,6 @@ private Q_SLOTS:
         }
     }
 
-    void countries()
-    {
-        const QByteArray text = FileTree::read(QStringLiteral(":/translations/countries.en.txt"));
-        const QStringList lines = QString::fromUtf8(text).split(QStringLiteral("\r\n"));
-        QCOMPARE(lines.size(), 245);
-        QCOMPARE(lines.last(), QString());
-        QCOMPARE(lines.at(6), QStringLiteral("--------------- ; not_selectable"));
-    }
-
     void calibrationData()
     {
         // The same bytes on every machine; what is in them is checked where the database is made.

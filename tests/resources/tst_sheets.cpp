@@ -1,5 +1,4 @@
 #include "Contrast.h"
-#include "HighDpi.h"
 #include "TestMain.h"
 
 #include <utilsDll/customtolvanappstyle.h>
@@ -31,7 +30,7 @@ QImage shown(QWidget& widget)
 
 } // namespace
 
-/// What the sheets, with the style's help, make of fields, views and buttons, at twice the size.
+/// What the sheets, with the style's help, make of fields, views and buttons.
 class SheetsTest : public QObject
 {
     Q_OBJECT
@@ -57,8 +56,7 @@ private Q_SLOTS:
         }
         const QImage image = shown(window);
         for (QWidget* const field : fields) {
-            const QPoint left(field->x(), field->y() + 20);
-            const QRgb border = image.pixel(left * image.devicePixelRatio());
+            const QRgb border = image.pixel(field->x(), field->y() + 20);
             QVERIFY2(contrast(border, ground.rgb()) >= 3, field->metaObject()->className());
         }
     }
@@ -112,41 +110,7 @@ private Q_SLOTS:
         QApplication::setStyle(new CustomTolvanAppStyle); // the old style goes, and nothing of it may stay
         QVERIFY(!ours && box.view()->itemDelegate());
     }
-
-    void checkedPicturesAreSharp()
-    {
-        QWidget column;
-        column.setObjectName(QStringLiteral("settingsCategories"));
-        QPushButton button(&column);
-        button.setObjectName(QStringLiteral("generalButton"));
-        button.setCheckable(true);
-        button.setChecked(true);
-        button.resize(60, 44);
-        const QImage image = shown(column);
-        QCOMPARE(image.devicePixelRatio(), 2.0);
-        const QImage picture = QIcon(QStringLiteral(":/icons/settingsPanel/settings_general_checked.svg"))
-                                   .pixmap(48, 48)
-                                   .toImage();
-        QVERIFY(brightest(picture, picture.rect()) == qRgb(255, 255, 255));
-        const QRect inside(QPoint(16, 16), QSize(100, 56));            // without the bar at the left
-        QCOMPARE(QColor(brightest(image, inside)), QColor(Qt::white)); // its knobs, at full strength
-    }
-
-    void crashReporterHasItsFont()
-    {
-        setAppStyleSheet({QStringLiteral(":/qss/crash_sender.qss")}, qApp);
-        QDialog dialog;
-        QLabel label(&dialog);
-        label.ensurePolished();
-        QCOMPARE(label.font().families().value(0), QStringLiteral("Lucida Sans Unicode"));
-    }
 };
 
-int main(int argc, char* argv[])
-{
-    qputenv("QT_SCALE_FACTOR", "2");
-    useHighDpiPixmaps(true);
-    return TestMain::run<QApplication, SheetsTest>(argc, argv);
-}
-
+TOLVAN_GUI_TEST_MAIN(SheetsTest)
 #include "tst_sheets.moc"

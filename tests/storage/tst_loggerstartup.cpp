@@ -134,17 +134,6 @@ private Q_SLOTS:
                  outcome.out);
     }
 
-    void levelLetter()
-    {
-        const QPair<const char*, int> letters[] = {{"Error", 'E'}, {"", 0}, {"é", 0xE9}};
-        for (const auto& [stored, code] : letters) {
-            store("loggerLevel", text(stored));
-            const Outcome outcome = start(text("fake_logger"), text("none"));
-            QVERIFY2(outcome.loggerCalls.contains("|my log|" + QByteArray::number(code) + "\n"),
-                     outcome.loggerCalls);
-        }
-    }
-
 private:
     struct Outcome {
         QByteArray out, err, loggerCalls, logFolder;
