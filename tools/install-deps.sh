@@ -30,8 +30,8 @@ packages_of() {
         ;;
     test)
         echo libqt5svg5 libxml2-utils xvfb openbox libxtst-dev
-        # other makes of SOAP; a certificate for a server
-        echo php-cli php-soap openssl
+        # another make of SOAP
+        echo php-cli php-soap
         # what reads and writes archives and the trash beside us
         echo zip unzip p7zip-full libarchive-tools libglib2.0-bin gvfs gvfs-daemons trash-cli dbus
         ;;

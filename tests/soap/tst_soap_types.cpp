@@ -265,25 +265,6 @@ private Q_SLOTS:
         }
     }
 
-    void smartPointer()
-    {
-        const QPointer<QObject> watched(new QObject);
-        QPointer<QObject> released;
-        {
-            QtSmartPtr<QObject> first(watched), second(first), empty;
-            QVERIFY(empty.isNull() && !empty.ptr() && !empty.releasedPtr());
-            first = empty;
-            QVERIFY(first.isNull() && watched && &second.ref() == second.operator->());
-            second = QtSmartPtr<QObject>(new QObject);
-            QVERIFY(!watched);
-            const QtSmartPtr<QObject> third(second);
-            released = third.releasedPtr();
-            QCOMPARE(second.ptr(), released.data());
-        }
-        QVERIFY(released); // is the caller's now
-        delete released;
-    }
-
     void clientClasses()
     {
         static QtSoapTypeConstructor<Point> constructor;

@@ -1,7 +1,7 @@
 #include "HttpLoopback.h"
 
 #include <QRegularExpression>
-#include <QSslSocket>
+#include <QTcpSocket>
 #include <QTimer>
 
 QByteArray HttpLoopback::Request::header(const QByteArray& name) const
@@ -17,19 +17,11 @@ HttpLoopback::HttpLoopback()
     if (!listen(QHostAddress::LocalHost)) {
         qFatal("no loopback port: %s", qPrintable(errorString()));
     }
-}
-
-void HttpLoopback::incomingConnection(qintptr handle)
-{
-    auto* const socket = new QSslSocket(this);
-    socket->setSocketDescriptor(handle);
-    if (!key.isNull()) {
-        socket->setLocalCertificate(certificate);
-        socket->setPrivateKey(key);
-        socket->startServerEncryption();
-    }
-    connect(socket, &QSslSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
-    connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
+    connect(this, &QTcpServer::newConnection, this, [this] {
+        auto* const socket = nextPendingConnection();
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
+        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    });
 }
 
 void HttpLoopback::onReadyRead(QTcpSocket* socket)

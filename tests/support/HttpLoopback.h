@@ -2,8 +2,6 @@
 
 #include <QList>
 #include <QSemaphore>
-#include <QSslCertificate>
-#include <QSslKey>
 #include <QTcpServer>
 #include <QThread>
 
@@ -40,11 +38,6 @@ public:
 
     Answer answer;
     QList<Request> requests;
-    QSslCertificate certificate;
-    QSslKey key; ///< when it is set, later connections use TLS
-
-protected:
-    void incomingConnection(qintptr handle) override;
 
 private:
     void onReadyRead(QTcpSocket* socket);
