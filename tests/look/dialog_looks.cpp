@@ -26,12 +26,7 @@ namespace
 
 constexpr double textContrast = 4.5;
 constexpr double shapeContrast = 3.0;
-struct Text {
-    const char* name;
-    QString text;
-};
-
-const Text texts[] = {
+const std::pair<const char*, QString> texts[] = {
     {"short", QStringLiteral("?")},
     {"long",
      QStringLiteral("The picture was changed. What do you want to do with the changes? ").repeated(6)},
@@ -249,14 +244,14 @@ private:
 void checkBoxes(Sheet& sheet, const QString& language)
 {
     for (const BoxKinds::Kind& kind : BoxKinds::kinds()) {
-        for (const Text& text : texts) {
+        for (const auto& [name, text] : texts) {
             for (const bool fitting : {false, true}) {
                 const BoxKinds::Show& show = fitting ? kind.showFitting : kind.show;
                 sheet.begin(QStringLiteral("%1 %2 %3%4")
-                                .arg(language, QLatin1String(kind.name), QLatin1String(text.name),
+                                .arg(language, QLatin1String(kind.name), QLatin1String(name),
                                      QLatin1String(fitting ? " fitting" : "")));
                 if (show) {
-                    whileOpen<CMessageBox>([&] { show(nullptr, text.text); },
+                    whileOpen<CMessageBox>([&, text = text] { show(nullptr, text); },
                                            [&](CMessageBox& box) { sheet.check(box); });
                 }
             }
@@ -266,26 +261,26 @@ void checkBoxes(Sheet& sheet, const QString& language)
 
 void checkProgress(Sheet& sheet, const QString& language)
 {
-    for (const Text& text : texts) {
+    for (const auto& [name, text] : texts) {
         CProgressBox box(QStringLiteral("CProgressBox"));
         box.setAppearanceDelay(0);
         QObject::connect(&box, &CProgressBox::cancelRequested, [] {}); // Cancel is enabled
         box.begin();
-        box.setProgress(3, 4, text.text);
+        box.setProgress(3, 4, text);
         while (!box.isVisible()) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         for (const char* const state : {"running", "stopping"}) {
-            sheet.begin(QStringLiteral("%1 progress %2 %3")
-                            .arg(language, QLatin1String(state), QLatin1String(text.name)));
+            sheet.begin(
+                QStringLiteral("%1 progress %2 %3").arg(language, QLatin1String(state), QLatin1String(name)));
             sheet.check(box);
             box.reject();
         }
         CProgressBox failed(QStringLiteral("CProgressBox"));
         failed.begin();
-        failed.setError(text.text);
+        failed.setError(text);
         failed.end();
-        sheet.begin(QStringLiteral("%1 progress failed %2").arg(language, QLatin1String(text.name)));
+        sheet.begin(QStringLiteral("%1 progress failed %2").arg(language, QLatin1String(name)));
         sheet.check(failed);
     }
 }

@@ -1,26 +1,18 @@
 #include "TestMain.h"
-#include "WidgetClasses.h"
 
 #include <utilsDll/customtolvanappstyle.h>
 #include <utilsDll/SharedUtils.h>
 
-#include <QApplication>
-#include <QFile>
-#include <QFontDatabase>
+#include <QtWidgets>
 
 using namespace TOLVAN_NAMESPACE;
 
 namespace
 {
 
-const QStringList sheets = {QStringLiteral("custom"),      QStringLiteral("slider"),
-                            QStringLiteral("settings"),    QStringLiteral("message_box"),
-                            QStringLiteral("win"),         QStringLiteral("mac"),
-                            QStringLiteral("crash_sender")};
-
-QString contentOf(const QString& sheet)
+QString contentOf(const char* sheet)
 {
-    QFile file(QStringLiteral(":/qss/%1.qss").arg(sheet));
+    QFile file(QStringLiteral(":/qss/%1.qss").arg(QLatin1String(sheet)));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -38,6 +30,13 @@ void keepMessage(QtMsgType, const QMessageLogContext&, const QString& text)
     messages += text;
 }
 
+/// Qt reports an unknown property only when a widget is polished.
+template <class... Widgets>
+void polish()
+{
+    (Widgets().grab(), ...);
+}
+
 } // namespace
 
 /// The product's style sheets, as the library carries them.
@@ -46,92 +45,69 @@ class StyleSheetsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanupTestCase();
-    void parsesAndAppliesWithoutWarning();
-    void predefinedSheets();
-    void highContrast();
-    void fontsAndIcon();
-};
+    void initTestCase()
+    {
+        QApplication::setStyle(new CustomTolvanAppStyle);
+        QVERIFY(!contentOf("custom").isEmpty());
+    }
 
-void StyleSheetsTest::initTestCase()
-{
-    QApplication::setStyle(new CustomTolvanAppStyle);
-    chooseExistingFont();
-    QVERIFY(!contentOf(QStringLiteral("custom")).isEmpty());
-}
+    void init() { setPredefinedAppStyleSheet(QString(), qApp); }
 
-void StyleSheetsTest::init()
-{
-    setPredefinedAppStyleSheet(QString(), qApp);
-}
+    void cleanupTestCase() { qApp->setStyleSheet(QString()); }
 
-void StyleSheetsTest::cleanupTestCase()
-{
-    qApp->setStyleSheet(QString());
-}
-
-void StyleSheetsTest::parsesAndAppliesWithoutWarning()
-{
-    const auto previous = qInstallMessageHandler(&keepMessage);
-    messages.clear();
-    for (const QString& sheet : sheets) {
-        qApp->setStyleSheet(contentOf(sheet));
-        // Qt reports an unknown property only when a widget is polished.
-        for (const WidgetClass& entry : widgetClasses) {
-            const std::unique_ptr<QWidget> widget(entry.make());
-            widget->ensurePolished();
-            widget->grab();
+    void parsesAndAppliesWithoutWarning()
+    {
+        const auto previous = qInstallMessageHandler(&keepMessage);
+        messages.clear();
+        for (const char* const sheet :
+             {"custom", "slider", "settings", "message_box", "win", "mac", "crash_sender"}) {
+            qApp->setStyleSheet(contentOf(sheet));
+            polish<QCalendarWidget, QCheckBox, QColumnView, QComboBox, QCommandLinkButton, QDateTimeEdit,
+                   QDial, QDialog, QDialogButtonBox, QDockWidget, QErrorMessage, QFileDialog, QGraphicsView,
+                   QGroupBox, QLCDNumber, QLabel, QLineEdit, QMainWindow, QMdiArea, QMdiSubWindow, QMenu,
+                   QMenuBar, QMessageBox, QPlainTextEdit, QProgressBar, QPushButton, QRadioButton,
+                   QScrollArea, QScrollBar, QSlider, QSplashScreen, QSplitter, QStatusBar, QTabWidget,
+                   QTableView, QTextEdit, QToolBar, QToolBox, QToolButton, QTreeView, QWizard>();
         }
-    }
-    qInstallMessageHandler(previous);
-    QCOMPARE(messages, QStringList());
-}
-
-void StyleSheetsTest::predefinedSheets()
-{
-    const QStringList parts = {contentOf(QStringLiteral("custom")), contentOf(QStringLiteral("slider")),
-                               contentOf(QStringLiteral("settings")),
-                               contentOf(QStringLiteral("message_box")), contentOf(QStringLiteral("win"))};
-    QCOMPARE(qApp->styleSheet(), parts.join(QString()));
-    setPredefinedAppStyleSheet(QStringLiteral(":/qss/mac.qss"), qApp);
-    QCOMPARE(qApp->styleSheet(), contentOf(QStringLiteral("mac")) + parts.mid(1).join(QString()));
-}
-
-void StyleSheetsTest::highContrast()
-{
-    const QString normal = qApp->styleSheet();
-    setAppStyleSheetWithContrast(QString(), qApp, Contrast::High);
-    const QString high = qApp->styleSheet();
-    QCOMPARE(high.count(QLatin1Char('\n')), normal.count(QLatin1Char('\n'))); // nothing but colours differs
-    QVERIFY(!high.contains(QStringLiteral("#242528")) && !high.contains(QStringLiteral("(69, 184, 204")));
-    setAppStyleSheetWithContrast(QString(), qApp, Contrast::Normal);
-    QCOMPARE(qApp->styleSheet(), normal);
-}
-
-void StyleSheetsTest::fontsAndIcon()
-{
-    loadFonts();
-    QStringList families;
-    for (int id = 0; id < 9; ++id) {
-        const QStringList registered = QFontDatabase::applicationFontFamilies(id);
-        QVERIFY2(!registered.isEmpty(), qPrintable(QString::number(id)));
-        families += registered.first();
-    }
-    QVERIFY(QFontDatabase::applicationFontFamilies(9).isEmpty());
-    QVERIFY(families.at(4).startsWith(QStringLiteral("Roboto"))); // Bold, the fifth
-    for (const char* family : {"Open Sans", "Quicksand", "Cantarell"}) {
-        QVERIFY2(!families.filter(QLatin1String(family)).isEmpty(), family);
+        qInstallMessageHandler(previous);
+        QCOMPARE(messages, QStringList());
     }
 
-    QVERIFY(loadAppLogoIcon());
-    QList<QSize> sizes;
-    for (const int side : {16, 32, 48, 96, 128, 256, 512, 1024}) {
-        sizes += QSize(side, side);
+    void predefinedSheets()
+    {
+        const QString rest =
+            contentOf("slider") + contentOf("settings") + contentOf("message_box") + contentOf("win");
+        QCOMPARE(qApp->styleSheet(), contentOf("custom") + rest);
+        setPredefinedAppStyleSheet(QStringLiteral(":/qss/mac.qss"), qApp);
+        QCOMPARE(qApp->styleSheet(), contentOf("mac") + rest);
     }
-    QCOMPARE(QApplication::windowIcon().availableSizes(), sizes);
-}
+
+    void highContrast()
+    {
+        const QString normal = qApp->styleSheet();
+        setAppStyleSheetWithContrast(QString(), qApp, Contrast::High);
+        const QString high = qApp->styleSheet();
+        QCOMPARE(high.count(QLatin1Char('\n')),
+                 normal.count(QLatin1Char('\n'))); // nothing but colours differs
+        QVERIFY(!high.contains(QStringLiteral("#242528")) && !high.contains(QStringLiteral("(69, 184, 204")));
+        setAppStyleSheetWithContrast(QString(), qApp, Contrast::Normal);
+        QCOMPARE(qApp->styleSheet(), normal);
+    }
+
+    void fontsAndIcon()
+    {
+        loadFonts();
+        for (int id = 0; id < 10; ++id) {
+            QCOMPARE(QFontDatabase::applicationFontFamilies(id).isEmpty(), id == 9);
+        }
+        QVERIFY(
+            QFontDatabase::applicationFontFamilies(4).first().startsWith(QStringLiteral("Roboto"))); // Bold
+        QVERIFY(loadAppLogoIcon());
+        const QList<QSize> sizes = QApplication::windowIcon().availableSizes();
+        QCOMPARE(sizes.size(), 8);
+        QCOMPARE(sizes.last(), QSize(1024, 1024));
+    }
+};
 
 TOLVAN_GUI_TEST_MAIN(StyleSheetsTest)
 #include "tst_stylesheets.moc"

@@ -9,18 +9,16 @@ class SvgMissingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isLogged();
+    void isLogged()
+    {
+        installedLogger().take();
+        const TOLVAN_NAMESPACE::CustomTolvanAppStyle style;
+        QCOMPARE(installedLogger().take(),
+                 QStringList(QStringLiteral("W TOLVAN_NAMESPACE::CustomTolvanAppStyle::CustomTolvanAppStyle: "
+                                            "SVG images cannot be read, icons stay empty: Qt's plug-in "
+                                            "imageformats/qsvg is missing")));
+    }
 };
-
-void SvgMissingTest::isLogged()
-{
-    installedLogger().take();
-    const TOLVAN_NAMESPACE::CustomTolvanAppStyle style;
-    QCOMPARE(installedLogger().take(),
-             QStringList(QStringLiteral("W TOLVAN_NAMESPACE::CustomTolvanAppStyle::CustomTolvanAppStyle: "
-                                        "SVG images cannot be read, icons stay empty: Qt's plug-in "
-                                        "imageformats/qsvg is missing")));
-}
 
 int main(int argc, char* argv[])
 {

@@ -35,28 +35,15 @@ struct Kind {
     int height = usualHeight;
 };
 
-template <class Result>
-Show calling(Result (*function)(QWidget*, const QString&, int))
+template <class Result, class... Height>
+Show calling(Result (*function)(QWidget*, const QString&, Height...), Height... height)
 {
-    return [function](QWidget* parent, const QString& text) {
+    return [=](QWidget* parent, const QString& text) {
         if constexpr (std::is_void_v<Result>) {
-            function(parent, text, usualHeight);
+            function(parent, text, height...);
             return nothing;
         } else {
-            return int(function(parent, text, usualHeight));
-        }
-    };
-}
-
-template <class Result>
-Show callingFitting(Result (*function)(QWidget*, const QString&))
-{
-    return [function](QWidget* parent, const QString& text) {
-        if constexpr (std::is_void_v<Result>) {
-            function(parent, text);
-            return nothing;
-        } else {
-            return int(function(parent, text));
+            return int(function(parent, text, height...));
         }
     };
 }
@@ -77,32 +64,30 @@ inline const QVector<Kind>& kinds()
                                {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
     using Box = CMessageBox;
     // "auto": a program that takes the address of a function names no type, so no name has two overloads.
-    const auto notice = [](const char* name, auto show, auto fitting, const char* icon,
-                           const char* accessible, const QVector<Button>& buttons) {
-        return Kind{name, calling(show), callingFitting(fitting), icon, accessible, buttons, 0, nothing};
-    };
-    const auto asking = [=](const char* name, auto show, auto fitting, const QVector<Button>& buttons,
-                            int defaultButton, int otherwise) {
-        return Kind{name,       calling(show), callingFitting(fitting), question,
-                    "Question", buttons,       defaultButton,           otherwise};
+    const auto kind = [](const char* name, auto show, auto fitting, const char* icon, const char* accessible,
+                         const QVector<Button>& buttons, int defaultButton = 0, int otherwise = nothing) {
+        return Kind{
+            name,     calling(show, usualHeight), calling(fitting), icon, accessible, buttons, defaultButton,
+            otherwise};
     };
     static const QVector<Kind> all{
-        notice("information", &Box::information, &Box::fittingInformation, info, "Information", ok),
-        notice("warning", &Box::warning, &Box::fittingWarning, alert, "Warning", close),
-        notice("critical", &Box::critical, &Box::fittingCritical, alert, "Error", close),
-        asking("yes or no", &Box::yesNoMessage, &Box::fittingYesNoMessage, yesNo, 0, 0x10000),
-        asking("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::fittingSaveDiscardCancelMessage,
-               save, 1, 0x400000),
-        asking("rotate", &Box::rotateQuestion, &Box::fittingRotateQuestion, rotate, 0, 0),
-        {"quit",
-         callingFitting(&Box::backgroundProcessingCancelMessage),
-         {},
-         alert,
-         "Warning",
-         quit,
-         1,
-         0x400000,
-         165},
+        kind("information", &Box::information, &Box::fittingInformation, info, "Information", ok),
+        kind("warning", &Box::warning, &Box::fittingWarning, alert, "Warning", close),
+        kind("critical", &Box::critical, &Box::fittingCritical, alert, "Error", close),
+        kind("yes or no", &Box::yesNoMessage, &Box::fittingYesNoMessage, question, "Question", yesNo, 0,
+             0x10000),
+        kind("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::fittingSaveDiscardCancelMessage,
+             question, "Question", save, 1, 0x400000),
+        kind("rotate", &Box::rotateQuestion, &Box::fittingRotateQuestion, question, "Question", rotate, 0, 0),
+        Kind{"quit",
+             calling(&Box::backgroundProcessingCancelMessage),
+             {},
+             alert,
+             "Warning",
+             quit,
+             1,
+             0x400000,
+             165},
     };
     return all;
 }

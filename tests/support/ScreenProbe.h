@@ -1,23 +1,17 @@
 #pragma once
 
-#include <QRect>
-
-class QColor;
-class QScreen;
-class QWidget;
+#include <QColor>
+#include <QPoint>
 
 /// Looks at the pixels of the screen: a QWidget reports where Qt believes its window to be.
 namespace ScreenProbe
 {
 
-/// Returns the smallest rectangle around all pixels of \a color on \a screen, in screen coordinates; null if
-/// there is none, and always on the platform "offscreen".
-QRect areaOf(const QColor& color, QScreen& screen);
+/// Returns the upper left corner of the smallest rectangle around all pixels of \a color on the primary screen, in
+/// screen coordinates; null if there is none, and always on the platform "offscreen".
+QPoint placeOf(const QColor& color);
 
-/// Returns whether the platform shows windows, so that areaOf() can find them.
+/// Returns whether the platform shows windows, so that placeOf() can find them.
 bool canSee();
-
-/// Fills the background of \a widget with \a color.
-void paint(QWidget& widget, const QColor& color);
 
 } // namespace ScreenProbe
