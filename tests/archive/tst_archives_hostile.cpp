@@ -94,6 +94,10 @@ private Q_SLOTS:
         row("local header says another size", [](ZipEntry& entry) { entry.localSize = 4; });
         row("declared larger than it is", [](ZipEntry& entry) { entry.declaredSize = 6000; });
         row("declared smaller than it is", [](ZipEntry& entry) { entry.declaredSize = 4000; });
+        row("negative size", [](ZipEntry& entry) {
+            entry.declaredSize = 0xFFFFFFFF; // stands in the ZIP64 field
+            entry.extra = QByteArray("\1\0\x08\0", 4) + QByteArray(8, '\xFF');
+        });
         row("no content at all", [](ZipEntry& entry) { entry.packed = ""; });
         row("content cut off", [](ZipEntry& entry) { entry.packed = deflated(entry.content).chopped(4); });
         row("content is no deflated data", [](ZipEntry& entry) { entry.packed = "\xFF\xFF\xFF\xFF"; });

@@ -216,6 +216,7 @@ std::optional<DirectoryEntry> ZipDirectory::next()
     if (!takeLong(at<quint32>(header, 24), entry.size, large, offset) ||
         !takeLong(at<quint32>(header, 20), entry.packedSize, large, offset) ||
         !takeLong(at<quint32>(header, 42), entry.offset, large, offset)) {
+        entry.size = entry.packedSize = 0;
         entry.offset = m_file.size(); // nothing can be there
     }
     entry.offset = std::min(entry.offset, m_file.size());
