@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
 #include <QImageReader>
@@ -88,16 +89,56 @@ private:
     mutable QTimer m_reading;
 };
 
+QIcon bundledIcon(const char* name)
+{
+    return QIcon(QStringLiteral(":/icons/toolbar/filebrowser/%1.svg").arg(QLatin1String(name)));
+}
+
+/// The product's icons of folders and files, which Qt asks for in a thread of its own.
+class BundledIcons : public QFileIconProvider
+{
+public:
+    QIcon icon(IconType type) const override
+    {
+        switch (type) {
+        case Folder:
+            return m_folder;
+        case File:
+            return m_file;
+        case Computer:
+            return m_computer;
+        case Drive:
+            return m_drive;
+        default:
+            return QFileIconProvider::icon(type);
+        }
+    }
+
+    QIcon icon(const QFileInfo& info) const override
+    {
+        return info.isRoot() ? m_drive : info.isDir() ? m_folder : m_file;
+    }
+
+private:
+    const QIcon m_folder = bundledIcon("folder");
+    const QIcon m_file = bundledIcon("file");
+    const QIcon m_computer = bundledIcon("computer");
+    const QIcon m_drive = bundledIcon("drive");
+};
+
 /// Qt's file dialog with its accept button replaced, because files are shown but not chosen.
 class FolderPickerDialog : public QFileDialog
 {
     Q_OBJECT
 
 public:
-    FolderPickerDialog(QWidget* parent, const QString& caption, const QString& dir, const QString& filter)
+    /// \param icons have to outlive the dialog
+    FolderPickerDialog(QWidget* parent, const QString& caption, const QString& dir, const QString& filter,
+                       BundledIcons& icons)
         : QFileDialog(parent, caption, dir)
     {
         setOption(QFileDialog::DontUseNativeDialog);
+        setIconProvider(&icons);
         setFileMode(QFileDialog::ExistingFile);
         const QString patterns = QString(filter).replace(QLatin1Char(';'), QLatin1Char(' ')).simplified();
         setNameFilter(
@@ -107,9 +148,15 @@ public:
             const bool isList = view->objectName() == QLatin1String("listView");
             view->setIconSize(isList ? QSize(thumbnailEdge, thumbnailEdge) : view->iconSize());
         }
+        if (auto* const sidebar = findChild<QAbstractItemView*>(QStringLiteral("sidebar"))) {
+            constexpr int margins = 24; // Qt counts those of the sheet too small and elides the names
+            sidebar->setMinimumWidth(sidebar->sizeHintForColumn(0) + margins);
+        }
         replaceAcceptButton();
-        nameCombo("lookIn");
         nameCombo("fileType");
+        if (auto* const folders = nameCombo("lookIn")) {
+            folders->setItemIcon(0, icons.icon(QFileIconProvider::Folder)); // the first was taken too early
+        }
     }
 
     /// Returns the folder that was open when the button was clicked.
@@ -146,13 +193,14 @@ private Q_SLOTS:
 
 private:
     /// Assistive technology would read the current entry only.
-    void nameCombo(const char* purpose)
+    QComboBox* nameCombo(const char* purpose)
     {
         const auto* const label = findChild<QLabel*>(QLatin1String(purpose) + QStringLiteral("Label"));
         auto* const combo = findChild<QComboBox*>(QLatin1String(purpose) + QStringLiteral("Combo"));
         if (label && combo) {
             combo->setAccessibleName(label->text());
         }
+        return combo;
     }
 
     void replaceAcceptButton()
@@ -184,7 +232,8 @@ QString pickFolder(QWidget* parent, const QString& caption, const QString& dir, 
         return {};
     }
     pickerIsOpen = true;
-    FolderPickerDialog dialog(parent, caption, dir, filter);
+    BundledIcons icons;
+    FolderPickerDialog dialog(parent, caption, dir, filter, icons);
     const bool chosen = dialog.exec() == QDialog::Accepted;
     pickerIsOpen = false;
     return chosen ? dialog.folder() : QString();

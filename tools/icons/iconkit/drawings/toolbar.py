@@ -1,4 +1,4 @@
-"""The main tool bar (24 pixels) and the file browser's bar (20 pixels)."""
+"""The main tool bar (24 pixels), the file browser's bar (20 pixels) and its list (16 pixels)."""
 
 import math
 
@@ -106,16 +106,8 @@ F c 12 16.7 1.1
 
 FOLDER = "M2.5 15.5v-11a1 1 0 0 1 1-1h4l2 2.5h7a1 1 0 0 1 1 1v8.5a1 1 0 0 1-1 1h-13a1 1 0 0 1-1-1z"
 BROWSER = (
-    ("folder_up", "normal hover", f"O {FOLDER}\nD M10 14V9\nD M7.5 11L10 8.5l2.5 2.5"),
-    ("refresh", "normal hover", """
-M M16.5 9a6.7 6.7 0 0 0-12.3-2.6
-M M3.5 11a6.7 6.7 0 0 0 12.3 2.6
-D M4.2 2.9v3.6h3.6
-D M15.8 17.1v-3.6h-3.6
-"""),
-    ("favourite", "normal checked", """
-O M10 2.8l2.2 4.7 5.1.7-3.7 3.6.9 5.1L10 14.4l-4.5 2.5.9-5.1-3.7-3.6 5.1-.7z
-"""),
+    ("folder_up", "normal", f"O {FOLDER}\nD M10 14V9\nD M7.5 11L10 8.5l2.5 2.5"),
+    ("folder_new", "normal", f"O {FOLDER}\nD M10 13.5v-5\nD M7.5 11h5"),
     ("view_thumbnails", "normal hover checked", """
 B r 2.5 2.5 6 6 1
 O r 11.5 2.5 6 6 1
@@ -125,6 +117,13 @@ D r 2.5 2.5 6 6 1
 """),
     ("view_list", "normal hover checked", "\n".join(f"O r 2.5 {y}.5 3 3 .5\nD M9.5 {y + 2}h8" for y in (2, 8, 14))),
 )
+# What the browser lists (16 pixels).
+LISTED = {
+    "folder": "O M1.5 12.5v-9a1 1 0 0 1 1-1h3.5l1.5 2h6a1 1 0 0 1 1 1v7a1 1 0 0 1-1 1h-11a1 1 0 0 1-1-1z",
+    "file": "O M3.5 1.5h5.5l4 4v9h-9.5z\nM M8.5 1.5v4.5h4.5",
+    "drive": "O r 1.5 4.5 13 7 1.5\nD M10.5 8h1.5",
+    "computer": "O r 1.5 2.5 13 8.5 1\nM M8 11.5v2.5\nM M5 14.5h6",
+}
 
 
 def draw(family):
@@ -139,3 +138,5 @@ def draw(family):
         family.states(f"toolbar/{name}", 24, drawing, "normal hover")
     for name, states, drawing in BROWSER:
         family.states(f"toolbar/filebrowser/{name}", 20, drawing, states)
+    for name, drawing in LISTED.items():
+        family.states(f"toolbar/filebrowser/{name}", 16, drawing, "normal")
