@@ -101,6 +101,11 @@ private:
         return above;
     }
 
+    static bool isCategory(const QWidget& widget)
+    {
+        return widget.parentWidget()->objectName() == QLatin1String("settingsCategories");
+    }
+
     void checkPlace(const QWidget& widget)
     {
         if (scrolls(widget) || qobject_cast<const QFocusFrame*>(&widget)) {
@@ -114,8 +119,13 @@ private:
                          : label->sizeHint().width() <= label->width(),
                    widget, "is cut");
         }
-        if (qobject_cast<const QAbstractButton*>(&widget)) {
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget)) {
             verify(widget.width() >= widget.sizeHint().width(), widget, "is too narrow");
+            const bool showsBoth = isCategory(widget) && widget.inherits("QPushButton");
+            const int drawing = showsBoth ? button->iconSize().width() + 12 : 0; // of the sheet
+            verify(widget.width() >= widget.fontMetrics().horizontalAdvance(button->text()) + drawing ||
+                       widget.inherits("QToolButton"),
+                   widget, "cuts its text");
             verify(widget.height() >= widget.fontMetrics().height(), widget, "is too low");
         }
         if (qobject_cast<const CIconViewer*>(&widget)) {
@@ -154,7 +164,7 @@ private:
         const bool enabled = widget.isEnabled();
         verify(Pixels::largestContrast(part(inner), ground) >= (enabled ? textContrast : shapeContrast),
                widget, "text is too faint");
-        if (button && enabled && widget.parentWidget()->objectName() != QLatin1String("settingsCategories")) {
+        if (button && enabled && !isCategory(widget)) {
             const QRgb border =
                 m_image.pixel(placeInPicture({place.left() + place.width() / 2, place.top()}));
             const QRgb around = m_image.pixel(placeInPicture(place.topLeft() + QPoint(3, -3)));
