@@ -29,18 +29,18 @@ inline double largestContrast(const QImage& image, QRgb ground)
     return largest;
 }
 
-/// Returns the contrast between the two colours of the pixel that changed most.
-inline double largestChange(const QImage& before, const QImage& after)
+/// Returns how many pixels changed by at least this contrast.
+inline int countChanges(const QImage& before, const QImage& after, double least)
 {
-    QSet<QPair<QRgb, QRgb>> changes;
+    QHash<QPair<QRgb, QRgb>, int> changes;
     eachPixel(before, before.rect() & after.rect(), [&](const QPoint& at, QRgb was) {
-        changes += {was, after.pixel(at)};
+        ++changes[{was, after.pixel(at)}];
     });
-    double largest = 1;
-    for (const auto& [was, is] : qAsConst(changes)) {
-        largest = qMax(largest, contrast(was, is));
+    int count = 0;
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+        count += contrast(it.key().first, it.key().second) >= least ? it.value() : 0;
     }
-    return largest;
+    return count;
 }
 
 } // namespace Pixels

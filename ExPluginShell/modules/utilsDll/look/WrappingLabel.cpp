@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextOption>
@@ -111,8 +112,16 @@ void WrappingLabel::focusInEvent(QFocusEvent* event)
         m_focusFrame = new QFocusFrame(this);
         setSelection(0, 0); // the invisible cursor is at the end of the text
     }
-    m_focusFrame->setWidget(this);
-    m_focusFrame->raise(); // it is a child of the window, where an opaque widget may lie above it
+    // A scroll area clips its content, so the frame lies in the window and around the area.
+    QWidget* const area = parentWidget() ? parentWidget()->parentWidget() : nullptr;
+    QWidget* const framed = qobject_cast<QScrollArea*>(area) ? area : this;
+    m_focusFrame->setWidget(framed);
+    m_focusFrame->setParent(window());
+    const int outside = style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    m_focusFrame->setGeometry(QRect(framed->mapTo(window(), QPoint()), framed->size())
+                                  .adjusted(-outside, -outside, outside, outside));
+    m_focusFrame->show();
+    m_focusFrame->raise();
     QLabel::focusInEvent(event);
 }
 
