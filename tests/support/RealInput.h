@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGuiApplication>
 #include <QPoint>
 #include <QWidget>
 
@@ -14,11 +15,12 @@ class RealInput
 public:
     ~RealInput() { XCloseDisplay(m_display); }
 
-    /// Returns whether the server accepts simulated input.
+    /// Returns whether the program runs on an X server that accepts simulated input.
     bool isThere() const
     {
         int unused = 0;
-        return m_display && XTestQueryExtension(m_display, &unused, &unused, &unused, &unused);
+        return QGuiApplication::platformName() == QLatin1String("xcb") && m_display &&
+               XTestQueryExtension(m_display, &unused, &unused, &unused, &unused);
     }
 
     void moveTo(const QPoint& position) const
