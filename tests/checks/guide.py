@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares the programs in the pages of the guide with those in examples/: guide.py TOP-FOLDER [--update]
+"""Compares the programs in README and the pages of the guide with those in examples/: guide.py TOP-FOLDER [--update]
 
 A block of code behind the line "<!-- PATH -->" is the text of that file.
 """
@@ -12,7 +12,7 @@ BLOCK = re.compile(r"(<!-- (\S+) -->\n```\w+\n)(.*?)(```)", re.S)
 
 
 def main(top, *options):
-    pages = sorted((top / "docs/guide").glob("*.md"))
+    pages = [top / "README.md", *sorted((top / "docs/guide").glob("*.md"))]
     blocks, faults = 0, []
     for page in pages:
         text = page.read_text(encoding="utf-8")

@@ -5,20 +5,12 @@
 
 using namespace SoapCall;
 
-/// The client of the README: the text there is the program's, and the program does what is said there.
+/// The client of the README does what is said there.
 class SoapExampleTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readmeShowsTheProgram()
-    {
-        const QByteArray readme = contentOf(text(SOURCE_FOLDER "/README.md")),
-                         source = contentOf(text(SOURCE_FOLDER "/examples/soap_client/main.cpp"));
-        QVERIFY2(readme.contains("```cpp\n" + source + "```\n"),
-                 "README.md does not show the program as it is");
-    }
-
     void runs()
     {
         const struct {

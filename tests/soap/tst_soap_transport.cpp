@@ -98,44 +98,37 @@ private Q_SLOTS:
         }
     }
 
-    void destroyed_data()
-    {
-        QTest::addColumn<bool>("silent");
-        QTest::addColumn<bool>("withArgument");
-        QTest::newRow("under way") << true << false;
-        QTest::newRow("in the first slot") << false << false;
-        QTest::newRow("in the second slot") << false << true;
-    }
-
+    /// While it waits, in its first slot and in its second one.
     void destroyed()
     {
-        QFETCH(bool, silent);
-        QFETCH(bool, withArgument);
-        HttpLoopback server;
-        server.answer.body = good;
-        server.answer.silent = silent;
-        auto transport = std::make_unique<QtSoapHttpTransport>();
-        int first = 0, second = 0;
-        connect(transport.get(), qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
-            ++first;
-            if (!withArgument) {
-                transport.reset();
-            }
-        });
-        connect(transport.get(), qOverload<const QtSoapMessage&>(&QtSoapHttpTransport::responseReady), this,
-                [&] {
-                    ++second;
+        for (const int slot : {0, 1, 2}) {
+            const bool silent = slot == 0, withArgument = slot == 2;
+            HttpLoopback server;
+            server.answer.body = good;
+            server.answer.silent = silent;
+            auto transport = std::make_unique<QtSoapHttpTransport>();
+            int first = 0, second = 0;
+            connect(transport.get(), qOverload<>(&QtSoapHttpTransport::responseReady), this, [&] {
+                ++first;
+                if (!withArgument) {
                     transport.reset();
-                });
-        transport->setHost(text("127.0.0.1"), server.serverPort());
-        QtSoapMessage request;
-        transport->submitRequest(request, text("/"));
-        transport->submitRequest(request, text("/"));
-        QTRY_VERIFY_WITH_TIMEOUT(silent ? !server.requests.isEmpty() : !transport, 30000);
-        transport.reset();
-        QCoreApplication::processEvents();
-        QCOMPARE(first, silent ? 0 : 1);
-        QCOMPARE(second, withArgument ? 1 : 0);
+                }
+            });
+            connect(transport.get(), qOverload<const QtSoapMessage&>(&QtSoapHttpTransport::responseReady),
+                    this, [&] {
+                        ++second;
+                        transport.reset();
+                    });
+            transport->setHost(text("127.0.0.1"), server.serverPort());
+            QtSoapMessage request;
+            transport->submitRequest(request, text("/"));
+            transport->submitRequest(request, text("/"));
+            QTRY_VERIFY_WITH_TIMEOUT(silent ? !server.requests.isEmpty() : !transport, 30000);
+            transport.reset();
+            QCoreApplication::processEvents();
+            QCOMPARE(first, silent ? 0 : 1);
+            QCOMPARE(second, withArgument ? 1 : 0);
+        }
     }
 
     void foreignRequestsOfTheManager()

@@ -70,34 +70,3 @@ void HttpLoopback::send(QTcpSocket* socket)
         socket->disconnectFromHost();
     }
 }
-
-EndlessServer::EndlessServer()
-{
-    start();
-    m_listening.acquire();
-}
-
-EndlessServer::~EndlessServer()
-{
-    requestInterruption();
-    wait();
-}
-
-void EndlessServer::run()
-{
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    port = server.serverPort();
-    m_listening.release();
-    if (!server.waitForNewConnection(30000)) {
-        return;
-    }
-    QTcpSocket* const socket = server.nextPendingConnection();
-    socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n\r\n");
-    while (socket->state() == QAbstractSocket::ConnectedState && !isInterruptionRequested()) {
-        if (socket->bytesToWrite() < 1024 * 1024) {
-            socket->write(QByteArray(1024 * 1024, ' '));
-        }
-        socket->waitForBytesWritten(100);
-    }
-}

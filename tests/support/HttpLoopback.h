@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QList>
-#include <QSemaphore>
 #include <QTcpServer>
-#include <QThread>
 
 class QTcpSocket;
 
@@ -42,19 +40,4 @@ public:
 private:
     void onReadyRead(QTcpSocket* socket);
     void send(QTcpSocket* socket);
-};
-
-/// A server in its own thread that answers one request with blanks until the client closes the connection.
-class EndlessServer : public QThread
-{
-public:
-    EndlessServer();
-    ~EndlessServer() override;
-
-    quint16 port = 0;
-
-private:
-    void run() override;
-
-    QSemaphore m_listening;
 };
