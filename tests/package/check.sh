@@ -6,8 +6,14 @@ set -euo pipefail
 build_dir=$1
 shift
 source_dir=$(cd "$(dirname "$0")" && pwd)
-work=$(mktemp -d)
+work=$build_dir/package-check # the same each time, so that the compiler cache knows what is in it
+rm -rf "$work"
+mkdir "$work"
 trap 'rm -rf "$work"' EXIT
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_BASEDIR=$work CCACHE_NOHASHDIR=1
+fi
+export CMAKE_BUILD_PARALLEL_LEVEL=1 # other tests run at the same time
 quietly() {
     "$@" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 }
