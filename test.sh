@@ -9,6 +9,7 @@ Usage: ./test.sh [CTEST OPTION...]
 Installs the Debian packages that are missing, builds the library in release mode and runs the tests, e.g.
   ./test.sh                 all tests
   ./test.sh -R settings     those whose names match
+  ./test.sh -j 1            one after the other; without -j as many at a time as there are processors
 The environment variable PRESET names another preset of CMakePresets.json than "release".
 TEXT
     exit 0

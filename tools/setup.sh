@@ -43,9 +43,10 @@ build() {
     rm -f "$log"
 }
 
-# run_tests PRESET [CTEST OPTION...]: runs the tests of a preset. The build folder gets the results as tests-PRESET.xml (JUnit).
+# run_tests PRESET [CTEST OPTION...]: runs the tests of a preset, as many at a time as there are processors unless an option -j
+# says otherwise. The build folder gets the results as tests-PRESET.xml (JUnit).
 run_tests() {
     local preset=$1
     shift
-    ctest --preset "$preset" --output-junit "tests-$preset.xml" "$@"
+    ctest --preset "$preset" --output-junit "tests-$preset.xml" -j "$(nproc)" "$@"
 }

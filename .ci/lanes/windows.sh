@@ -10,4 +10,4 @@ tools/win64/find-sdk.sh --check || status=$?
 
 install_packages build test windows
 build win64
-run_tests win64 -j "$(nproc)"
+run_tests win64
