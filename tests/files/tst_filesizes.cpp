@@ -1,4 +1,4 @@
-#include "InstalledLogger.h"
+#include "AssertionReport.h"
 #include "TestMain.h"
 #include "Texts.h"
 
@@ -64,13 +64,10 @@ private Q_SLOTS:
 
     void unknownUnitIsReported()
     {
-        auto& logger = installedLogger();
         for (const int unit : {4, -1}) {
             CSettings().setValue(text("imageSizeUnits"), unit);
-            logger.take();
-            QCOMPARE(sizeToString(QSize(30, 20)), text("30 x 20<px>"));
-            QCOMPARE(logger.take(), QStringList(text("E TOLVAN_NAMESPACE::sizeToString: ASSERT in "
-                                                     "ExPluginShell\\modules\\utilsDll\\FileManagement:82")));
+            verifyReport("TOLVAN_NAMESPACE::sizeToString", "FileManagement", 82, nullptr,
+                         [] { QCOMPARE(sizeToString(QSize(30, 20)), text("30 x 20<px>")); });
         }
     }
 

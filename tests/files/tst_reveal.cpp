@@ -57,49 +57,45 @@ private Q_SLOTS:
         folderIsOpened();
     }
 
-    void fileManagerShows_data()
-    {
-        QTest::addColumn<bool>("answers");
-        QTest::newRow("at once") << true;
-        QTest::newRow("while it is still starting") << false; // it has received the request
-    }
-
+    /// One that answers at once, and one that is still starting and has received the request.
     void fileManagerShows()
     {
-        QFETCH(bool, answers);
-        startBus();
-        FileManagerStub stub;
-        if (answers) { // else it lives in this thread, which does not answer while it asks
-            stub.moveToThread(&m_thread);
-            m_thread.start();
-        }
-        QStringList shown;
-        connect(&stub, &FileManagerStub::asked, this, [&shown](const QStringList& uris) { shown = uris; });
-        const QString name = text("stub"), place = text("/org/freedesktop/FileManager1");
-        QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-        QVERIFY(bus.registerObject(place, &stub, QDBusConnection::ExportScriptableSlots));
-        QVERIFY(bus.registerService(text("org.freedesktop.FileManager1")));
+        for (const bool answers : {true, false}) {
+            startBus();
+            FileManagerStub stub;
+            if (answers) { // else it lives in this thread, which does not answer while it asks
+                stub.moveToThread(&m_thread);
+                m_thread.start();
+            }
+            QStringList shown;
+            connect(&stub, &FileManagerStub::asked, this,
+                    [&shown](const QStringList& uris) { shown = uris; });
+            const QString name = text("stub"), place = text("/org/freedesktop/FileManager1");
+            QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+            QVERIFY(bus.registerObject(place, &stub, QDBusConnection::ExportScriptableSlots));
+            QVERIFY(bus.registerService(text("org.freedesktop.FileManager1")));
 
-        QStringList files;
-        for (const char* file : {"a b", "a#b", "100%", "a%20b", "q?x=1&y", "ä日", "a;b'c\"[d]"}) {
-            files += FileTree::write(path(file));
+            QStringList files;
+            for (const char* file : {"a b", "a#b", "100%", "a%20b", "q?x=1&y", "ä日", "a;b'c\"[d]"}) {
+                files += FileTree::write(path(file));
+            }
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression(text("there is no file .*missing")));
+            QElapsedTimer time;
+            time.start();
+            selectFilesInShell(folder(), files + QStringList{path("missing"), QString()});
+            QVERIFY2(time.elapsed() < 10000, "the bus's own patience is 25 seconds");
+            QStringList expected;
+            for (const char* uri : {"a%20b", "a%23b", "100%25", "a%2520b", "q%3Fx%3D1%26y", "%C3%A4%E6%97%A5",
+                                    "a%3Bb%27c%22%5Bd%5D"}) {
+                expected += text("file://") + folder() + QLatin1Char('/') + text(uri);
+            }
+            QTRY_COMPARE(shown, expected + QStringList{QString()});
+            QVERIFY(m_opened.isEmpty());
+            bus.unregisterObject(place);
+            QDBusConnection::disconnectFromBus(name);
+            m_thread.quit();
+            QVERIFY(m_thread.wait(10000));
         }
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression(text("there is no file .*missing")));
-        QElapsedTimer time;
-        time.start();
-        selectFilesInShell(folder(), files + QStringList{path("missing"), QString()});
-        QVERIFY2(time.elapsed() < 10000, "the bus's own patience is 25 seconds");
-        QStringList expected;
-        for (const char* uri : {"a%20b", "a%23b", "100%25", "a%2520b", "q%3Fx%3D1%26y", "%C3%A4%E6%97%A5",
-                                "a%3Bb%27c%22%5Bd%5D"}) {
-            expected += text("file://") + folder() + QLatin1Char('/') + text(uri);
-        }
-        QTRY_COMPARE(shown, expected + QStringList{QString()});
-        QVERIFY(m_opened.isEmpty());
-        bus.unregisterObject(place);
-        QDBusConnection::disconnectFromBus(name);
-        m_thread.quit();
-        QVERIFY(m_thread.wait(10000));
     }
 
     void busThatDied()

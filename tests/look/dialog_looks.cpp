@@ -196,11 +196,9 @@ private:
         const QImage blurred = drawn.scaled(drawn.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                    .scaled(drawn.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         int most = 0;
-        for (int y = 0; y < drawn.height(); ++y) {
-            for (int x = 0; x < drawn.width(); ++x) {
-                most = qMax(most, qAbs(qGreen(drawn.pixel(x, y)) - qGreen(blurred.pixel(x, y))));
-            }
-        }
+        eachPixel(drawn, drawn.rect(), [&](QPoint at, QRgb pixel) {
+            most = qMax(most, qAbs(qGreen(pixel) - qGreen(blurred.pixel(at))));
+        });
         verify(most >= 20, widget, "is blurred");
     }
 

@@ -44,12 +44,6 @@ QList<QPushButton*> buttonsOf(const CMessageBox& box)
     return buttons;
 }
 
-template <class T>
-T* find(const CMessageBox& box, const char* name)
-{
-    return box.findChild<T*>(QString::fromLatin1(name));
-}
-
 } // namespace
 
 class MessageBoxTest : public QObject

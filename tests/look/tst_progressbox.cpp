@@ -26,12 +26,6 @@ struct Work : CQRunnableItem {
     QAtomicInt mayEnd;
 };
 
-template <class T>
-T* find(const QDialog& box, const char* name)
-{
-    return box.findChild<T*>(QString::fromLatin1(name));
-}
-
 const QString title = QStringLiteral("Exporting");
 int descriptions = 0; // given to assistive technology
 

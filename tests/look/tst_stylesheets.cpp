@@ -1,3 +1,4 @@
+#include "FileTree.h"
 #include "TestMain.h"
 
 #include <utilsDll/customtolvanappstyle.h>
@@ -12,8 +13,7 @@ namespace
 
 QString contentOf(const char* sheet)
 {
-    QFile file(QStringLiteral(":/qss/%1.qss").arg(QLatin1String(sheet)));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(FileTree::read(QStringLiteral(":/qss/%1.qss").arg(QLatin1String(sheet))));
 }
 
 QStringList messages;

@@ -1,12 +1,12 @@
 #include "Contrast.h"
 #include "FileTree.h"
+#include "Sandbox.h"
 #include "TestMain.h"
 
 #include <QColor>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPainter>
-#include <QProcess>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 
@@ -74,7 +74,7 @@ class IconsTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(generate({QStringLiteral("--out"), file({})}));
+        generate({QStringLiteral("--out"), file({})});
         for (const QString& path : FileTree::filesBelow(file({}))) {
             m_names << QDir(file({})).relativeFilePath(path);
         }
@@ -150,7 +150,7 @@ private Q_SLOTS:
     void applicationIconSizes()
     {
         const QString folder = m_folder.filePath(QStringLiteral("logo"));
-        QVERIFY(generate({QStringLiteral("--logo-out"), folder}));
+        generate({QStringLiteral("--logo-out"), folder});
         const auto logo = [&](int size) {
             return QImage(QStringLiteral("%1/logo_%2.png").arg(folder).arg(size));
         };
@@ -162,12 +162,11 @@ private Q_SLOTS:
     }
 
 private:
-    bool generate(const QStringList& arguments) const
+    static void generate(const QStringList& arguments)
     {
-        QProcess python;
-        python.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        python.start(QStringLiteral(PYTHON), QStringList{QStringLiteral(ICON_TOOL)} + arguments);
-        return python.waitForFinished(60000) && python.exitCode() == 0;
+        const Outcome made =
+            runProgram(QStringLiteral(PYTHON), QStringList{QStringLiteral(ICON_TOOL)} + arguments);
+        QVERIFY2(made.code == 0, made.output);
     }
     QString file(const QString& name) const { return m_folder.filePath(QStringLiteral("icons/") + name); }
 

@@ -1,9 +1,10 @@
+#include "Contrast.h"
+#include "Sandbox.h"
 #include "TestMain.h"
 #include "Texts.h"
 
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -103,15 +104,9 @@ private:
 
     static Run start(const QStringList& arguments)
     {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(QCoreApplication::applicationDirPath() + text("/trelio-showcase"), arguments);
-        if (!process.waitForFinished(100000)) {
-            process.kill();
-            process.waitForFinished();
-            return {-1, text("did not end: ") + QString::fromUtf8(process.readAll())};
-        }
-        return {process.exitCode(), QString::fromUtf8(process.readAll())};
+        const Outcome outcome =
+            runProgram(QCoreApplication::applicationDirPath() + text("/trelio-showcase"), arguments);
+        return {outcome.code, QString::fromUtf8(outcome.output)};
     }
 
     static QString rowOf(const QString& report, const char* name)
@@ -145,11 +140,9 @@ private:
         for (QImage* const image : {&first, &second}) {
             *image = image->scaled(cells, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         }
-        for (int y = 0; y < cells.height(); ++y) {
-            for (int x = 0; x < cells.width(); ++x) {
-                different += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y))) > 12;
-            }
-        }
+        eachPixel(first, first.rect(), [&](QPoint at, QRgb pixel) {
+            different += std::abs(qGray(pixel) - qGray(second.pixel(at))) > 12;
+        });
         return double(different) / (cells.width() * cells.height());
     }
 };

@@ -30,8 +30,8 @@ struct Kind {
     const char* icon;
     const char* accessibleName;
     QVector<Button> buttons; // from left to right
-    int defaultButton;
-    int otherwise; // without a choice
+    int defaultButton = 0;
+    int otherwise = nothing; // without a choice
     int height = usualHeight;
 };
 
@@ -63,31 +63,22 @@ inline const QVector<Kind>& kinds()
     const QVector<Button> quit{{"dontQuitButton", "Don't quit", 0x400000},
                                {"quitWithoutSavingButton", "Quit without saving", 0x800000}};
     using Box = CMessageBox;
-    // "auto": a program that takes the address of a function names no type, so no name has two overloads.
-    const auto kind = [](const char* name, auto show, auto fitting, const char* icon, const char* accessible,
-                         const QVector<Button>& buttons, int defaultButton = 0, int otherwise = nothing) {
-        return Kind{
-            name,     calling(show, usualHeight), calling(fitting), icon, accessible, buttons, defaultButton,
-            otherwise};
-    };
+    // A program that takes the address of a function names no type, so no name has two overloads.
     static const QVector<Kind> all{
-        kind("information", &Box::information, &Box::fittingInformation, info, "Information", ok),
-        kind("warning", &Box::warning, &Box::fittingWarning, alert, "Warning", close),
-        kind("critical", &Box::critical, &Box::fittingCritical, alert, "Error", close),
-        kind("yes or no", &Box::yesNoMessage, &Box::fittingYesNoMessage, question, "Question", yesNo, 0,
-             0x10000),
-        kind("save, discard, cancel", &Box::saveDiscardCancelMessage, &Box::fittingSaveDiscardCancelMessage,
-             question, "Question", save, 1, 0x400000),
-        kind("rotate", &Box::rotateQuestion, &Box::fittingRotateQuestion, question, "Question", rotate, 0, 0),
-        Kind{"quit",
-             calling(&Box::backgroundProcessingCancelMessage),
-             {},
-             alert,
-             "Warning",
-             quit,
-             1,
-             0x400000,
-             165},
+        Kind{"information", calling(&Box::information, usualHeight), calling(&Box::fittingInformation), info,
+             "Information", ok},
+        Kind{"warning", calling(&Box::warning, usualHeight), calling(&Box::fittingWarning), alert, "Warning",
+             close},
+        Kind{"critical", calling(&Box::critical, usualHeight), calling(&Box::fittingCritical), alert, "Error",
+             close},
+        Kind{"yes or no", calling(&Box::yesNoMessage, usualHeight), calling(&Box::fittingYesNoMessage),
+             question, "Question", yesNo, 0, 0x10000},
+        Kind{"save, discard, cancel", calling(&Box::saveDiscardCancelMessage, usualHeight),
+             calling(&Box::fittingSaveDiscardCancelMessage), question, "Question", save, 1, 0x400000},
+        Kind{"rotate", calling(&Box::rotateQuestion, usualHeight), calling(&Box::fittingRotateQuestion),
+             question, "Question", rotate, 0, 0},
+        Kind{"quit", calling(&Box::backgroundProcessingCancelMessage), Show(), alert, "Warning", quit, 1,
+             0x400000, 165},
     };
     return all;
 }

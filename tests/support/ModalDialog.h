@@ -25,3 +25,10 @@ bool whileOpen(Open open, Act act)
     open();
     return acted;
 }
+
+/// Returns the widget of a name in a dialog.
+template <class T>
+T* find(const QWidget& dialog, const char* name)
+{
+    return dialog.findChild<T*>(QString::fromLatin1(name));
+}

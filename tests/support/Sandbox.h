@@ -14,8 +14,7 @@ class OrdinaryUser
 public:
     OrdinaryUser();
     ~OrdinaryUser();
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+    Q_DISABLE_COPY(OrdinaryUser)
 
 private:
     bool m_changed = false;
@@ -29,8 +28,7 @@ public:
     /// \param options of the mount
     explicit SecondVolume(const char* options = "mode=777");
     ~SecondVolume();
-    SecondVolume(const SecondVolume&) = delete;
-    SecondVolume& operator=(const SecondVolume&) = delete;
+    Q_DISABLE_COPY(SecondVolume)
 
     QString path() const { return m_path; }
     /// Why it could not be mounted; empty on success.
