@@ -34,7 +34,9 @@ inline int countChanges(const QImage& before, const QImage& after, double least)
 {
     QHash<QPair<QRgb, QRgb>, int> changes;
     eachPixel(before, before.rect() & after.rect(), [&](const QPoint& at, QRgb was) {
-        ++changes[{was, after.pixel(at)}];
+        if (was != after.pixel(at)) {
+            ++changes[{was, after.pixel(at)}];
+        }
     });
     int count = 0;
     for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
