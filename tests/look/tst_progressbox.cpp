@@ -168,6 +168,7 @@ private Q_SLOTS:
             {{50, 90, 0, 10, 20}, 8}, // starts anew
             {{0, 0, 0, 0, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50}, 10},
             {{0, 50, 100}, 0},
+            {{0, 1, 2, 3}, 97},
         };
         for (const auto& [done, left] : rows) {
             TOLVAN_NAMESPACE::RemainingTime remaining;
@@ -177,6 +178,7 @@ private Q_SLOTS:
             QCOMPARE(remaining.seconds(), left);
             QCOMPARE(remaining.text(), left < 0    ? QString()
                                        : left == 0 ? QStringLiteral("A few seconds left")
+                                       : left > 60 ? QStringLiteral("About 2 minutes left")
                                                    : QStringLiteral("About 10 seconds left"));
         }
     }

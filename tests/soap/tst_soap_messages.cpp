@@ -115,7 +115,7 @@ private Q_SLOTS:
     {
         QtSoapMessage message, read;
         message.setMethod(text("a b><x/>"), text("urn:\"x"));
-        for (const char* name : {"", "1st", "a-b.9", "-a", "a:b", "z\u00D7", "_\u00C0"}) {
+        for (const char* name : {"", "1st", "a-b.9", "-a", "a:b", "z\u00B5", "_\u00C0"}) {
             message.addMethodArgument(QString::fromUtf8(name), QString(), 4);
         }
         auto* const item = value("i", 3);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QVERIFY2(read.setContent(message.toXmlString().toUtf8()), qPrintable(read.errorString()));
         QCOMPARE(described(read.method()),
                  text("a_x0020_b_x003e__x003c_x_x002f__x003e_{item:int=4 _x0031_st:int=4 a-b.9:int=4 "
-                      "_x002d_a:int=4 a_x003a_b:int=4 z_x00d7_:int=4 _\u00C0:int=4 i:int=3}"));
+                      "_x002d_a:int=4 a_x003a_b:int=4 z_x00b5_:int=4 _\u00C0:int=4 i:int=3}"));
         QCOMPARE(read.method().name().uri(), text("urn:\"x"));
         QCOMPARE(read.method()[7].id(), text("\"<&"));
     }
