@@ -13,8 +13,9 @@ struct Lens {
 /// The table "Module" of the calibration database, read where it lies in the library.
 ///
 /// The database is written by the library's own build and never changes while the program runs, so that its pages
-/// can be read in their order, without a database engine: https://www.sqlite.org/fileformat2.html. All functions
-/// belong to one thread, which need not be the main one.
+/// can be read in their order: https://www.sqlite.org/fileformat2.html. No database engine reads it, because the Qt that
+/// the Windows build uses has no SQL, and Qt's engine would need a copy of the file on disk. All functions belong to one
+/// thread, which need not be the main one.
 class LensTable
 {
 public:
