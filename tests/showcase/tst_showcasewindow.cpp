@@ -70,13 +70,12 @@ private Q_SLOTS:
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        QWidget* const list = window.focusWidget();
         for (int i = 0; i < page; ++i) {
-            QTest::keyClick(list, Qt::Key_Tab, Qt::ControlModifier);
+            QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier);
         }
         QCOMPARE(window.findChild<QListWidget*>()->currentRow(), page);
         QSet<const QWidget*> stops;
-        for (const QWidget* stop = list; !stops.contains(stop); stop = window.focusWidget()) {
+        for (const QWidget* stop = window.focusWidget(); !stops.contains(stop); stop = window.focusWidget()) {
             stops += stop;
             const QImage focused = pictureOf(window, stop);
             for (int part = 0; part < 3 && window.focusWidget() == stop; ++part) { // a date has three parts
@@ -89,6 +88,16 @@ private Q_SLOTS:
             const bool stop = control->isVisible() && control->isEnabled() && !control->focusProxy() &&
                               (control->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
             QVERIFY2(!stop || stops.contains(control), control->metaObject()->className());
+        }
+        if (auto* const tools = window.currentPage()->findChild<QButtonGroup*>()) {
+            tools->button(0)->click();
+            for (auto* const button : window.findChildren<QPushButton*>()) {
+                if (button->text() == QStringLiteral("Cancel")) { // is hidden by it
+                    button->setFocus();
+                    QTest::keyClick(button, Qt::Key_Space);
+                }
+            }
+            QVERIFY(window.currentPage()->isAncestorOf(window.focusWidget()));
         }
     }
 };

@@ -90,6 +90,7 @@ QWidget* ToolPanel::makeConfirm()
     add(QT_TR_NOOP("Accept"), "confirm/confirm_apply.svg", &ToolPanel::accepted);
     add(QT_TR_NOOP("Cancel"), "confirm/confirm_cancel.svg", &ToolPanel::cancelled);
     QPushButton* const reset = add("", "reset/reset.svg", &ToolPanel::resetRequested);
+    reset->setFixedWidth(40); // leaves the others room for their longest texts
     const char* const name = QT_TR_NOOP("Reset this tool");
     withText(withText(reset, name, "toolTip"), name, "accessibleName");
     return bar;

@@ -196,6 +196,9 @@ void Workplace::connectParts()
     const auto performs = [this](const char* activity) {
         return [this, activity] { performOnCurrent(QString::fromLatin1(activity)); };
     };
+    // The buttons will be hidden.
+    connect(m_panel, &ToolPanel::accepted, m_canvas, qOverload<>(&QWidget::setFocus));
+    connect(m_panel, &ToolPanel::cancelled, m_canvas, qOverload<>(&QWidget::setFocus));
     connect(m_panel, &ToolPanel::resetRequested, this, performs("CorrectionReset"));
     connect(m_panel, &ToolPanel::accepted, this, performs("CorrectionApplyed"));
     connect(m_panel, &ToolPanel::cancelled, this, performs("CorrectionCancel"));
