@@ -90,6 +90,7 @@ private Q_SLOTS:
         QCOMPARE(high.count(QLatin1Char('\n')),
                  normal.count(QLatin1Char('\n'))); // nothing but colours differs
         QVERIFY(!high.contains(QStringLiteral("#242528")) && !high.contains(QStringLiteral("(69, 184, 204")));
+        QVERIFY(high.count(QStringLiteral(": #ffffff")) > normal.count(QStringLiteral(": #ffffff"))); // texts
         setAppStyleSheetWithContrast(QString(), qApp, Contrast::Normal);
         QCOMPARE(qApp->styleSheet(), normal);
     }
