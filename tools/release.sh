@@ -161,6 +161,7 @@ pack_tar "$name-reference"
 
 tools/release/make_spdx.py "$name" "$version" "$output" "$work" THIRD-PARTY.md >"$work/$name.spdx"
 mv "$work/$name.spdx" "$output/"
+tools/release/check_spdx.py "$output/$name.spdx" "$output"
 (cd "$output" && find . -type f -printf '%P\n' | LC_ALL=C sort | xargs sha256sum >"$work/SHA256SUMS")
 mv "$work/SHA256SUMS" "$output/"
 echo "== Release $version of $(git rev-parse --short HEAD) in $output"

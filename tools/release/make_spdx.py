@@ -42,7 +42,7 @@ def print_files(folder, pattern):
 def main(name, version, files, contents, third_party):
     created = time.strftime("%Y-%m-%dT%H:%M:%SZ", time.gmtime(int(os.environ["SOURCE_DATE_EPOCH"])))
     print(f"SPDXVersion: SPDX-2.3\nDataLicense: CC0-1.0\nSPDXID: SPDXRef-DOCUMENT\nDocumentName: {name}")
-    print(f"DocumentNamespace: urn:tolvan:{name}\nCreator: Tool: make_spdx.py\nCreated: {created}")
+    print(f"DocumentNamespace: urn:tolvan:{name}\nCreator: Tool: make_spdx.py-{version}\nCreated: {created}")
     # Files stand before the first package: they belong to the document.
     print_files(pathlib.Path(files), "*")
     print_files(pathlib.Path(contents), f"{name}-*")
@@ -55,7 +55,7 @@ def main(name, version, files, contents, third_party):
         print(f"\nPackageName: {plain}\nSPDXID: {identifier(plain)}\nPackageDownloadLocation: NOASSERTION\nFilesAnalyzed: false")
         print(f"PackageLicenseConcluded: NOASSERTION\nPackageLicenseComments: <text>{licence}</text>")
         print("PackageLicenseDeclared: NOASSERTION\nPackageCopyrightText: NOASSERTION")
-        print(f"Relationship: SPDXRef-Package CONTAINS {identifier(plain)}")
+        print(f"Relationship: SPDXRef-Package DEPENDS_ON {identifier(plain)}")
 
 
 if __name__ == "__main__":
