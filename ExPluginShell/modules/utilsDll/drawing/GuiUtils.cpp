@@ -88,7 +88,8 @@ void moveWindowToScreenCenter(QWidget* window, QWidget* parent)
 
 double systemScalingFactor()
 {
-    static const float factor = static_cast<float>(Platform::logicalDotsPerInch()) / 96.0F;
+    static const float factor =
+        static_cast<float>(Platform::logicalDotsPerInch(QtVersion::dotsInRatio())) / 96.0F;
     return static_cast<double>(factor);
 }
 

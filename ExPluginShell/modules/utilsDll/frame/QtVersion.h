@@ -29,6 +29,13 @@ inline QRect screenGeometry(const QWidget& widget)
     return QApplication::desktop()->screenGeometry(&widget);
 }
 
+/// Returns the factor of the display's dots per inch that Qt puts into the ratio of device pixels. Qt 6 does
+/// so with all of them and reports 96; its ratio also has the factor of QT_SCALE_FACTOR.
+inline double dotsInRatio()
+{
+    return 1.0;
+}
+
 /// Returns whether QIcon::pixmap() multiplies the requested size by the application's ratio.
 inline bool iconsUseDevicePixels()
 {
@@ -49,6 +56,12 @@ inline QRect screenGeometry(const QWidget& widget)
     const QScreen* const beneath = QGuiApplication::screenAt(frame.center());
     const QScreen* const screen = beneath ? beneath : widget.screen();
     return screen ? screen->geometry() : QRect();
+}
+
+inline double dotsInRatio()
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1.0;
 }
 
 inline bool iconsUseDevicePixels()

@@ -10,11 +10,11 @@
 namespace TOLVAN_NAMESPACE::Platform
 {
 
-double logicalDotsPerInch()
+double logicalDotsPerInch(double inRatio)
 {
     constexpr double unscaled = 96.0;
     const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen ? screen->logicalDotsPerInchX() : unscaled;
+    return screen ? screen->logicalDotsPerInchX() * inRatio : unscaled;
 }
 
 bool usesHighContrast()

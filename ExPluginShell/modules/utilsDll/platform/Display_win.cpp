@@ -5,7 +5,7 @@
 namespace TOLVAN_NAMESPACE::Platform
 {
 
-double logicalDotsPerInch()
+double logicalDotsPerInch(double /*inRatio*/)
 {
     const HDC screen = GetDC(nullptr);
     if (!screen) {
