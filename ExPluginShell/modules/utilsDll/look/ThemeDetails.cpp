@@ -126,7 +126,7 @@ void paintDial(const QDial& dial, QPainter& painter)
     const int range = dial.maximum() - dial.minimum();
     const double done = range > 0 ? double(dial.sliderPosition() - dial.minimum()) / range : 0.0;
     const double part = dial.invertedAppearance() ? 1.0 - done : done;
-    const QPalette palette = dial.palette();
+    const QPalette& palette = dial.palette();
 
     painter.setRenderHint(QPainter::Antialiasing);
     const int start = qRound(scale.start * sixteenths);
