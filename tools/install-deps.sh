@@ -11,8 +11,9 @@ Usage: tools/install-deps.sh GROUP...
   windows  cross-build for 64-bit Windows and run the result under Wine
   sdk      make the Windows build of Qt (tools/win64/build-sdk.sh)
   bench    build and run the benchmark programs with their peers
-  lint     check the format and build with Clang
+  lint     check the format and the code, build with Clang
   fuzz     build and run the fuzz targets
+  coverage measure what the tests reach
   docs     make the API reference
   release  make the packages and archives (tools/release.sh) and try them
 TEXT
@@ -50,7 +51,10 @@ packages_of() {
         echo libbenchmark-dev libkdsoap-dev
         ;;
     lint | fuzz)
-        echo clang clang-format libclang-rt-14-dev shellcheck pkg-config
+        echo clang clang-format clang-tidy libclang-rt-14-dev shellcheck pkg-config
+        ;;
+    coverage)
+        echo gcovr
         ;;
     release)
         echo git dpkg-dev binutils file zip unzip xz-utils
