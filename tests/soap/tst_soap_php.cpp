@@ -29,8 +29,7 @@ private Q_SLOTS:
             m_port = probe.serverPort();
         }
         m_php.setProcessChannelMode(QProcess::MergedChannels);
-        m_php.start(
-            php, {text("-S"), text("127.0.0.1:%1").arg(m_port), QFINDTESTDATA("../peers/soap_service.php")});
+        m_php.start(php, {text("-S"), text("127.0.0.1:%1").arg(m_port), text(SOAP_SERVICE)});
         QVERIFY(m_php.waitForStarted());
         const auto answers = [this] {
             QTcpSocket socket;

@@ -36,6 +36,13 @@ inline double dotsInRatio()
     return 1.0;
 }
 
+/// Returns whether Qt drops a head of more than 100 lines and then waits for a body without end. It reports
+/// the head of such an answer with its status and without lines.
+constexpr bool dropsLongHeads()
+{
+    return false;
+}
+
 /// Returns whether QIcon::pixmap() multiplies the requested size by the application's ratio.
 inline bool iconsUseDevicePixels()
 {
@@ -62,6 +69,11 @@ inline double dotsInRatio()
 {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+constexpr bool dropsLongHeads()
+{
+    return true;
 }
 
 inline bool iconsUseDevicePixels()

@@ -1,5 +1,6 @@
 #include "SoapHttpExchange.h"
 
+#include "frame/QtVersion.h"
 #include "qtsoapsimpletype.h"
 #include "SoapTrace.h"
 
@@ -30,6 +31,13 @@ bool isTooLarge(const Head& head)
         bytes += line.first.size() + line.second.size();
     }
     return head.size() > headLines || bytes > headBytes;
+}
+
+QString headIsTooLarge()
+{
+    return QStringLiteral("The head of the answer has more than %1 lines or %2 KiB")
+        .arg(headLines)
+        .arg(headBytes / 1024);
 }
 
 } // namespace
@@ -77,6 +85,10 @@ void SoapHttpExchange::onHead()
 {
     limitReadAhead(); // for a start that had to wait, for a connection of the system say
     onProgress();
+    const Head head = m_reply->rawHeaderPairs();
+    if (isTooLarge(head) || (head.isEmpty() && QtVersion::dropsLongHeads())) {
+        giveUp(headIsTooLarge());
+    }
 }
 
 bool SoapHttpExchange::eventFilter(QObject* watched, QEvent* event)
@@ -88,9 +100,7 @@ bool SoapHttpExchange::eventFilter(QObject* watched, QEvent* event)
         const QMetaMethod method = m_reply->metaObject()->method(call->id());
         if (method.name() == "replyDownloadMetaData" && method.parameterType(0) == qMetaTypeId<Head>() &&
             isTooLarge(*static_cast<const Head*>(call->args()[1]))) {
-            m_reason = QStringLiteral("The head of the answer has more than %1 lines or %2 KiB")
-                           .arg(headLines)
-                           .arg(headBytes / 1024);
+            m_reason = headIsTooLarge();
             QMetaObject::invokeMethod(m_reply, "abort", Qt::QueuedConnection);
             return true;
         }

@@ -27,6 +27,7 @@ QtSoapHttpTransport::QtSoapHttpTransport(QObject* parent)
     , m_timeout(defaultTimeout)
 {
     m_url.setScheme(QStringLiteral("http"));
+    m_manager.setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy); // Qt 6 would follow
     connect(&m_manager, SIGNAL(finished(QNetworkReply*)), this, SLOT(readResponse(QNetworkReply*)));
     connect(&m_manager, SIGNAL(authenticationRequired(QNetworkReply*, QAuthenticator*)), this,
             SLOT(onAuthentication()));
