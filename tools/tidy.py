@@ -38,7 +38,7 @@ def groups_of(database):
 def check(options, source, more):
     command = ["clang-tidy", "--quiet", "--warnings-as-errors=*", *more, source, "--", *options, "-Wno-shadow"]
     done = subprocess.run(command, capture_output=True, text=True, check=False)
-    return done.returncode, done.stdout + (done.stderr if done.returncode else "")
+    return done.returncode, done.stdout or (done.stderr if done.returncode else "")
 
 
 def check_group(file, options, sources, more):

@@ -60,8 +60,8 @@ private:
             return field;
         };
         // A verdict on what a field holds, renewed while one types.
-        const auto addVerdict = [&](const char* title, QVector<QLineEdit*> fields,
-                                    std::function<QString()> verdict) {
+        const auto addVerdict = [&](const char* title, const QVector<QLineEdit*>& fields,
+                                    const std::function<QString()>& verdict) {
             QLabel* const label = addFact(form, title, verdict);
             for (QLineEdit* const field : fields) {
                 connect(field, &QLineEdit::textChanged, label, [=] { label->setText(verdict()); });

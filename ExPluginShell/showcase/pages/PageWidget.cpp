@@ -8,7 +8,7 @@ PageWidget::PageWidget(QWidget* parent)
     m_column->setSpacing(12);
 }
 
-void PageWidget::translate(const char* source, std::function<void(const QString&)> apply)
+void PageWidget::translate(const char* source, const std::function<void(const QString&)>& apply)
 {
     m_texts.push_back([=] { apply(QCoreApplication::translate(metaObject()->className(), source)); });
     m_texts.back()();

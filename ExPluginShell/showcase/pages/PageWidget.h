@@ -30,7 +30,7 @@ protected:
     /// Calls \a apply with the translation of \a source now and whenever the language changes. The context is
     /// the class of the page, so \a source is marked with QT_TR_NOOP; outside of this call, whose name the
     /// tools take for a translation of their own.
-    void translate(const char* source, std::function<void(const QString&)> apply);
+    void translate(const char* source, const std::function<void(const QString&)>& apply);
     /// Keeps a property of \a object, its text if none is named, in the language of the application.
     template <class Object>
     Object* withText(Object* object, const char* source, const char* property = "text");
