@@ -60,8 +60,9 @@ inline QRect screenGeometry(const QWidget& widget)
 {
     const QRect frame =
         widget.isWindow() ? widget.frameGeometry() : QRect(widget.mapToGlobal(QPoint()), widget.size());
-    const QScreen* const beneath = QGuiApplication::screenAt(frame.center());
-    const QScreen* const screen = beneath ? beneath : widget.screen();
+    QScreen* const own = widget.screen();
+    const QScreen* const beneath = own ? own->virtualSiblingAt(frame.center()) : nullptr;
+    const QScreen* const screen = beneath ? beneath : own;
     return screen ? screen->geometry() : QRect();
 }
 
