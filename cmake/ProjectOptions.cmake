@@ -39,8 +39,8 @@ if(UTILSDLL_SANITIZE)
 endif()
 
 # tolvan_precompile(TARGET [HEADERS <header>...] [FROM other]): precompiles Qt's headers for TARGET, or takes those
-# of another target with the same compiler settings. Sources still include what they use: the strict presets build
-# without this.
+# of another target with the same compiler settings. Sources still include what they use: "strict-clang" builds all but
+# the tests without this.
 function(tolvan_precompile target)
     cmake_parse_arguments(arg "" "FROM" "HEADERS" ${ARGN})
     if(NOT UTILSDLL_PRECOMPILE)
