@@ -19,3 +19,9 @@ if invented=$(find build/reference/html -name 'class*.html' -printf '%f\n' | gre
     printf 'reference: no class of the library: %s\n' "$invented" >&2
     exit 1
 fi
+
+# The same commit gives the same reference in any folder.
+if named=$(grep -rlF "$PWD" build/reference/html); then
+    printf 'reference: the page names the folder of the build: %s\n' "$named" >&2
+    exit 1
+fi
