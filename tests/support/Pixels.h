@@ -45,4 +45,17 @@ inline int countChanges(const QImage& before, const QImage& after, double least)
     return count;
 }
 
+/// A picture that was enlarged loses nothing when it is made small and large again.
+inline bool isBlurred(const QImage& image)
+{
+    const QImage drawn = image.convertToFormat(QImage::Format_RGB32);
+    const QImage blurred = drawn.scaled(drawn.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                               .scaled(drawn.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int most = 0;
+    eachPixel(drawn, drawn.rect(), [&](QPoint at, QRgb pixel) {
+        most = qMax(most, qAbs(qGreen(pixel) - qGreen(blurred.pixel(at))));
+    });
+    return most < 20;
+}
+
 } // namespace Pixels
