@@ -72,7 +72,7 @@ private Q_SLOTS:
     /// Above 4 GiB it stores sizes and offsets modulo 2^32, without ZIP64. The content is deflated in stored blocks.
     void archiveOfMacOs()
     {
-        const char* const code = R"(
+        const char* const code = R"(if True:
     import struct, sys, zlib
     blocks, block = 65600, 65535
     crc = 0
