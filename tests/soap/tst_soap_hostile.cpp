@@ -55,7 +55,9 @@ private Q_SLOTS:
         row("two bodies", envelope("</e:Body><e:Body>"), "two bodies");
         row("header behind the body", envelope("</e:Body><e:Header/><e:Body>"), "behind the body");
         row("something behind the envelope", envelope("") + "<a/>", "Line 1");
+        row("mismatched tags", envelope("<a></b>"), "Line 1");
         row("undeclared entity", envelope("<a>&uml;</a>"), "Line 1");
+        row("control character", envelope("<a>\x01</a>"), "Line 1");
         row("document type", "<!DOCTYPE e:Envelope>" + envelope(""), "document type");
         row("document type in UTF-16", wide("<!DOCTYPE a>" + envelope("")), "document type");
         row("an entity in it", "<!DOCTYPE l [<!ENTITY l 'lol'>]>" + envelope("<r>&l;</r>"), "document type");
@@ -67,6 +69,7 @@ private Q_SLOTS:
         row("257 levels", envelope(repeated("<a>", 255) + "x" + repeated("</a>", 255)),
             "more than 256 levels deep");
         row("100,000 levels, open", envelope(repeated("<a>", 100000)), "levels");
+        row("10,000 envelopes", repeated("<e:Envelope xmlns:e='" SOAPv11_ENVELOPE "'>", 10000), "levels");
         row("65 MiB", envelope("<a>" + QByteArray(65 << 20, 'x') + "</a>"), "larger than 64 MiB");
         row("60 MiB of text", envelope("<a>" + QByteArray(60 << 20, 'x') + "</a>"), "of memory");
         row("a tag of 100,000 attributes", envelope("<a" + numbered(" a", "=''", 100000) + "/>"),
@@ -81,6 +84,7 @@ private Q_SLOTS:
             "claims more than 16777216 items");
         row("array of 2^60 items", array("c:arrayType='x:int[1048576,1048576,1048576]'"), "claims more");
         row("array of six dimensions", array("c:arrayType='x:int[1,1,1,1,1,1]'"), "five dimensions");
+        row("array of negative size", array("c:arrayType='x:int[-1]'"), "not readable");
         row("array with half a bracket", array("c:arrayType='x:int]'"), "not readable");
         row("array open inside", array("c:arrayType='x:int[2,]'", "<i/>"), "inner dimension");
         row("open array of empty rows", array("c:arrayType='x:int[,0]'", "<i/>"), "no place");
