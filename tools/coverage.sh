@@ -17,7 +17,7 @@ source tools/setup.sh
 install_packages build test coverage
 build coverage
 find build/coverage -name '*.gcda' -delete
-run_tests coverage -j "$(nproc)" "$@"
+run_tests coverage "$@"
 echo "== Counting"
 # Threads count without locks, so that a count of a branch may be negative; such a line is left out.
 gcovr --root . --filter ExPluginShell/ --object-directory build/coverage --exclude-throw-branches --gcov-ignore-parse-errors \

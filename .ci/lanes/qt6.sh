@@ -5,4 +5,4 @@ set -euo pipefail
 source tools/setup.sh
 install_packages build test qt6
 build qt6
-run_tests qt6 -j "$(nproc)"
+run_tests qt6
