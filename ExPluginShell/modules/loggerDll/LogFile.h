@@ -15,8 +15,8 @@
 class CLogFile
 {
 public:
-    /// Size in bytes at which a file becomes an older one. Several processes may pass it by CheckSize each. If
-    /// the files can't be moved, twice this size is the limit.
+    /// Size in bytes at which a file becomes an older one. Several processes may pass it while one of them moves
+    /// the files, or if they can't be moved; twice this size is the limit.
     static constexpr std::uint64_t MaxSize = 5 * 1024 * 1024;
 
     /// Number of older files beside the current one: "name.1.log" (the newest) to "name.4.log".
